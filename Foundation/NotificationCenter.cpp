@@ -1,0 +1,14 @@
+#include "Foundation/NotificationCenter.h"
+
+namespace foundation {
+
+void NotificationCenter::post(std::string_view name, const void* object) {
+  const auto found = m_streams.find(name);
+  if (found != m_streams.end()) found->second.send({std::string(name), object});
+}
+
+Subscription NotificationCenter::observe(std::string_view name, Observer observer) {
+  return m_streams[std::string(name)].subscribe(std::move(observer));
+}
+
+}  // namespace foundation

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <functional>
+
+namespace quillmonger {
+
+/// One of the program's windows, built once and only shown and hidden from then on. Main thread.
+class Window {
+ public:
+  Window() = default;
+  Window(const Window&) = delete;
+  Window& operator=(const Window&) = delete;
+  virtual ~Window() = default;
+
+  [[nodiscard]] virtual bool isVisible() const = 0;
+  /// Places it in the middle of its screen: centred across, a little above the centre in height.
+  virtual void center() = 0;
+  /// Shows it and gives it the keyboard.
+  virtual void makeKeyAndOrderFront() = 0;
+  /// Takes it off the screen at once.
+  virtual void orderOut() = 0;
+};
+
+}  // namespace quillmonger
