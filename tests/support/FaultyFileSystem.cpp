@@ -86,6 +86,9 @@ FaultyFileSystem::State& stateOf(sqlite3_vfs* vfs) { return *static_cast<FaultyF
 int openFile(sqlite3_vfs* vfs, const char* path, sqlite3_file* f, int flags, int* openedFlags) {
   auto& state = stateOf(vfs);
   auto* file = new (f) File{{nullptr}, &state, path};
+  // What lies there before is taken to be on the disk.
+  const std::lock_guard lock(state.mutex);
+  if (path != nullptr) state.synchronized.try_emplace(path, contentOf(path));
   const int code = state.real->xOpen(state.real, path, real(f), flags, openedFlags);
   file->base.pMethods = real(f)->pMethods != nullptr ? &methods : nullptr;
   return code;
@@ -142,6 +145,7 @@ void FaultyFileSystem::writeStateAfterPowerCut(const std::string& folder) const 
   const std::lock_guard lock(m_state->mutex);
   for (const auto& [path, content] : m_state->synchronized) {
     const auto target = std::filesystem::path(folder) / std::filesystem::path(path).filename();
+    if (content.empty()) continue;
     std::ofstream(target, std::ios::binary) << content;
     std::filesystem::permissions(target, std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
   }

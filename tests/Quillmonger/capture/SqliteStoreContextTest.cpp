@@ -185,7 +185,6 @@ TEST_F(SqliteStoreContextTest, StoresTheBytesOnceWhenTwoRecordsShareThem) {
 }
 
 TEST_F(SqliteStoreContextTest, LeavesNothingOfDeletedContentInItsFiles) {
-  std::vector<Record> kept;
   for (int i = 0; i < 600; ++i) {
     const auto number = std::to_string(1000 + i);
     const auto record =
@@ -195,7 +194,7 @@ TEST_F(SqliteStoreContextTest, LeavesNothingOfDeletedContentInItsFiles) {
       ASSERT_TRUE(store->save());
     }
   }
-  store->insert(makeRecord(text(largeBytes(600'000, "secret-large"))));
+  store->insert(makeRecord(text(largeBytes(600'000, "secret-large")), 600));
   ASSERT_TRUE(store->save());
   ASSERT_TRUE(isInFiles("secret-1007"));
   ASSERT_TRUE(isInFiles("secret-large"));
@@ -206,6 +205,10 @@ TEST_F(SqliteStoreContextTest, LeavesNothingOfDeletedContentInItsFiles) {
   }
   all.clear();
   ASSERT_TRUE(store->save());
+  const Files between = files();
+  for (int i = 0; i < 600; ++i) {
+    EXPECT_EQ(isIn(between, "secret-" + std::to_string(1000 + i)), i % 3 == 0) << i;
+  }
   for (const auto& record : records())
     store->remove(record);
   ASSERT_TRUE(store->save());

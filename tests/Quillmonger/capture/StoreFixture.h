@@ -66,8 +66,9 @@ class StoreFixture : public testing::Test {
     }
     return files;
   }
-  [[nodiscard]] bool isInFiles(const std::string& secret) const {
-    for (const auto& [name, content] : files()) {
+  [[nodiscard]] bool isInFiles(const std::string& secret) const { return isIn(files(), secret); }
+  [[nodiscard]] static bool isIn(const Files& files, const std::string& secret) {
+    for (const auto& [name, content] : files) {
       if (content.find(secret) != std::string::npos) return true;
     }
     return false;
