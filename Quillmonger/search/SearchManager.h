@@ -1,0 +1,97 @@
+#pragma once
+
+#include <algorithm>
+#include <functional>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "Foundation/BackgroundQueue.h"
+#include "Foundation/RunLoop.h"
+#include "Quillmonger/search/SearchResult.h"
+#include "Quillmonger/search/SearchSettings.h"
+#include "Quillmonger/search/SearchSlices.h"
+#include "Quillmonger/search/Searchable.h"
+#include "Quillmonger/search/TextMatcher.h"
+
+namespace quillmonger {
+
+/// Finds the items that a term matches, beside the main thread, and puts them in the order in which they are shown:
+/// hits in the text first, then hits in the application's name, each newest first. `T` is a `Searchable`.
+/// Made and called on the main thread.
+template <typename T>
+class SearchManager final {
+ public:
+  using Completion = std::function<void(SearchResults<T>)>;
+
+  /// All outlive this object, and the work that the queue still does then.
+  SearchManager(foundation::BackgroundQueue& queue, foundation::RunLoop& runLoop, const defaults::Defaults& defaults)
+      : m_queue(queue), m_runLoop(runLoop), m_defaults(defaults) {}
+
+  /// Returns at once. `completion` runs once on the main queue, unless this object is destroyed before the work
+  /// begins. There is no failure, and no way to stop the work: a caller that has lost its interest drops the result.
+  /// `items` and `completion` are let go of on the main thread.
+  void search(SearchItems<T> items, std::string term, Completion completion) {
+    auto work = std::make_shared<Work>(
+        Work{std::move(items), std::move(term), searchOptions(m_defaults), std::move(completion), m_isAlive});
+    m_queue.async([work = std::move(work), &queue = m_queue, &runLoop = m_runLoop]() mutable {
+      SearchResults<T> results;
+      if (!work->isManagerAlive.expired()) results = found(*work, queue);
+      runLoop.post([work = std::move(work), results = std::move(results)] {
+        if (results) work->completion(results);
+      });
+    });
+  }
+
+ private:
+  using Found = std::vector<SearchResult<T>>;
+  struct Work {
+    SearchItems<T> items;
+    std::string term;
+    SearchOptions options;
+    Completion completion;
+    std::weak_ptr<const bool> isManagerAlive;
+  };
+
+  static SearchResults<T> found(const Work& work, foundation::BackgroundQueue& queue) {
+    const SearchSlices slices(work.items->size(), queue.activeProcessorCount());
+    std::vector<Found> parts(slices.count());
+    queue.concurrentPerform(slices.count(), [&](std::size_t index) {
+      const TextMatcher matcher(work.term, work.options);
+      for (std::size_t at = slices.start(index); at < slices.end(index); ++at) {
+        appendMatch((*work.items)[at], matcher, work.options, parts[index]);
+      }
+    });
+    auto results = std::make_shared<Found>(std::move(parts.front()));
+    for (std::size_t index = 1; index < parts.size(); ++index) {
+      std::move(parts[index].begin(), parts[index].end(), std::back_inserter(*results));
+    }
+    std::stable_sort(results->begin(), results->end(), isBefore);
+    return results;
+  }
+
+  static void appendMatch(const std::shared_ptr<T>& item, const TextMatcher& matcher, const SearchOptions& options,
+                          Found& results) {
+    if (matcher.isInert()) {
+      results.push_back({item, 0.0, std::nullopt});
+    } else if (const auto match = matcher.find(item->text().view)) {
+      results.push_back({item, 0.0, match});
+    } else if (options.includesAppName) {
+      const auto name = item->appName();
+      if (name && matcher.find(*name)) results.push_back({item, 1.0, std::nullopt});
+    }
+  }
+
+  static bool isBefore(const SearchResult<T>& first, const SearchResult<T>& second) {
+    if (first.score != second.score) return first.score < second.score;
+    return first.item->creationDate() > second.item->creationDate();
+  }
+
+  foundation::BackgroundQueue& m_queue;
+  foundation::RunLoop& m_runLoop;
+  const defaults::Defaults& m_defaults;
+  std::shared_ptr<const bool> m_isAlive = std::make_shared<const bool>(true);
+};
+
+}  // namespace quillmonger

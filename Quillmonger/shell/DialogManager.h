@@ -1,0 +1,34 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "Foundation/Url.h"
+#include "Quillmonger/shell/Alert.h"
+
+namespace quillmonger {
+
+/// Gives the text of a key in the user's language.
+using Texts = std::function<std::string(std::string_view key)>;
+/// Opens a URL with whatever the user opens such URLs with.
+using UrlOpener = std::function<void(const foundation::Url& url)>;
+
+/// Shows the alert for the failure that the program can't live with. Main thread.
+class DialogManager final {
+ public:
+  DialogManager(Alert& alert, Texts texts, UrlOpener openUrl, std::string supportAddress);
+
+  /// Returns when the user has answered.
+  void showGenericErrorAlert();
+
+ private:
+  void writeToSupport();
+
+  Alert& m_alert;
+  Texts m_texts;
+  UrlOpener m_openUrl;
+  std::string m_supportAddress;
+};
+
+}  // namespace quillmonger

@@ -1,0 +1,94 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "Foundation/BackgroundQueue.h"
+#include "Foundation/NotificationCenter.h"
+#include "Foundation/RunLoop.h"
+#include "Foundation/Subscription.h"
+#include "Foundation/Url.h"
+#include "KeyboardShortcuts/KeyboardShortcuts.h"
+#include "Quillmonger/capture/BundleProviding.h"
+#include "Quillmonger/capture/ClipboardManager.h"
+#include "Quillmonger/capture/Pasteboard.h"
+#include "Quillmonger/capture/StoreContext.h"
+#include "Quillmonger/history/ApplicationNaming.h"
+#include "Quillmonger/history/ClipboardViewModel.h"
+#include "Quillmonger/input/LocalEventMonitoring.h"
+#include "Quillmonger/input/PasteInjection.h"
+#include "Quillmonger/input/PasteKeyPosting.h"
+#include "Quillmonger/input/PermissionsManager.h"
+#include "Quillmonger/search/SearchManager.h"
+#include "Quillmonger/search/SearchViewModel.h"
+#include "Quillmonger/shell/WindowManager.h"
+#include "Quillmonger/shell/windows/Application.h"
+#include "Quillmonger/shell/windows/Window.h"
+
+namespace quillmonger {
+
+/// The root of the program: builds and owns the logic's long-lived objects, decides what a start consists of, and
+/// saves at the end. Main thread.
+class Quillmonger final {
+ public:
+  /// Everything that the logic needs of the desktop. All outlive the root.
+  struct Platform {
+    foundation::RunLoop& runLoop;
+    foundation::BackgroundQueue& backgroundQueue;
+    foundation::NotificationCenter& notificationCenter;
+    defaults::Defaults& defaults;
+    keyboardshortcuts::KeyboardShortcuts& shortcuts;
+    StoreContext& context;
+    Pasteboard& pasteboard;
+    BundleProviding& bundleProvider;
+    const ApplicationNaming& applicationNaming;
+    PasteKeyPosting& pasteKeys;
+    LocalEventMonitoring& eventMonitoring;
+    Application& application;
+    Window& gettingStartedWindow;
+    Window& appWindow;
+  };
+
+  /// Loads the history; starts nothing. The windows' content is made afterwards, from what this object owns.
+  explicit Quillmonger(const Platform& platform);
+  Quillmonger(const Quillmonger&) = delete;
+  Quillmonger& operator=(const Quillmonger&) = delete;
+
+  [[nodiscard]] ClipboardManager& clipboardManager() { return m_clipboardManager; }
+  [[nodiscard]] ClipboardViewModel& clipboardViewModel() { return m_clipboardViewModel; }
+  [[nodiscard]] SearchViewModel& searchViewModel() { return m_searchViewModel; }
+  [[nodiscard]] PermissionsManaging& permissionsManager() { return m_permissionsManager; }
+  [[nodiscard]] WindowManager& windowManager() { return m_windowManager; }
+
+  /// The program has been launched: shows the Getting Started guide while the setting `firstLaunch` is on, and starts
+  /// to watch the clipboard otherwise.
+  void start();
+  /// The guide's last step: the normal start, and the history on the screen. At most once, and only in a run whose
+  /// `start` showed the guide.
+  void finishGettingStarted();
+  /// The program lost the front.
+  void applicationDidResignActive();
+  /// The program is about to end: brings the store to the disk.
+  void saveChanges();
+  void quitApp();
+  /// URLs that the desktop handed to the program. None has an effect; each is told on standard output.
+  void openURLs(const std::vector<std::string>& urls);
+
+ private:
+  void startGettingStarted();
+  void startNormally();
+  void pasteSucceeded();
+
+  Platform m_platform;
+  PermissionsManager m_permissionsManager;
+  PasteInjection m_pasteInjection;
+  ClipboardManager m_clipboardManager;
+  SearchViewModel m_searchViewModel;
+  SearchManager<ClipboardItemViewModel> m_searchManager;
+  ClipboardViewModel m_clipboardViewModel;
+  WindowManager m_windowManager;
+  std::vector<foundation::Subscription> m_subscriptions;
+};
+
+}  // namespace quillmonger
