@@ -48,11 +48,13 @@ void QtApplication::activateIgnoringOtherApps() {
 
 // The window manager gives the focus back to the window that had it as soon as ours are gone.
 void QtApplication::hide() {
-  for (QWindow* window : QGuiApplication::topLevelWindows()) window->hide();
+  for (QWindow* window : QGuiApplication::topLevelWindows())
+    window->hide();
 }
 
 void QtApplication::terminate() {
-  QMetaObject::invokeMethod(qGuiApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(
+      qGuiApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
 }
 
 foundation::Subscription QtApplication::onDidResignActive(std::function<void()> receiver) {

@@ -21,7 +21,8 @@ void QtBackgroundQueue::async(std::function<void()> work) { m_pool.start(std::mo
 void QtBackgroundQueue::concurrentPerform(std::size_t count, const std::function<void(std::size_t)>& work) {
   std::atomic<std::size_t> next = 0;
   const auto perform = [&next, &work, count] {
-    for (std::size_t index = next++; index < count; index = next++) work(index);
+    for (std::size_t index = next++; index < count; index = next++)
+      work(index);
   };
   QSemaphore finished;
   int helpers = 0;

@@ -19,6 +19,29 @@ constexpr double heightAboveCentre = 0.4;  // of the free height, the part that 
 
 }  // namespace
 
+class QtQuickWindow::View final : public QQuickView {
+ public:
+  View(QQmlEngine& engine, quillmonger::WindowSystem& windowSystem)
+      : QQuickView(&engine, nullptr), m_windowSystem(windowSystem) {}
+
+  // The window manager must know the window before it is asked for the front.
+  void showInFront() {
+    m_comesToFront = !isExposed();
+    show();
+    raise();
+    if (isExposed()) m_windowSystem.bringToFront(winId());
+  }
+
+ private:
+  void exposeEvent(QExposeEvent* event) override {
+    QQuickView::exposeEvent(event);
+    if (isExposed() && std::exchange(m_comesToFront, false)) m_windowSystem.bringToFront(winId());
+  }
+
+  quillmonger::WindowSystem& m_windowSystem;
+  bool m_comesToFront = false;
+};
+
 QtQuickWindow::QtQuickWindow(Description description, quillmonger::WindowSystem& windowSystem)
     : m_description(std::move(description)), m_windowSystem(windowSystem) {}
 
@@ -26,7 +49,7 @@ QtQuickWindow::~QtQuickWindow() = default;
 
 void QtQuickWindow::prepare() {
   if (m_view) return;
-  m_view = std::make_unique<QQuickView>(&m_description.engine(), nullptr);
+  m_view = std::make_unique<View>(m_description.engine(), m_windowSystem);
   m_view->setTitle(m_description.title);
   m_view->setResizeMode(QQuickView::SizeRootObjectToView);
   applyKind();
@@ -34,7 +57,7 @@ void QtQuickWindow::prepare() {
   Content content = m_description.content();
   m_view->setInitialProperties(content.initialProperties);
   m_view->setSource(content.source);
-  if (m_view->rootObject() == nullptr) foundation::fatal("A window's content could not be loaded.");
+  if (m_view->rootObject() == nullptr) foundation::stopProcess("A window's content could not be loaded.");
   m_view->create();
   // Painting once while hidden loads fonts and pictures, which the first show would wait for.
   m_view->grabWindow();
@@ -74,10 +97,10 @@ void QtQuickWindow::makeKeyAndOrderFront() {
     m_view->rootObject()->setProperty("blendsTransparency", m_windowSystem.blendsTransparency());
     if (!isVisible()) m_windowSystem.keepOutOfTaskList(m_view->winId());
   }
-  m_view->show();
-  m_view->raise();
-  m_windowSystem.bringToFront(m_view->winId());
+  m_view->showInFront();
 }
+
+QQuickView* QtQuickWindow::view() const { return m_view.get(); }
 
 void QtQuickWindow::orderOut() {
   if (m_view) m_view->hide();

@@ -39,8 +39,8 @@ class QtQuickWindow final : public quillmonger::Window {
   QtQuickWindow(Description description, quillmonger::WindowSystem& windowSystem);
   ~QtQuickWindow() override;
 
-  /// Loads and paints the tree, unless that is done. Takes tens of milliseconds: called in an idle turn after the start,
-  /// it spares the first show that time. A tree that can't be loaded is a fault of the program and stops it.
+  /// Loads and paints the tree, unless that is done. Takes tens of milliseconds: called in an idle turn after the
+  /// start, it spares the first show that time. A tree that can't be loaded is a fault of the program and stops it.
   void prepare();
 
   [[nodiscard]] bool isVisible() const override;
@@ -50,14 +50,15 @@ class QtQuickWindow final : public quillmonger::Window {
   void orderOut() override;
 
   /// Null before `prepare`.
-  [[nodiscard]] QQuickView* view() const { return m_view.get(); }
+  [[nodiscard]] QQuickView* view() const;
 
  private:
+  class View;
   void applyKind();
 
   Description m_description;
   quillmonger::WindowSystem& m_windowSystem;
-  std::unique_ptr<QQuickView> m_view;
+  std::unique_ptr<View> m_view;
 };
 
 }  // namespace platform
