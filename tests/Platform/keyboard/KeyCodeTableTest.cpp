@@ -32,13 +32,14 @@ INSTANTIATE_TEST_SUITE_P(
                     Position{"V", 47, 9}, Position{"P", 25, 35}, Position{"Comma", 51, 43}, Position{"LeftAlt", 56, 58},
                     Position{"RightAlt", 100, 61}, Position{"KeypadEnter", 96, 76}, Position{"Up", 103, 126},
                     Position{"Down", 108, 125}, Position{"LeftSuper", 125, 55}),
-    [](const auto& info) { return std::string(info.param.name); });
+    [](const testing::TestParamInfo<Position>& position) { return std::string(position.param.name); });
 
 TEST(KeyCodeTable, GivesNoTwoKeysTheSameCode) {
   std::set<std::uint16_t> seen;
 
   for (std::uint32_t key = 0; key < 256; ++key) {
-    if (const auto code = virtualKeyCode(key)) EXPECT_TRUE(seen.insert(*code).second) << key;
+    const auto code = virtualKeyCode(key);
+    EXPECT_TRUE(!code || seen.insert(*code).second) << key;
   }
 }
 
