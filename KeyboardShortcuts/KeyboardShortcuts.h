@@ -3,12 +3,12 @@
 #include <cstdint>
 #include <functional>
 #include <map>
-#include <memory>
 #include <optional>
+#include <set>
 #include <string>
-#include <string_view>
 #include <vector>
 
+#include "Foundation/NotificationCenter.h"
 #include "Foundation/Stream.h"
 #include "Foundation/Subscription.h"
 #include "KeyboardShortcuts/HotKeyService.h"
@@ -20,13 +20,18 @@ class UserDefaults;
 
 namespace keyboardshortcuts {
 
-/// The user's global chords: each stored under a name, with handlers that run wherever the user is. Main thread.
+/// The user's global chords: each is stored under a name, and the handlers of its name run wherever the user is. Each
+/// name is declared before it is used. A chord that the service refuses stays dead, without a word. Main thread.
+///
+/// Posts "KeyboardShortcuts_shortcutByNameDidChange" when a stored chord was set, cleared or reset, with the raw value
+/// of its name under "name".
 class KeyboardShortcuts final {
  public:
   using Handler = std::function<void()>;
 
-  /// Both outlive this object.
-  KeyboardShortcuts(HotKeyService& service, defaults::UserDefaults& store);
+  /// All outlive this object.
+  KeyboardShortcuts(HotKeyService& service, defaults::UserDefaults& store,
+                    foundation::NotificationCenter& notificationCenter);
   KeyboardShortcuts(const KeyboardShortcuts&) = delete;
   KeyboardShortcuts& operator=(const KeyboardShortcuts&) = delete;
   ~KeyboardShortcuts();
@@ -41,26 +46,42 @@ class KeyboardShortcuts final {
   /// Puts the names back on their defaults.
   void reset(const std::vector<Name>& names);
 
-  /// Adds a handler of the chord's press or release, until the hold is gone.
+  /// Adds a handler of the press or release of the name's chord, until the hold is gone.
   foundation::Subscription onKeyDown(const Name& name, Handler handler);
   foundation::Subscription onKeyUp(const Name& name, Handler handler);
 
-  /// Takes the names' chords from the service, or gives them back to it.
+  /// Takes the names' chords from the service, or gives them to it.
   void disable(const std::vector<Name>& names);
   void enable(const std::vector<Name>& names);
 
-  /// Takes all chords from the service while false.
+  /// While false, the service has no chord at all.
   [[nodiscard]] bool isEnabled() const { return m_isEnabled; }
   void setEnabled(bool isEnabled);
-  /// While true, chords stay with the service and run no handler.
+  /// While true, the chords stay with the service and run no handler.
   [[nodiscard]] bool isPaused() const { return m_isPaused; }
   void setPaused(bool isPaused) { m_isPaused = isPaused; }
 
-  /// Tells the raw value of each name whose stored chord was set, cleared or reset.
-  [[nodiscard]] foundation::Stream<std::string>& shortcutByNameDidChange() { return m_shortcutByNameDidChange; }
-
  private:
-  foundation::Stream<std::string> m_shortcutByNameDidChange;
+  using Kind = HotKeyService::Kind;
+  struct Bound {
+    Name name;
+    std::map<Kind, foundation::Stream<Shortcut>> handlers;
+  };
+
+  foundation::Subscription addHandler(Kind kind, const Name& name, Handler handler);
+  void changed(const Name& name);
+  void updateHotKeys();
+  [[nodiscard]] std::vector<Shortcut> wantedShortcuts() const;
+  void registerHotKey(const Shortcut& shortcut);
+  void dispatch(std::uint32_t identifier, Kind kind);
+
+  HotKeyService& m_service;
+  defaults::UserDefaults& m_store;
+  foundation::NotificationCenter& m_notificationCenter;
+  std::map<std::string, Bound> m_bound;
+  std::set<std::string> m_disabled;
+  std::map<std::uint32_t, Shortcut> m_hotKeys;  // with the service
+  std::uint32_t m_lastHotKeyId = 0;
   bool m_isEnabled = true;
   bool m_isPaused = false;
 };

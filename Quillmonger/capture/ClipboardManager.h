@@ -40,7 +40,6 @@ class ClipboardManager final : public ClipboardManaging {
     foundation::NotificationCenter& notificationCenter;
     defaults::Defaults& defaults;
   };
-  static constexpr foundation::Seconds timerInterval{0.15};
 
   /// All collaborators outlive this object. What is on the pasteboard now is not captured later.
   explicit ClipboardManager(const Collaborators& collaborators);
@@ -58,18 +57,23 @@ class ClipboardManager final : public ClipboardManaging {
   using FoundRecord = foundation::Result<Record>;
 
   void followSettings();
+  void updateTypeFilter();
+  [[nodiscard]] TypeFilter typeFilter() const;
   void checkForChanges();
   void capture();
   [[nodiscard]] bool isIgnored(const BundleReference& source) const;
+  [[nodiscard]] Record makeItem(const PasteboardContent& content, BundleReference source) const;
   foundation::Outcome addItem(const Record& item, std::int64_t count);
   FoundRecord findDuplicate(const ClipboardItem& item);
   FoundRecord findModified(const ClipboardItem& item);
   void startWriting();
 
-  Collaborators m_to;
+  Collaborators m_with;
   foundation::Stream<Record> m_newItemPublisher;
   foundation::Stream<Record> m_duplicateItemPublisher;
   std::int64_t m_changeCount;
+  bool m_isListening = false;
+  // Which record was made of which content in this run, so that a content that says it modifies it can find it.
   std::map<std::int64_t, foundation::Uuid> m_itemLog;
   std::vector<foundation::Subscription> m_settings;
   foundation::Subscription m_listenTimer;

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -76,32 +78,32 @@ class ClipboardViewModel final : public BaseEventManager {
 
   void bindPipelines();
   void bindQuickPaste();
+  void post(std::function<void()> work);
+  [[nodiscard]] Item makeItem(const Record& record) const;
   void fetchItems();
   void addItem(const Record& record);
   void removeDuplicate(const Record& record);
   void applySearchResults(const Rows& rows);
   void cleanUpHistory();
   void perform(Action action, const KeyEvent& event);
+  void performSelect(const KeyEvent& event);
   void deleteSelectedItem();
   void selectNextItem();
   void selectPreviousItem();
   void pasteItem(int index, Invert invert);
-  [[nodiscard]] Item makeItem(const Record& record) const;
-  [[nodiscard]] std::size_t selectedRow() const;
-  void selectRow(std::size_t row);
+  [[nodiscard]] Item itemAt(std::size_t row) const;  // null beyond the rows
+  [[nodiscard]] std::optional<std::size_t> rowOf(const Item& item) const;
   void removeRow(std::size_t row);
-  void post(void (ClipboardViewModel::*operation)(const Record&), const Record& record);
 
-  Collaborators m_to;
+  Collaborators m_with;
   std::shared_ptr<const ClipboardItemViewModel::Services> m_itemServices;
   ItemList m_items;
   std::string m_searchTerm;
   foundation::Published<Rows> m_filteredItems;
   foundation::Published<Item> m_selectedItem;
   foundation::Published<bool> m_isOptionPressed{false};
-  // Expires with this object, and with each later search.
   std::shared_ptr<const bool> m_isAlive = std::make_shared<const bool>(true);
-  std::shared_ptr<const bool> m_latestSearch;
+  std::shared_ptr<const bool> m_latestSearch;  // expires with the next search, and with this object
   std::vector<foundation::Subscription> m_subscriptions;
 };
 

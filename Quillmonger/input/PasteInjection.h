@@ -29,8 +29,6 @@ class PasteInjection final : public PasteStep {
   void pasteIntoFrontmostApplication(const void* sender) override;
 
  private:
-  [[nodiscard]] bool isAllowed() const;
-
   PermissionsManaging& m_permissionsManager;
   PasteKeyPosting& m_pasteKeys;
   foundation::RunLoop& m_runLoop;

@@ -57,11 +57,8 @@ class SearchManager final {
   static SearchResults<T> found(const Work& work, foundation::BackgroundQueue& queue) {
     const SearchSlices slices(work.items->size(), queue.activeProcessorCount());
     std::vector<Found> parts(slices.count());
-    queue.concurrentPerform(slices.count(), [&](std::size_t index) {
-      const TextMatcher matcher(work.term, work.options);
-      for (std::size_t at = slices.start(index); at < slices.end(index); ++at) {
-        appendMatch((*work.items)[at], matcher, work.options, parts[index]);
-      }
+    queue.concurrentPerform(slices.count(), [&](std::size_t slice) {
+      parts[slice] = foundIn(work, slices.start(slice), slices.end(slice));
     });
     auto results = std::make_shared<Found>(std::move(parts.front()));
     for (std::size_t index = 1; index < parts.size(); ++index) {
@@ -71,16 +68,27 @@ class SearchManager final {
     return results;
   }
 
-  static void appendMatch(const std::shared_ptr<T>& item, const TextMatcher& matcher, const SearchOptions& options,
-                          Found& results) {
-    if (matcher.isInert()) {
-      results.push_back({item, 0.0, std::nullopt});
-    } else if (const auto match = matcher.find(item->text().view)) {
-      results.push_back({item, 0.0, match});
-    } else if (options.includesAppName) {
-      const auto name = item->appName();
-      if (name && matcher.find(*name)) results.push_back({item, 1.0, std::nullopt});
+  static Found foundIn(const Work& work, std::size_t start, std::size_t end) {
+    const bool isEachFound = isInert(work.term, work.options);
+    const auto matcher = isEachFound ? nullptr : makeTextMatcher(work.term, work.options);
+    Found results;
+    if (isEachFound) results.reserve(end - start);
+    for (std::size_t at = start; at < end; ++at) {
+      const auto& item = (*work.items)[at];
+      if (isEachFound) {
+        results.push_back({item, 0.0, std::nullopt});
+      } else if (const auto match = matcher->find(item->text().view)) {
+        results.push_back({item, 0.0, match});
+      } else if (work.options.includesAppName && isAppNameFound(*item, *matcher)) {
+        results.push_back({item, 1.0, std::nullopt});
+      }
     }
+    return results;
+  }
+
+  static bool isAppNameFound(const T& item, TextMatcher& matcher) {
+    const auto name = item.appName();
+    return name && matcher.find(*name);
   }
 
   static bool isBefore(const SearchResult<T>& first, const SearchResult<T>& second) {

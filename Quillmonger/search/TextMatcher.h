@@ -2,7 +2,6 @@
 
 #include <memory>
 #include <optional>
-#include <string>
 #include <string_view>
 
 #include "Quillmonger/search/SearchResult.h"
@@ -16,30 +15,23 @@ struct SearchOptions {
   bool includesAppName = true;
 };
 
-/// One search term, made ready to be looked for in many texts. For one thread at a time.
-class TextMatcher final {
+/// One search term, made ready to be looked for in many texts. One thread at a time.
+class TextMatcher {
  public:
-  /// `term` is made valid UTF-8 first.
-  TextMatcher(std::string_view term, const SearchOptions& options);
+  TextMatcher() = default;
   TextMatcher(const TextMatcher&) = delete;
   TextMatcher& operator=(const TextMatcher&) = delete;
-  ~TextMatcher();
+  virtual ~TextMatcher() = default;
 
-  /// Whether the term is empty, or an expression of anchors alone: every item matches it, and nothing is highlighted.
-  [[nodiscard]] bool isInert() const { return m_isInert; }
-
-  /// The first occurrence in `text`, which is valid UTF-8. An empty one counts as one character wide. Absent also for
-  /// an invalid expression, and for one that runs out of its time or memory on this text.
-  [[nodiscard]] std::optional<CharacterRange> find(std::string_view text) const;
-
- private:
-  class Engine;
-  class AsciiEngine;
-  class FoldingEngine;
-  class RegularExpressionEngine;
-
-  bool m_isInert;
-  std::unique_ptr<Engine> m_engine;
+  /// The first occurrence in `text`, which is valid UTF-8. An empty one counts as one character wide.
+  [[nodiscard]] virtual std::optional<CharacterRange> find(std::string_view text) = 0;
 };
+
+/// Whether every item matches the term, with nothing to highlight: an empty term, or an expression of nothing but "^"
+/// or nothing but "$".
+[[nodiscard]] bool isInert(std::string_view term, const SearchOptions& options);
+
+/// The matcher of a term that isn't inert.
+[[nodiscard]] std::unique_ptr<TextMatcher> makeTextMatcher(std::string_view term, const SearchOptions& options);
 
 }  // namespace quillmonger

@@ -49,7 +49,7 @@ class WindowManager final : public BaseEventManager {
  private:
   void presentAppWindow();
 
-  Collaborators m_to;
+  Collaborators m_with;
   std::shared_ptr<const bool> m_isAlive = std::make_shared<const bool>(true);
 };
 

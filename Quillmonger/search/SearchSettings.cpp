@@ -1,0 +1,14 @@
+#include "Quillmonger/search/SearchSettings.h"
+
+#include "Defaults/Defaults.h"
+#include "Quillmonger/settings/Keys.h"
+
+namespace quillmonger {
+
+SearchOptions searchOptions(const defaults::Defaults& defaults) {
+  return {.isRegularExpression = defaults[keys::searchRegex],
+          .isCaseSensitive = defaults[keys::searchCaseSensitive],
+          .includesAppName = defaults[keys::searchAppName]};
+}
+
+}  // namespace quillmonger

@@ -1,0 +1,136 @@
+// Measures how long the history window takes to be mapped and to be painted, as the user's eyes would: from outside, by
+// the pixels of the screen. It runs the words given to it as a command, or presses the global chord (--chord), and
+// prints the milliseconds from there to the window's map and to the first changed pixel in the middle of the screen.
+
+#include <X11/keysym.h>
+#include <poll.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <xcb/xcb.h>
+#include <xcb/xcb_keysyms.h>
+#include <xcb/xtest.h>
+
+#include <chrono>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <iostream>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using namespace std::chrono_literals;
+
+template <typename T>
+struct Free {
+  void operator()(T* pointer) const { std::free(pointer); }
+};
+template <typename T>
+using Reply = std::unique_ptr<T, Free<T>>;
+
+double milliseconds(Clock::duration time) { return std::chrono::duration<double, std::milli>(time).count(); }
+
+class Probe final {
+ public:
+  Probe() : m_connection(xcb_connect(nullptr, nullptr)) {
+    if (xcb_connection_has_error(m_connection) != 0) throw std::runtime_error("no display");
+    m_screen = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data;
+    const std::uint32_t mask = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
+    xcb_change_window_attributes(m_connection, m_screen->root, XCB_CW_EVENT_MASK, &mask);
+  }
+  Probe(const Probe&) = delete;
+  Probe& operator=(const Probe&) = delete;
+  ~Probe() { xcb_disconnect(m_connection); }
+
+  // A block in the middle of the screen, where the window opens.
+  std::vector<std::uint8_t> pixels() {
+    constexpr std::uint16_t side = 24;
+    const auto x = static_cast<std::int16_t>(m_screen->width_in_pixels / 2 - side / 2);
+    const auto y = static_cast<std::int16_t>(m_screen->height_in_pixels / 2 - side / 2);
+    const auto cookie =
+        xcb_get_image(m_connection, XCB_IMAGE_FORMAT_Z_PIXMAP, m_screen->root, x, y, side, side, ~0U);
+    const Reply<xcb_get_image_reply_t> reply(xcb_get_image_reply(m_connection, cookie, nullptr));
+    if (!reply) return {};
+    const auto* data = xcb_get_image_data(reply.get());
+    return {data, data + xcb_get_image_data_length(reply.get())};
+  }
+
+  bool sawMap() {
+    bool seen = false;
+    while (const Reply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection)}) {
+      seen = seen || (event->response_type & 0x7F) == XCB_MAP_NOTIFY;
+    }
+    return seen;
+  }
+
+  // Presses Shift+Super+V and returns the moment of V's release.
+  Clock::time_point pressChord() {
+    key(XK_Super_L, true);
+    key(XK_Shift_L, true);
+    key(XK_v, true);
+    key(XK_v, false);
+    sync();
+    const auto released = Clock::now();
+    key(XK_Shift_L, false);
+    key(XK_Super_L, false);
+    xcb_flush(m_connection);
+    return released;
+  }
+
+ private:
+  void key(xcb_keysym_t symbol, bool isDown) {
+    const std::unique_ptr<xcb_key_symbols_t, decltype(&xcb_key_symbols_free)> symbols(
+        xcb_key_symbols_alloc(m_connection), &xcb_key_symbols_free);
+    const Reply<xcb_keycode_t> codes(xcb_key_symbols_get_keycode(symbols.get(), symbol));
+    if (!codes) throw std::runtime_error("the keyboard has no such key");
+    xcb_test_fake_input(m_connection, isDown ? XCB_KEY_PRESS : XCB_KEY_RELEASE, *codes, XCB_CURRENT_TIME,
+                        m_screen->root, 0, 0, 0);
+  }
+  void sync() { const Reply<void> reply(xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr)); }
+
+  xcb_connection_t* m_connection;
+  xcb_screen_t* m_screen = nullptr;
+};
+
+pid_t start(char** command) {
+  const pid_t child = fork();
+  if (child == 0) {
+    execvp(command[0], command);
+    _exit(127);
+  }
+  return child;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc < 2) {
+    std::cerr << "usage: paint_probe --chord | COMMAND...\n";
+    return 2;
+  }
+  Probe probe;
+  const auto before = probe.pixels();
+  probe.sawMap();
+  const bool isChord = std::string(argv[1]) == "--chord";
+  auto begin = Clock::now();
+  if (isChord) {
+    begin = probe.pressChord();
+  } else {
+    start(argv + 1);
+  }
+  std::optional<double> mapped;
+  while (Clock::now() - begin < 10s) {
+    if (!mapped && probe.sawMap()) mapped = milliseconds(Clock::now() - begin);
+    if (probe.pixels() != before) {
+      std::cout << mapped.value_or(-1) << " " << milliseconds(Clock::now() - begin) << std::endl;
+      return 0;
+    }
+    poll(nullptr, 0, 1);
+  }
+  std::cerr << "nothing was painted within 10 s\n";
+  return 1;
+}

@@ -1,0 +1,212 @@
+"""Measures the running program in a private desktop and prints a table. Compare figures of one run only.
+
+    measure.py BUILD [--quick]
+"""
+
+import os
+import random
+import statistics
+import subprocess
+import sys
+import time
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "tests/endtoend"))
+from desktop import Desktop, wait_until  # noqa: E402
+
+BUILD = Path(sys.argv[1]).resolve()
+ROUNDS = 5 if "--quick" in sys.argv else 15
+REST_SECONDS = 10 if "--quick" in sys.argv else 30
+
+
+def median(values):
+    return statistics.median(values)
+
+
+def percentile95(values):
+    return sorted(values)[min(len(values) - 1, round(0.95 * len(values)))]
+
+
+def tell(what, *values):
+    print(f"{what:<66} " + "  ".join(values), flush=True)
+
+
+def spread(values, unit="ms"):
+    return f"median {median(values):8.1f} {unit}", f"95 % {percentile95(values):8.1f} {unit}"
+
+
+class Measured(Desktop):
+    """A desktop in which Quillmonger starts with a store of so many records."""
+
+    def __init__(self, records=0, smallest=200, largest=200):
+        super().__init__(BUILD)
+        self.contents = (records, smallest, largest)
+
+    def __enter__(self):
+        super().__enter__()
+        self.run(["xsetroot", "-solid", "#204060"])
+        for key, value in (("firstLaunch", "false"), ("persistHistory", "true"), ("historySize", "1000000")):
+            self.quillmonger("defaults", "write", key, value)
+        if self.contents[0]:
+            self.run([BUILD / "bin/fill_store", self.data, *map(str, self.contents)], seconds=600)
+        return self
+
+    # Starts the application and returns the milliseconds until its line that tells that it is ready.
+    def start_to_ready(self):
+        begin = time.perf_counter()
+        self.app = self.spawn([BUILD / "bin/quillmonger-app"], stdout=subprocess.PIPE)
+        while b"clipboard" not in (line := self.app.stdout.readline()):
+            if not line:
+                raise RuntimeError("the application ended")
+        ready = (time.perf_counter() - begin) * 1000
+        # Its later lines are read away so that the pipe never fills.
+        subprocess.Popen(["cat"], stdin=self.app.stdout, stdout=subprocess.DEVNULL)
+        return ready
+
+    def start_to_painted(self):
+        answer = self.run([BUILD / "bin/paint_probe", BUILD / "bin/quillmonger", "show"])
+        return float(answer.stdout.split()[1])
+
+    def quit(self):
+        self.quillmonger("quit")
+        wait_until(lambda: self.quillmonger("list", check=False).returncode != 0, "the end")
+        if self.app:
+            self.app.wait(10)
+            self.app = None
+
+    def process(self):
+        answer = self.run(["pgrep", "-f", f"^{BUILD}/bin/quillmonger-app"])
+        return int(answer.stdout.split()[0])
+
+    def memory(self, field="Pss"):
+        lines = Path(f"/proc/{self.process()}/smaps_rollup").read_text().splitlines()
+        return next(int(line.split()[1]) for line in lines if line.startswith(field + ":")) / 1024
+
+    def peak(self):
+        lines = Path(f"/proc/{self.process()}/status").read_text().splitlines()
+        return next(int(line.split()[1]) for line in lines if line.startswith("VmHWM:")) / 1024
+
+    def resident(self):
+        lines = Path(f"/proc/{self.process()}/status").read_text().splitlines()
+        return next(int(line.split()[1]) for line in lines if line.startswith("VmRSS:")) / 1024
+
+    def forget_peak(self):
+        Path(f"/proc/{self.process()}/clear_refs").write_text("5")
+
+    def wakeups(self):
+        total = 0
+        for task in Path(f"/proc/{self.process()}/task").iterdir():
+            for line in (task / "status").read_text().splitlines():
+                if line.startswith("voluntary_ctxt_switches"):
+                    total += int(line.split()[1])
+        return total
+
+    def cpu_seconds(self):
+        fields = Path(f"/proc/{self.process()}/stat").read_text().rsplit(")", 1)[1].split()
+        return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
+
+
+def settle(desktop, seconds=3.0):
+    time.sleep(seconds)
+
+
+def start():
+    print("\nStart")
+    for records in (0, 1000, 10000, 100000):
+        with Measured(records) as desktop:
+            ready, painted = [], []
+            for _ in range(ROUNDS):
+                ready.append(desktop.start_to_ready())
+                desktop.quit()
+            for _ in range(ROUNDS):
+                painted.append(desktop.start_to_painted())
+                desktop.quit()
+            tell(f"start to ready, {records} records", *spread(ready))
+            tell(f"start to painted window, {records} records", *spread(painted))
+
+
+def memory():
+    print("\nMemory (PSS)")
+    for records, smallest, largest in ((0, 0, 0), (1000, 200, 200), (1000, 10_000, 100_000), (1000, 65_536, 65_536),
+                                       (1000, 1_000_000, 1_000_000), (10_000, 200, 200), (100_000, 200, 200)):
+        with Measured(records, smallest, largest) as desktop:
+            desktop.start_to_ready()
+            settle(desktop)
+            before = desktop.memory()
+            desktop.quillmonger("show")
+            wait_until(desktop.history_window, "the window")
+            settle(desktop)
+            tell(f"{records} records of {smallest} to {largest} bytes",
+                 f"never shown {before:6.1f} MB", f"shown {desktop.memory():6.1f} MB")
+
+
+def rest():
+    print("\nAt rest")
+    with Measured(1000) as desktop:
+        desktop.start_to_ready()
+        settle(desktop, 5)
+        wakeups, cpu = desktop.wakeups(), desktop.cpu_seconds()
+        time.sleep(REST_SECONDS)
+        tell("wake-ups a second", f"{(desktop.wakeups() - wakeups) / REST_SECONDS:.2f}")
+        tell("part of a core", f"{(desktop.cpu_seconds() - cpu) / REST_SECONDS * 100:.3f} %")
+
+
+def window():
+    print("\nWindow")
+    for records in (10, 1000, 10_000, 100_000):
+        with Measured(records) as desktop:
+            desktop.start_to_ready()
+            settle(desktop)
+            by_chord, by_command = [], []
+            for _ in range(ROUNDS * 2):
+                by_chord.append(float(desktop.run([BUILD / "bin/paint_probe", "--chord"]).stdout.split()[1]))
+                desktop.press("Escape")
+                desktop.wait_hidden()
+                by_command.append(desktop.start_to_painted())
+                desktop.press("Escape")
+                desktop.wait_hidden()
+            tell(f"chord released to painted list, {records} records", *spread(by_chord))
+            tell(f"command to painted list, {records} records", *spread(by_command))
+
+
+def copies():
+    print("\nCopies")
+    with Measured(1000) as desktop:
+        desktop.start_to_ready()
+        settle(desktop)
+        delays = []
+        for number in range(ROUNDS * 2):
+            text = f"copy number {number} {random.random()}"
+            desktop.copy(text)
+            begin = time.perf_counter()
+            wait_until(lambda: desktop.texts()[0] == text, "the record", step=0.001)
+            delays.append((time.perf_counter() - begin) * 1000)
+        tell("copy to its record", *spread(delays))
+
+    for what, target, size in (("50 MB of text", None, 50_000_000), ("a picture of 34 MB", "image/png", 34_000_000)):
+        with Measured(0) as desktop:
+            desktop.start_to_ready()
+            settle(desktop)
+            data = os.urandom(size) if target else (b"0123456789abcde\n" * (size // 16 + 1))[:size]
+            rest_memory = desktop.resident()
+            desktop.forget_peak()
+            begin = time.perf_counter()
+            desktop.copy(data, target)
+
+            def on_disk():
+                return sum(file.stat().st_size for file in desktop.data.iterdir()) >= size
+            wait_until(lambda: desktop.records() and desktop.records()[0]["size"] == size, "the record", 60, 0.005)
+            listed = time.perf_counter() - begin
+            wait_until(on_disk, "the bytes on the disk", 60, 0.005)
+            kept = time.perf_counter() - begin
+            settle(desktop)
+            tell(what, f"listed after {listed:.2f} s", f"on the disk after {kept:.2f} s",
+                 f"peak {(desktop.peak() - rest_memory) / (size / 1e6):.2f} times its size above rest",
+                 f"afterwards {desktop.resident() - rest_memory:+.0f} MB")
+
+
+if __name__ == "__main__":
+    chosen = [word for word in sys.argv[2:] if not word.startswith("--")]
+    for part in (start, window, memory, rest, copies):
+        if not chosen or part.__name__ in chosen:
+            part()

@@ -1,0 +1,213 @@
+#include "Quillmonger/search/SearchManager.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "Quillmonger/settings/Keys.h"
+#include "tests/support/InlineBackgroundQueue.h"
+#include "tests/support/TestDefaults.h"
+#include "tests/support/VirtualRunLoop.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+using quillmonger::CharacterRange;
+using quillmonger::SearchManager;
+using quillmonger::SearchResults;
+using quillmonger::SharedText;
+namespace keys = quillmonger::keys;
+
+class Note final : public quillmonger::Searchable {
+ public:
+  Note(std::string text, std::chrono::seconds age, std::optional<std::string> appName = {})
+      : m_text(std::move(text)), m_appName(std::move(appName)), m_age(age) {}
+
+  [[nodiscard]] SharedText text() const override { return {nullptr, m_text}; }
+  [[nodiscard]] std::optional<std::string> appName() const override { return m_appName; }
+  [[nodiscard]] foundation::Date creationDate() const override {
+    return testsupport::VirtualRunLoop::startDate() - m_age;
+  }
+
+ private:
+  std::string m_text;
+  std::optional<std::string> m_appName;
+  std::chrono::seconds m_age;
+};
+
+using Notes = std::vector<std::shared_ptr<Note>>;
+
+class SearchManagerTest : public testing::Test {
+ protected:
+  void search(const std::string& term) {
+    manager->search(std::make_shared<const Notes>(notes), term,
+                    [this](const SearchResults<Note>& found) { results = found; });
+  }
+  std::vector<std::string> find(const std::string& term) {
+    search(term);
+    queue.run();
+    runLoop.runPosted();
+    std::vector<std::string> texts;
+    for (const auto& result : *results)
+      texts.emplace_back(result.item->text().view);
+    return texts;
+  }
+  void add(std::string text, std::chrono::seconds age, std::optional<std::string> appName = {}) {
+    notes.push_back(std::make_shared<Note>(std::move(text), age, std::move(appName)));
+  }
+
+  using Texts = std::vector<std::string>;
+  testsupport::VirtualRunLoop runLoop;
+  testsupport::InlineBackgroundQueue queue;
+  testsupport::TestDefaults settings;
+  std::optional<SearchManager<Note>> manager{std::in_place, queue, runLoop, settings.defaults};
+  Notes notes;
+  SearchResults<Note> results;
+};
+
+TEST_F(SearchManagerTest, ReturnsAllItemsNewestFirstForAnEmptyTerm) {
+  add("middle", 2s);
+  add("oldest", 3s);
+  add("newest", 1s);
+
+  EXPECT_EQ(find(""), (Texts{"newest", "middle", "oldest"}));
+  EXPECT_EQ(results->front().score, 0.0);
+  EXPECT_EQ(results->front().match, std::nullopt);
+}
+
+TEST_F(SearchManagerTest, GivesAnEmptyListForAnEmptyHistory) { EXPECT_EQ(find("a"), Texts{}); }
+
+TEST_F(SearchManagerTest, HighlightsTheFirstHit) {
+  add("xABCy", 1s);
+
+  find("abc");
+
+  EXPECT_EQ(results->front().match, (CharacterRange{1, 3}));
+}
+
+TEST_F(SearchManagerTest, HeedsTheSettingForCase) {
+  add("xABCy", 1s);
+
+  settings.defaults.set(keys::searchCaseSensitive, true);
+
+  EXPECT_EQ(find("abc"), Texts{});
+}
+
+TEST_F(SearchManagerTest, HeedsTheSettingForExpressions) {
+  add("abc", 1s);
+  add("a.c", 2s);
+  EXPECT_EQ(find("a.c"), Texts{"a.c"});
+
+  settings.defaults.set(keys::searchRegex, true);
+
+  EXPECT_EQ(find("a.c"), (Texts{"abc", "a.c"}));
+}
+
+TEST_F(SearchManagerTest, FindsNothingForAnInvalidExpression) {
+  settings.defaults.set(keys::searchRegex, true);
+  add("(", 1s, "(");
+
+  EXPECT_EQ(find("("), Texts{});
+}
+
+TEST_F(SearchManagerTest, ReturnsEveryItemForAnAnchorAlone) {
+  settings.defaults.set(keys::searchRegex, true);
+  add("a", 1s);
+  add("b", 2s);
+
+  EXPECT_EQ(find("^^"), (Texts{"a", "b"}));
+  EXPECT_EQ(find("^b"), Texts{"b"});
+}
+
+TEST_F(SearchManagerTest, PutsHitsInTheApplicationNameAfterHitsInTheText) {
+  add("page", 1s, "Safari");
+  add("on safari", 3s, "Files");
+  add("other", 2s, "Files");
+
+  EXPECT_EQ(find("Safari"), (Texts{"on safari", "page"}));
+  EXPECT_EQ(results->at(0).score, 0.0);
+  EXPECT_EQ(results->at(1).score, 1.0);
+  EXPECT_EQ(results->at(1).match, std::nullopt);
+}
+
+TEST_F(SearchManagerTest, LeavesTheApplicationNameOutWhenTheSettingSaysSo) {
+  settings.defaults.set(keys::searchAppName, false);
+  add("page", 1s, "Safari");
+
+  EXPECT_EQ(find("Safari"), Texts{});
+}
+
+TEST_F(SearchManagerTest, FindsAnItemWithoutTextByItsApplicationName) {
+  add("", 1s, "Painter");
+
+  EXPECT_EQ(find("paint"), Texts{""});
+}
+
+TEST_F(SearchManagerTest, KeepsTheOrderOfItemsOfTheSameMoment) {
+  add("first", 1s);
+  add("second", 1s);
+  add("third", 1s);
+
+  EXPECT_EQ(find(""), (Texts{"first", "second", "third"}));
+}
+
+TEST_F(SearchManagerTest, GivesAShortHistoryToOneWorkerAndALongOneToTwo) {
+  for (int count = 0; count < 499; ++count)
+    add("x", 1s);
+  find("x");
+  add("x", 1s);
+  find("x");
+
+  EXPECT_EQ(queue.performedCounts(), (std::vector<std::size_t>{1, 2}));
+  EXPECT_EQ(results->size(), 500U);
+}
+
+TEST_F(SearchManagerTest, PutsTheFindsOfBothWorkersIntoOneOrder) {
+  for (int age = 1; age <= 501; ++age)
+    add(std::to_string(age), std::chrono::seconds(502 - age));
+
+  const auto found = find("");
+
+  ASSERT_EQ(found.size(), 501U);
+  EXPECT_EQ(found.front(), "501");
+  EXPECT_EQ(found.back(), "1");
+}
+
+TEST_F(SearchManagerTest, ReturnsAtOnceAndCompletesOnTheMainQueue) {
+  add("a", 1s);
+
+  search("a");
+  EXPECT_EQ(results, nullptr);
+  queue.run();
+  EXPECT_EQ(results, nullptr);
+  runLoop.runPosted();
+
+  EXPECT_NE(results, nullptr);
+}
+
+TEST_F(SearchManagerTest, CompletesNothingOnceItIsGoneBeforeTheWorkBegins) {
+  add("a", 1s);
+  search("a");
+
+  manager.reset();
+  queue.run();
+  runLoop.runPosted();
+
+  EXPECT_EQ(results, nullptr);
+}
+
+TEST_F(SearchManagerTest, CompletesWhenItIsGoneAfterTheWorkBegan) {
+  add("a", 1s);
+  search("a");
+  queue.run();
+
+  manager.reset();
+  runLoop.runPosted();
+
+  EXPECT_NE(results, nullptr);
+}
+
+}  // namespace

@@ -1,0 +1,342 @@
+"""The whole road of a copy: made in one real program, kept, found by typing, pasted with Return into another."""
+
+import os
+import signal
+import unittest
+
+from desktop import Desktop, wait_until
+
+BUILD = os.environ["QUILLMONGER_BUILD"]
+
+
+class RoadCase(unittest.TestCase):
+    def setUp(self):
+        self.desktop = Desktop(BUILD)
+        self.desktop.__enter__()
+        self.addCleanup(self.desktop.__exit__)
+
+    # ---- real programs
+
+    def open_gtk_editor(self, text=""):
+        return self._open_editor(["mousepad"], "gtk.txt", text)
+
+    def open_qt_editor(self, text=""):
+        return self._open_editor(["featherpad", "-s"], "qt.txt", text)
+
+    def _open_editor(self, command, name, text):
+        file = self.desktop.home / name
+        file.write_text(text)
+        self.desktop.spawn([*command, file])
+        window = self.desktop.window(name)
+        self.desktop.focus(window)
+        return file, window
+
+    def open_terminal(self):
+        """A terminal whose input goes to a file."""
+        file = self.desktop.home / "terminal.txt"
+        self.desktop.spawn(["stterm", "-t", "terminal", "-e", "sh", "-c", f"cat > {file}"])
+        window = self.desktop.window("^terminal$")
+        self.desktop.focus(window)
+        wait_until(file.exists, "the terminal's shell")
+        return file, window
+
+    def save_until(self, file, expected):
+        """Saves in the editor in front until the file holds `expected`: the paste arrives when the editor is ready."""
+        def saved():
+            self.desktop.press("ctrl+s")
+            return file.read_text().rstrip("\n") == expected
+        wait_until(saved, f"the text in {file.name}", step=0.1)
+
+    def paste_from_history(self, term):
+        self.desktop.open_history()
+        self.desktop.search(term)
+        self.desktop.press("Return")
+        self.desktop.wait_hidden()
+
+
+class TheWholeRoad(RoadCase):
+    def test_a_copy_of_a_clipboard_client_goes_into_a_gtk_editor(self):
+        self.desktop.start_app()
+        self.desktop.copy("a needle in the history")
+        self.desktop.wait_for_text("a needle in the history")
+        self.desktop.copy("some hay")
+        self.desktop.wait_for_text("some hay")
+        file, window = self.open_gtk_editor()
+
+        self.paste_from_history("needle")
+
+        wait_until(lambda: self.desktop.focused() == window, "the editor to have the focus again")
+        self.save_until(file, "a needle in the history")
+
+    def test_a_copy_of_a_gtk_editor_goes_into_a_qt_editor(self):
+        self.desktop.start_app()
+        self.open_gtk_editor("gtk says grüß dich")
+        self.desktop.press("ctrl+a", "ctrl+c")
+        record = self.desktop.wait_for_text("gtk says grüß dich")
+        self.assertIn("mousepad", record["sourceAppBundleIdentifier"].lower())
+        self.desktop.copy("something newer")
+        self.desktop.wait_for_text("something newer")
+        file, _ = self.open_qt_editor()
+
+        self.paste_from_history("GRÜSS")
+
+        self.save_until(file, "gtk says grüß dich")
+
+    def test_a_copy_of_a_qt_editor_goes_into_a_terminal(self):
+        self.desktop.start_app()
+        self.open_qt_editor("qt says مرحبا")
+        self.desktop.press("ctrl+a", "ctrl+c")
+        record = self.desktop.wait_for_text("qt says مرحبا")
+        self.assertIn("featherpad", record["sourceAppBundleIdentifier"].lower())
+        file, _ = self.open_terminal()
+
+        self.paste_from_history("qt says")
+        self.desktop.press("Return", "ctrl+d")
+
+        wait_until(lambda: file.read_text() == "qt says مرحبا\n", "the text in the terminal")
+
+    def test_a_copy_of_a_terminal_goes_into_a_gtk_editor(self):
+        self.desktop.start_app()
+        self.desktop.spawn(["xterm", "-xrm", "XTerm*selectToClipboard: true", "-T", "source", "-e",
+                            "sh", "-c", "printf terminal-word; sleep 600"])
+        window = self.desktop.window("^source$")
+        self.desktop.focus(window)
+        def selected():
+            self.desktop.run(["xdotool", "mousemove", "--window", window, "20", "10", "click", "--repeat", "2", "1"])
+            return "terminal-word" in self.desktop.texts()
+        wait_until(selected, "the terminal's selection in the history", step=0.3)
+        file, _ = self.open_gtk_editor()
+
+        self.paste_from_history("terminal-w")
+
+        self.save_until(file, "terminal-word")
+
+    def test_the_terminal_keeps_the_focus_and_the_copy_after_escape(self):
+        self.desktop.start_app()
+        self.desktop.copy("untouched")
+        self.desktop.wait_for_text("untouched")
+        file, window = self.open_terminal()
+
+        self.desktop.open_history()
+        self.desktop.press("Escape")
+        self.desktop.wait_hidden()
+
+        wait_until(lambda: self.desktop.focused() == window, "the terminal to have the focus again")
+        self.desktop.type("typed")
+        self.desktop.press("Return", "ctrl+d")
+        wait_until(lambda: file.read_text() == "typed\n", "what was typed in the terminal")
+        self.assertEqual(self.desktop.clipboard(), b"untouched")
+
+    def test_the_arrows_choose_the_row_that_return_pastes(self):
+        self.desktop.start_app()
+        for text in ("first", "second", "third"):
+            self.desktop.copy(text)
+            self.desktop.wait_for_text(text)
+        file, _ = self.open_gtk_editor()
+
+        self.desktop.open_history()
+        self.desktop.press("Down", "Down", "Up", "Return")
+        self.desktop.wait_hidden()
+
+        self.save_until(file, "second")
+
+    def test_the_chord_shows_and_hides(self):
+        self.desktop.start_app()
+        self.desktop.open_history()
+
+        self.desktop.run(["xdotool", "key", "shift+super+v"])
+
+        self.desktop.wait_hidden()
+
+    def test_another_window_in_front_closes_the_history(self):
+        self.desktop.start_app()
+        _, window = self.open_terminal()
+        self.desktop.open_history()
+
+        self.desktop.run(["xdotool", "windowactivate", window])
+
+        self.desktop.wait_hidden()
+
+
+class WhatIsKept(RoadCase):
+    def test_every_type_of_a_rich_copy_with_its_source(self):
+        self.desktop.start_app()
+        self.open_qt_editor("plain")
+        self.desktop.press("ctrl+a", "ctrl+c")
+
+        record = self.desktop.wait_for_text("plain")
+
+        self.assertIn("public.utf8-plain-text", record["types"])
+
+    def test_the_same_copy_twice_is_one_row_on_top(self):
+        self.desktop.start_app()
+        for text in ("twice", "between", "twice"):
+            self.desktop.copy(text)
+            wait_until(lambda text=text: self.desktop.texts()[:1] == [text], "the copy on top")
+
+        self.assertEqual(self.desktop.texts(), ["twice", "between"])
+
+    def test_a_password_is_never_kept(self):
+        self.desktop.start_app()
+        self.desktop.copy("secret", target="x-kde-passwordManagerHint")
+        self.desktop.copy("open")
+
+        self.desktop.wait_for_text("open")
+
+        self.assertEqual(self.desktop.texts(), ["open"])
+
+    def test_nothing_while_incognito_is_on(self):
+        self.desktop.start_app()
+        self.desktop.quillmonger("defaults", "write", "isIncognitoMode", "true")
+        self.desktop.copy("unseen")
+        wait_until(lambda: self.desktop.clipboard() == b"unseen", "the copy on the clipboard")
+        self.desktop.quillmonger("defaults", "write", "isIncognitoMode", "false")
+        self.desktop.copy("seen")
+
+        self.desktop.wait_for_text("seen")
+
+        self.assertEqual(self.desktop.texts(), ["seen"])
+
+    def test_everything_after_a_restart(self):
+        self.desktop.start_app()
+        self.desktop.copy("before the restart")
+        self.desktop.wait_for_text("before the restart")
+
+        self.desktop.stop_app()
+        self.assertEqual(self.desktop.app.returncode, 0)
+        self.desktop.start_app()
+
+        self.assertEqual(self.desktop.texts(), ["before the restart"])
+
+    def test_everything_a_second_old_after_a_kill(self):
+        self.desktop.start_app()
+        for number in range(20):
+            self.desktop.copy(f"copy {number}")
+            self.desktop.wait_for_text(f"copy {number}")
+        wait_until(lambda: b"copy 19" in b"".join(file.read_bytes() for file in self.desktop.data.iterdir()),
+                   "the last copy in the store's files", 1.5)
+
+        self.desktop.stop_app(signal.SIGKILL)
+        self.desktop.start_app()
+
+        self.assertEqual(self.desktop.texts(), [f"copy {number}" for number in reversed(range(20))])
+
+    def test_nothing_of_the_last_run_without_persistent_history(self):
+        self.desktop.start_app()
+        self.desktop.copy("of the last run")
+        self.desktop.wait_for_text("of the last run")
+        self.desktop.quillmonger("defaults", "write", "persistHistory", "false")
+        self.desktop.stop_app()
+
+        with open(self.desktop.log, "ab") as log:
+            self.desktop.app = self.desktop.spawn([self.desktop.build / "bin/quillmonger-app"], stdout=log, stderr=log)
+        wait_until(self.desktop.answers, "the application's start")
+
+        self.assertEqual(self.desktop.texts(), [])
+
+    def test_a_large_copy_whole(self):
+        self.desktop.start_app()
+        text = "0123456789abcde\n" * (20 * 1024 * 1024 // 16)
+        self.desktop.copy(text)
+        record = wait_until(lambda: next(iter(self.desktop.records()), None), "the large copy", 20)
+        self.assertEqual(record["size"], len(text))
+        self.desktop.copy("small")
+        self.desktop.wait_for_text("small")
+
+        self.desktop.open_history()
+        self.desktop.press("Down", "Return")
+        self.desktop.wait_hidden()
+
+        wait_until(lambda: len(self.desktop.clipboard()) == len(text), "the large copy on the clipboard", 20)
+        self.assertEqual(self.desktop.clipboard(), text.encode())
+
+    def test_the_clipboard_after_its_owner_has_quit(self):
+        self.desktop.start_app()
+        owner = self.desktop.spawn(["xclip", "-selection", "clipboard", "-in", "-quiet", "/dev/stdin"],
+                                   stdin=open(self._file("left behind")))
+        self.desktop.wait_for_text("left behind")
+
+        owner.kill()
+        owner.wait()
+
+        wait_until(lambda: self.desktop.clipboard() == b"left behind", "the content offered on")
+        self.assertEqual(self.desktop.texts(), ["left behind"])
+
+    def _file(self, text):
+        file = self.desktop.home / "source.txt"
+        file.write_text(text)
+        return file
+
+
+class TheStart(RoadCase):
+    def test_a_first_start_shows_the_guide_and_captures_nothing_until_it_ends(self):
+        self.desktop.start_app(first_launch=True)
+        guide = self.desktop.window("Getting Started")
+        self.desktop.copy("during the guide")
+        wait_until(lambda: self.desktop.clipboard() == b"during the guide", "the copy on the clipboard")
+        self.assertEqual(self.desktop.texts(), [])
+
+        self.desktop.focus(guide)
+        self.desktop.press("Return")
+
+        wait_until(self.desktop.history_window, "the history after the guide")
+        self.desktop.wait_for_text("during the guide")
+        self.assertEqual(self.desktop.quillmonger("defaults", "read", "firstLaunch").stdout.strip(), "false")
+
+    def test_a_second_start_shows_the_history_of_the_first(self):
+        self.desktop.start_app()
+
+        self.desktop.quillmonger("show")
+
+        wait_until(self.desktop.history_window, "the history window")
+
+    def test_toggle_shows_and_hides(self):
+        self.desktop.start_app()
+
+        self.desktop.quillmonger("toggle")
+        wait_until(self.desktop.history_window, "the history window")
+        self.desktop.quillmonger("toggle")
+
+        self.desktop.wait_hidden()
+
+    def test_quit_saves_and_ends(self):
+        self.desktop.start_app()
+        self.desktop.copy("saved at the end")
+        self.desktop.wait_for_text("saved at the end")
+
+        self.desktop.quillmonger("quit")
+        self.desktop.app.wait(10)
+
+        self.assertEqual(self.desktop.app.returncode, 0)
+        self.desktop.start_app()
+        self.assertEqual(self.desktop.texts(), ["saved at the end"])
+
+    def test_a_store_that_is_no_store_gives_the_alert_then_the_stop_and_is_left_alone(self):
+        self.desktop.quillmonger("defaults", "write", "firstLaunch", "false")
+        self.desktop.data.mkdir(parents=True)
+        store = self.desktop.data / "history.sqlite"
+        store.write_bytes(b"not a database at all" * 100)
+
+        with open(self.desktop.log, "ab") as log:
+            app = self.desktop.spawn([self.desktop.build / "bin/quillmonger-app"], stdout=log, stderr=log)
+        alert = self.desktop.window("Quillmonger")
+        self.assertIsNone(app.poll())
+        self.desktop.focus(alert)
+        self.desktop.press("Escape")
+
+        wait_until(lambda: app.poll() is not None, "the stop")
+        self.assertNotEqual(app.returncode, 0)
+        self.assertIn("Error initializing model context: ", self.desktop.log.read_text())
+        self.assertEqual(store.read_bytes(), b"not a database at all" * 100)
+
+    def test_a_url_is_told_and_dropped(self):
+        self.desktop.start_app(words=["quillmonger://open/sesame", "https://elsewhere"])
+
+        lines = self.desktop.log.read_text()
+
+        self.assertIn("application start url = quillmonger://open/sesame\nunknown url action: ", lines)
+        self.assertIn("application start url = https://elsewhere\nunknown url scheme: ", lines)
+
+
+if __name__ == "__main__":
+    unittest.main()
