@@ -7,7 +7,7 @@ Item {
 
     required property int index
     required property string line
-    required property var matches
+    required property var attributedLine
     required property string iconPath
     required property string appName
     required property bool isImage
@@ -51,8 +51,7 @@ Item {
             right: marks.left; rightMargin: 8
             verticalCenter: parent.verticalCenter
         }
-        line: row.line
-        matches: row.matches
+        attributedLine: row.attributedLine
         isSelected: row.isSelected
         isFileURL: row.isFileURL
         isOptionPressed: row.clipboard.isOptionPressed

@@ -3,21 +3,19 @@ import Quillmonger.Resources
 
 // One line with the search hit in bold and the rest dimmed, cut where the setting says.
 Text {
-    id: line
+    id: root
 
-    required property string string
-    required property var matches
+    required property var attributedLine
     required property bool isSelected
     required property int truncationMode
     required property Theme theme
 
     readonly property AttributedLine attributed: AttributedLine {
-        string: line.string
-        matches: line.matches
-        dimmedColor: line.isSelected ? line.theme.selectedSecondary : line.theme.secondary
+        line: root.attributedLine
+        dimmedColor: root.isSelected ? root.theme.selectedSecondary : root.theme.secondary
     }
 
-    text: attributed.markup
+    text: attributed.text
     textFormat: attributed.isPlain ? Text.PlainText : Text.StyledText
     renderType: Text.NativeRendering
     font.pixelSize: theme.rowFontSize

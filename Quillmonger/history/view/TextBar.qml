@@ -5,8 +5,7 @@ import Quillmonger.Resources
 Column {
     id: bar
 
-    required property string line
-    required property var matches
+    required property var attributedLine
     required property bool isSelected
     required property bool isFileURL
     required property bool isOptionPressed
@@ -16,8 +15,7 @@ Column {
     HighlightedText {
         objectName: "ClipboardItemText"
         width: parent.width
-        string: bar.line
-        matches: bar.matches
+        attributedLine: bar.attributedLine
         isSelected: bar.isSelected
         truncationMode: bar.settings.truncationMode
         theme: bar.theme
