@@ -33,12 +33,12 @@ KeyboardShortcuts::~KeyboardShortcuts() {
 }
 
 void KeyboardShortcuts::declare(const Name& name) {
-  if (!name.defaultShortcut || m_store.object(storageKey(name))) return;
+  if (!name.defaultShortcut || m_store.objectForKey(storageKey(name))) return;
   m_store.setObject(storageKey(name), name.defaultShortcut->toJson());
 }
 
 std::optional<Shortcut> KeyboardShortcuts::getShortcut(const Name& name) const {
-  const auto object = m_store.object(storageKey(name));
+  const auto object = m_store.objectForKey(storageKey(name));
   if (!object) return std::nullopt;
   const auto* text = std::get_if<std::string>(&*object);
   return text == nullptr ? std::nullopt : Shortcut::fromJson(*text);

@@ -1,12 +1,15 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <variant>
 
-#include "Foundation/Published.h"
 #include "Foundation/RunLoop.h"
+#include "Foundation/Stream.h"
 #include "Foundation/Url.h"
 #include "Foundation/Uuid.h"
 #include "Quillmonger/capture/Payload.h"
@@ -26,6 +29,18 @@ class ClipboardItem final {
     std::optional<foundation::Url> sourceAppBundleURL;
     foundation::Date creationDate;
     std::int64_t timesPasted = 0;
+  };
+
+  /// What holds the record, and hears of each change of its attributes.
+  class Store {
+   public:
+    Store() = default;
+    Store(const Store&) = delete;
+    Store& operator=(const Store&) = delete;
+    virtual void recordChanged(const ClipboardItem& record) = 0;
+
+   protected:
+    ~Store() = default;
   };
 
   /// A new record: a random `id`, `timesPasted` 0, `hashedData` computed from `data`, which reads all of it.
@@ -51,7 +66,7 @@ class ClipboardItem final {
   [[nodiscard]] std::int64_t timesPasted() const { return m_attributes.timesPasted; }
   [[nodiscard]] const Attributes& attributes() const { return m_attributes; }
 
-  /// Tells the store and the views.
+  /// Tells the store, then the views.
   void setTimesPasted(std::int64_t timesPasted);
 
   /// The value of one type; absent when the type is missing or has no bytes.
@@ -66,7 +81,8 @@ class ClipboardItem final {
   [[nodiscard]] bool isExcelTable() const;
 
   enum class IncludingData : bool { no, yes };
-  /// Takes over what survives from an older record of this content, which this record is about to replace.
+  /// Takes over what survives from an older record of this content, which this record is about to replace. Stops the
+  /// process for a record that is already in a store.
   void merge(const ClipboardItem& older, IncludingData includingData);
 
   /// By content: the same types with the same values. Nothing else plays a part.
@@ -77,10 +93,22 @@ class ClipboardItem final {
   /// Called after each change of an attribute, before the call that made it returns.
   foundation::Subscription onChange(std::function<void()> receiver);
 
+  /// For stores: `key`, from 1, names the record within `store`, which is borrowed until `leaveStore`.
+  void enterStore(Store& store, std::int64_t key);
+  void leaveStore() { m_store = nullptr; }
+  [[nodiscard]] bool isIn(const Store& store) const { return m_store == &store; }
+  /// 0 for a record that never was in a store.
+  [[nodiscard]] std::int64_t storeKey() const { return m_storeKey; }
+
  private:
+  [[nodiscard]] std::string persistentIdentifier() const;
+
   Payload m_data;
   Attributes m_attributes;
-  foundation::Stream<int> m_changes;
+  std::int64_t m_storeKey = 0;
+  // One pointer rather than a subscription, and a stream made when somebody listens: records are held by the thousand.
+  Store* m_store = nullptr;
+  std::unique_ptr<foundation::Stream<std::monostate>> m_changes;
 };
 
 }  // namespace quillmonger

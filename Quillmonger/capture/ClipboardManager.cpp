@@ -10,7 +10,7 @@
 #include "Quillmonger/capture/IgnoredApps.h"
 #include "Quillmonger/capture/PasteboardContent.h"
 #include "Quillmonger/capture/PasteboardTypes.h"
-#include "Quillmonger/settings/Keys.h"
+#include "Quillmonger/settings/SettingsKeys.h"
 
 namespace quillmonger {
 

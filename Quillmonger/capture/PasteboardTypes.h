@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <functional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -43,7 +45,10 @@ using PasteboardTypeSet = std::set<std::string_view, std::less<>>;
 [[nodiscard]] const PasteboardTypeSet& ignoredTypes();
 /// Dropped while `ignoreSensitiveData` is on.
 [[nodiscard]] const PasteboardTypeSet& concealedTypes();
-/// Dropped while `ignoreImages` is on; also what makes an item an image. Best first is PNG, then JPEG, then TIFF.
+/// Dropped while `ignoreImages` is on; also what makes an item an image.
 [[nodiscard]] const PasteboardTypeSet& imageTypes();
+/// The image types in the order in which one of them is chosen: lossless before lossy, small before large.
+inline constexpr std::array<std::string_view, 3> imageTypesBestFirst = {
+    pasteboardtype::NSPasteboardTypePNG, pasteboardtype::jpeg, pasteboardtype::NSPasteboardTypeTIFF};
 
 }  // namespace quillmonger

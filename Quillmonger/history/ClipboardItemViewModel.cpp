@@ -8,7 +8,7 @@
 #include "Foundation/Output.h"
 #include "Foundation/Text.h"
 #include "Quillmonger/capture/PasteboardTypes.h"
-#include "Quillmonger/settings/Keys.h"
+#include "Quillmonger/settings/SettingsKeys.h"
 
 namespace quillmonger {
 

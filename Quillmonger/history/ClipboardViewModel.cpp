@@ -6,7 +6,7 @@
 #include "Defaults/Defaults.h"
 #include "Foundation/Output.h"
 #include "Quillmonger/input/ShortcutNames.h"
-#include "Quillmonger/settings/Keys.h"
+#include "Quillmonger/settings/SettingsKeys.h"
 
 namespace quillmonger {
 

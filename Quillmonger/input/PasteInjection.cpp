@@ -2,7 +2,7 @@
 
 #include "Defaults/Defaults.h"
 #include "Foundation/Output.h"
-#include "Quillmonger/settings/Keys.h"
+#include "Quillmonger/settings/SettingsKeys.h"
 
 namespace quillmonger {
 

@@ -1,26 +1,26 @@
 #include "Quillmonger/input/ShortcutNames.h"
 
-#include "Quillmonger/input/KeyEvent.h"
+#include "Quillmonger/settings/ShortcutDefaults.h"
 
 namespace quillmonger::shortcutname {
 
 namespace {
 
-keyboardshortcuts::Name shiftCommand(const char* rawValue, std::int64_t keyCode) {
-  return {rawValue, keyboardshortcuts::Shortcut{keyCode, keyboardshortcuts::carbonModifiers(shiftFlag | commandFlag)}};
+keyboardshortcuts::Name named(const ShortcutDefault& shortcut) {
+  return {std::string(shortcut.name),
+          keyboardshortcuts::Shortcut{shortcut.keyCode, keyboardshortcuts::carbonModifiers(shortcut.modifiers)}};
 }
 
 }  // namespace
 
 const keyboardshortcuts::Name& activate() {
-  static const auto name = shiftCommand("activate", 9);  // V
+  static const auto name = named(shortcuts::activate);
   return name;
 }
 
 const std::array<keyboardshortcuts::Name, 3>& quickPaste() {
-  static const std::array names{shiftCommand("quickPaste1", 7),    // X
-                                shiftCommand("quickPaste2", 14),   // E
-                                shiftCommand("quickPaste3", 15)};  // R
+  static const std::array names{named(shortcuts::quickPaste1), named(shortcuts::quickPaste2),
+                                named(shortcuts::quickPaste3)};
   return names;
 }
 

@@ -1,7 +1,7 @@
 #include "Quillmonger/search/SearchViewModel.h"
 
 #include "Defaults/Defaults.h"
-#include "Quillmonger/settings/Keys.h"
+#include "Quillmonger/settings/SettingsKeys.h"
 
 namespace quillmonger {
 

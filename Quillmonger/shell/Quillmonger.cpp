@@ -6,7 +6,7 @@
 #include "Foundation/Output.h"
 #include "Foundation/Url.h"
 #include "Quillmonger/input/ShortcutNames.h"
-#include "Quillmonger/settings/Keys.h"
+#include "Quillmonger/settings/SettingsKeys.h"
 
 namespace quillmonger {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "Quillmonger/settings/Keys.h"
+#include "Quillmonger/settings/SettingsKeys.h"
 #include "tests/support/InlineBackgroundQueue.h"
 #include "tests/support/TestDefaults.h"
 #include "tests/support/VirtualRunLoop.h"

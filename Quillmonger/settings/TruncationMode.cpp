@@ -1,0 +1,17 @@
+#include "Quillmonger/settings/TruncationMode.h"
+
+using quillmonger::TruncationMode;
+
+std::optional<defaults::Object> defaults::Bridge<TruncationMode>::serialize(TruncationMode value) {
+  if (value == TruncationMode::head) return Object(std::string("head"));
+  if (value == TruncationMode::middle) return Object(std::string("middle"));
+  return Object(std::string("tail"));
+}
+
+std::optional<TruncationMode> defaults::Bridge<TruncationMode>::deserialize(const Object& object) {
+  const auto* text = std::get_if<std::string>(&object);
+  if (text == nullptr) return std::nullopt;
+  if (*text == "head") return TruncationMode::head;
+  if (*text == "middle") return TruncationMode::middle;
+  return TruncationMode::tail;
+}
