@@ -40,13 +40,7 @@ X11Thread::X11Thread(xcb_connection_t* connection, const xcb_screen_t* screen)
     : m_connection(connection), m_screen(screen), m_wakeUp(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {}
 
 X11Thread::~X11Thread() {
-  if (m_thread.joinable()) {
-    m_isEnding = true;
-    wake();
-    // A server that another program has grabbed answers nothing; the thread must not wait for it now.
-    shutdown(xcb_get_file_descriptor(m_connection), SHUT_RDWR);
-    m_thread.join();
-  }
+  stop();
   xcb_disconnect(m_connection);
   close(m_wakeUp);
 }
@@ -55,6 +49,15 @@ void X11Thread::start(EventHandler onEvent, Task onLost) {
   m_onEvent = std::move(onEvent);
   m_onLost = std::move(onLost);
   m_thread = std::thread([this] { loop(); });
+}
+
+void X11Thread::stop() {
+  if (!m_thread.joinable()) return;
+  m_isEnding = true;
+  wake();
+  // A server that another program has grabbed answers nothing; the thread must not wait for it now.
+  shutdown(xcb_get_file_descriptor(m_connection), SHUT_RDWR);
+  m_thread.join();
 }
 
 void X11Thread::run(Task task) {

@@ -21,9 +21,8 @@ namespace platform {
 /// One connection to the X server and the one thread that uses it. The thread sleeps until the server, a task or a
 /// timer has something for it; nothing on it may wait for another program, only for the server.
 ///
-/// Life: make it, prepare the server's side through `connection()`, `start()` once. The destructor ends the thread
-/// and closes the connection; tasks and timers that are left are dropped unrun. Whatever the handlers use must
-/// outlive this object.
+/// Life: make it, prepare the server's side through `connection()`, `start()` once, `stop()`. What the handlers use
+/// must be there until `stop` has returned. The destructor stops too, and closes the connection.
 class X11Thread final {
  public:
   using Task = std::function<void()>;
@@ -44,6 +43,10 @@ class X11Thread final {
   /// Starts the thread. On it, `onEvent` gets each event, and `onLost` is called, last of all, when the server has
   /// closed the connection.
   void start(EventHandler onEvent, Task onLost);
+
+  /// Ends the thread and waits for its present turn. Tasks and timers that are left are never run, and the connection
+  /// takes no more requests. Not on the thread.
+  void stop();
 
   /// Runs `task` on the thread, after the tasks before it. From any thread, also before `start`.
   void run(Task task);
