@@ -3,7 +3,7 @@
 
 find_package(PkgConfig REQUIRED)
 find_package(Threads REQUIRED)
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Qml Quick Svg)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Qml Quick Svg Test)
 find_package(ICU REQUIRED COMPONENTS uc i18n)
 find_package(SQLite3 REQUIRED)
 find_package(nlohmann_json REQUIRED)

@@ -9,12 +9,12 @@ FocusScope {
     required property ClipboardViewAdapter clipboard
     required property SearchBarModel search
     required property HistorySettings settings
-    required property ColorScheme colorScheme
+    required property Appearance appearance
 
     // Whether what is transparent shows what lies behind the window. Corners would be black otherwise.
     property bool blendsTransparency: true
 
-    readonly property Theme theme: Theme { isDark: app.colorScheme.isDark }
+    readonly property Theme theme: Theme { isDark: app.appearance.isDark }
 
     implicitWidth: 600
     implicitHeight: 445

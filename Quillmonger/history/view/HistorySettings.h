@@ -2,10 +2,13 @@
 
 #include <QtQml/qqmlregistration.h>
 #include <QObject>
+#include <vector>
+
+#include "Defaults/Defaults.h"
 
 namespace quillmonger {
 
-/// The settings that say how the rows look. Main thread.
+/// The settings that say how the rows look, as they stand at each moment. Main thread.
 class HistorySettings final : public QObject {
   Q_OBJECT
   QML_ELEMENT
@@ -22,30 +25,29 @@ class HistorySettings final : public QObject {
   enum TruncationMode { Head, Middle, Tail };
   Q_ENUM(TruncationMode)
 
-  struct Values {
-    bool showSourceAppIcon = true;
-    bool showKeyboardShortcuts = true;
-    bool showContentTypeIndicators = true;
-    bool showScrollbar = true;
-    bool alwaysPasteWithoutFormatting = false;
-    TruncationMode truncationMode = Middle;
-  };
+  /// `defaults` outlives this object.
+  explicit HistorySettings(defaults::Defaults& defaults);
 
-  [[nodiscard]] const Values& values() const { return m_values; }
-  void setValues(const Values& values);
-
-  [[nodiscard]] bool showSourceAppIcon() const { return m_values.showSourceAppIcon; }
-  [[nodiscard]] bool showKeyboardShortcuts() const { return m_values.showKeyboardShortcuts; }
-  [[nodiscard]] bool showContentTypeIndicators() const { return m_values.showContentTypeIndicators; }
-  [[nodiscard]] bool showScrollbar() const { return m_values.showScrollbar; }
-  [[nodiscard]] bool alwaysPasteWithoutFormatting() const { return m_values.alwaysPasteWithoutFormatting; }
-  [[nodiscard]] TruncationMode truncationMode() const { return m_values.truncationMode; }
+  [[nodiscard]] bool showSourceAppIcon() const { return m_showSourceAppIcon; }
+  [[nodiscard]] bool showKeyboardShortcuts() const { return m_showKeyboardShortcuts; }
+  [[nodiscard]] bool showContentTypeIndicators() const { return m_showContentTypeIndicators; }
+  [[nodiscard]] bool showScrollbar() const { return m_showScrollbar; }
+  [[nodiscard]] bool alwaysPasteWithoutFormatting() const { return m_alwaysPasteWithoutFormatting; }
+  [[nodiscard]] TruncationMode truncationMode() const { return m_truncationMode; }
 
  signals:
   void changed();
 
  private:
-  Values m_values;
+  void follow(defaults::Defaults& defaults, const defaults::Key<bool>& key, bool& value);
+
+  bool m_showSourceAppIcon = false;
+  bool m_showKeyboardShortcuts = false;
+  bool m_showContentTypeIndicators = false;
+  bool m_showScrollbar = false;
+  bool m_alwaysPasteWithoutFormatting = false;
+  TruncationMode m_truncationMode = Middle;
+  std::vector<foundation::Subscription> m_subscriptions;
 };
 
 }  // namespace quillmonger

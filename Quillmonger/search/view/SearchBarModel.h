@@ -4,7 +4,9 @@
 #include <QObject>
 #include <QString>
 #include <functional>
+#include <string>
 
+#include "Defaults/Defaults.h"
 #include "Foundation/Published.h"
 
 namespace quillmonger {
@@ -19,13 +21,13 @@ class SearchBarModel final : public QObject {
   Q_PROPERTY(bool canTogglePreview READ canTogglePreview CONSTANT)
 
  public:
-  /// `searchTerm` outlives this object. Without `togglePreview` there is no button for it.
-  SearchBarModel(foundation::Published<std::string>& searchTerm, std::function<void()> togglePreview);
+  /// Both outlive this object. Without `togglePreview` there is no button for it.
+  SearchBarModel(foundation::Published<std::string>& searchTerm, defaults::Defaults& defaults,
+                 std::function<void()> togglePreview);
 
   [[nodiscard]] QString searchTerm() const;
   void setSearchTerm(const QString& term);
   [[nodiscard]] bool isIncognitoMode() const { return m_isIncognitoMode; }
-  void setIncognitoMode(bool isOn);
   [[nodiscard]] bool canTogglePreview() const { return static_cast<bool>(m_togglePreview); }
 
   Q_INVOKABLE void togglePreview() { m_togglePreview(); }
@@ -39,6 +41,7 @@ class SearchBarModel final : public QObject {
   std::function<void()> m_togglePreview;
   bool m_isIncognitoMode = false;
   foundation::Subscription m_termSubscription;
+  foundation::Subscription m_incognitoSubscription;
 };
 
 }  // namespace quillmonger
