@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <optional>
+#include <type_traits>
 #include <utility>
 
 #include "Defaults/Key.h"
@@ -42,7 +43,7 @@ class Defaults final {
 
   /// A value without a stored form, such as an empty optional, removes the stored entry.
   template <typename T>
-  void set(const Key<T>& key, const T& value) {
+  void set(const Key<T>& key, const std::type_identity_t<T>& value) {
     if (auto object = Bridge<T>::serialize(value)) {
       m_suite.setObject(key.name(), *std::move(object));
     } else {
@@ -58,7 +59,7 @@ class Defaults final {
 
   template <typename T>
   foundation::Subscription observe(const Key<T>& key, ObservationOptions options,
-                                   std::function<void(const KeyChange<T>&)> handler) {
+                                   std::type_identity_t<std::function<void(const KeyChange<T>&)>> handler) {
     return m_suite.addObserver(key.name(), options, [key, handler = std::move(handler)](const BaseChange& change) {
       handler({change.isPrior, key.valueOf(change.newValue), key.valueOf(change.oldValue)});
     });
@@ -70,7 +71,8 @@ class Defaults final {
   /// has at that moment: when a receiver changes the key itself, the last value that each receiver hears is the one
   /// that stands.
   template <typename T>
-  foundation::Subscription updates(const Key<T>& key, Initial initial, std::function<void(const T&)> receiver) {
+  foundation::Subscription updates(const Key<T>& key, Initial initial,
+                                   std::type_identity_t<std::function<void(const T&)>> receiver) {
     const auto options = initial == Initial::yes ? ObservationOptions::initial : ObservationOptions::none;
     return m_suite.addObserver(key.name(), options,
                                [key, &suite = m_suite, receiver = std::move(receiver)](const BaseChange&) {

@@ -7,7 +7,6 @@
 #include "Defaults/Defaults.h"
 #include "Foundation/Fatal.h"
 #include "Foundation/Output.h"
-#include "Quillmonger/capture/IgnoredApps.h"
 #include "Quillmonger/capture/PasteboardContent.h"
 #include "Quillmonger/capture/PasteboardTypes.h"
 #include "Quillmonger/settings/SettingsKeys.h"
@@ -70,12 +69,9 @@ void ClipboardManager::capture() {
 }
 
 bool ClipboardManager::isIgnored(const BundleReference& source) const {
-  if (!source.identifier) return false;
-  const auto apps = m_with.defaults[keys::ignoredApps];
-  const bool isListed = std::any_of(
-      apps.begin(), apps.end(), [&source](const SystemApp& app) { return app.bundleIdentifier == *source.identifier; });
-  if (isListed) foundation::printLine("ignoring clip from ignored app ", *source.identifier);
-  return isListed;
+  if (!source.identifier || !m_with.isAppIgnored(*source.identifier)) return false;
+  foundation::printLine("ignoring clip from ignored app ", *source.identifier);
+  return true;
 }
 
 // The content brings its digest along, so that nothing of its bytes is read here.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -39,6 +40,8 @@ class ClipboardManager final : public ClipboardManaging {
     foundation::RunLoop& runLoop;
     foundation::NotificationCenter& notificationCenter;
     defaults::Defaults& defaults;
+    /// Whether the user wants nothing of the application with this identifier.
+    std::function<bool(std::string_view bundleIdentifier)> isAppIgnored;
   };
 
   /// All collaborators outlive this object. What is on the pasteboard now is not captured later.

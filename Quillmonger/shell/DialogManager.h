@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "Foundation/Url.h"
+#include "Quillmonger/capture/StoreFailureDialog.h"
 #include "Quillmonger/shell/Alert.h"
 
 namespace quillmonger {
@@ -15,12 +16,12 @@ using Texts = std::function<std::string(std::string_view key)>;
 using UrlOpener = std::function<void(const foundation::Url& url)>;
 
 /// Shows the alert for the failure that the program can't live with. Main thread.
-class DialogManager final {
+class DialogManager final : public StoreFailureDialog {
  public:
   DialogManager(Alert& alert, Texts texts, UrlOpener openUrl, std::string supportAddress);
 
   /// Returns when the user has answered.
-  void showGenericErrorAlert();
+  void showGenericErrorAlert() override;
 
  private:
   void writeToSupport();

@@ -52,7 +52,7 @@ Quillmonger::Quillmonger(const Platform& platform)
       m_pasteInjection(m_permissionsManager, platform.pasteKeys, platform.runLoop, platform.notificationCenter,
                        platform.defaults),
       m_clipboardManager({platform.pasteboard, platform.context, platform.bundleProvider, m_pasteInjection,
-                          platform.runLoop, platform.notificationCenter, platform.defaults}),
+                          platform.runLoop, platform.notificationCenter, platform.defaults, platform.isAppIgnored}),
       m_searchViewModel(platform.runLoop, platform.defaults),
       m_searchManager(platform.backgroundQueue, platform.runLoop, platform.defaults),
       m_clipboardViewModel({m_clipboardManager, platform.context, m_searchViewModel, m_searchManager,

@@ -1,7 +1,8 @@
 #pragma once
 
-#include <memory>
+#include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "Foundation/BackgroundQueue.h"
@@ -48,6 +49,8 @@ class Quillmonger final {
     Application& application;
     Window& gettingStartedWindow;
     Window& appWindow;
+    /// Whether the user wants nothing of the application with this identifier.
+    std::function<bool(std::string_view bundleIdentifier)> isAppIgnored;
   };
 
   /// Loads the history; starts nothing. The windows' content is made afterwards, from what this object owns.

@@ -1,0 +1,67 @@
+#include "Quillmonger/input/Action.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace quillmonger;
+
+Action actionFor(std::uint16_t keyCode, std::uint32_t modifierFlags = 0) {
+  return actionForEvent({KeyEvent::Type::keyDown, keyCode, modifierFlags});
+}
+
+TEST(Action, SelectsARowForCommandAndADigitKeyByItsPosition) {
+  EXPECT_EQ(actionFor(21, commandFlag), Action::select) << "the fourth digit key, whatever it types";
+  for (const auto keyCode : quickPasteKeyCodes)
+    EXPECT_EQ(actionFor(keyCode, commandFlag), Action::select);
+}
+
+TEST(Action, LeavesDigitsWithoutCommandToTheSearchField) { EXPECT_EQ(actionFor(18), Action::none); }
+
+TEST(Action, MeansNothingForTheKeysBetweenTheDigits) {
+  EXPECT_EQ(actionFor(24, commandFlag), Action::none);
+  EXPECT_EQ(actionFor(27, commandFlag), Action::none);
+  EXPECT_EQ(actionFor(29, commandFlag), Action::none) << "the zero";
+}
+
+TEST(Action, SelectsForReturnWithAnyModifiers) {
+  EXPECT_EQ(actionFor(36), Action::select);
+  EXPECT_EQ(actionFor(36, commandFlag), Action::select);
+}
+
+TEST(Action, MovesForTheArrowsWithAnyModifiers) {
+  EXPECT_EQ(actionFor(126, shiftFlag), Action::moveUp);
+  EXPECT_EQ(actionFor(125), Action::moveDown);
+}
+
+TEST(Action, OpensSettingsForCommandAndCommaAlone) {
+  EXPECT_EQ(actionFor(43, commandFlag), Action::openSettings);
+  EXPECT_EQ(actionFor(43), Action::none);
+}
+
+TEST(Action, DeletesForCommandAndDeleteAlone) {
+  EXPECT_EQ(actionFor(51, commandFlag), Action::deleteItem);
+  EXPECT_EQ(actionFor(51), Action::none);
+}
+
+TEST(Action, DismissesForEscape) { EXPECT_EQ(actionFor(53, shiftFlag), Action::dismiss); }
+
+TEST(Action, HearsTheLeftOptionKeyOnBothEdgesAndTheRightOneNever) {
+  EXPECT_EQ(actionForEvent({KeyEvent::Type::flagsChanged, 58, optionFlag}), Action::optionChanged);
+  EXPECT_EQ(actionForEvent({KeyEvent::Type::flagsChanged, 58, 0}), Action::optionChanged);
+  EXPECT_EQ(actionForEvent({KeyEvent::Type::flagsChanged, 61, optionFlag}), Action::none);
+}
+
+TEST(Action, MeansNothingForTheKeypadsEnter) { EXPECT_EQ(actionFor(76), Action::none); }
+
+TEST(QuickPasteIndex, FollowsTheOrderOfTheDigits) {
+  const int expected[] = {0, 1, 2, 3, 5, 4, -1, 8, 6, -1, 7};
+
+  for (std::uint16_t keyCode = 18; keyCode <= 28; ++keyCode) {
+    EXPECT_EQ(quickPasteIndex(keyCode), expected[keyCode - 18]) << keyCode;
+  }
+  EXPECT_EQ(quickPasteIndex(17), -1);
+  EXPECT_EQ(quickPasteIndex(29), -1);
+}
+
+}  // namespace

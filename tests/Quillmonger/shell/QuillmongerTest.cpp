@@ -1,0 +1,388 @@
+#include "Quillmonger/shell/Quillmonger.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <string>
+#include <vector>
+
+#include "Quillmonger/settings/SettingsKeys.h"
+#include "tests/support/FakeApplication.h"
+#include "tests/support/FakeApplicationNaming.h"
+#include "tests/support/FakeBundleProvider.h"
+#include "tests/support/FakeHotKeyService.h"
+#include "tests/support/FakeLocalEventMonitor.h"
+#include "tests/support/FakePasteKeys.h"
+#include "tests/support/FakePasteboard.h"
+#include "tests/support/FakeStoreContext.h"
+#include "tests/support/FakeWindow.h"
+#include "tests/support/InlineBackgroundQueue.h"
+#include "tests/support/Records.h"
+#include "tests/support/TestDefaults.h"
+#include "tests/support/VirtualRunLoop.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+namespace keys = quillmonger::keys;
+using quillmonger::KeyEvent;
+using Log = std::vector<std::string>;
+
+constexpr testsupport::FakeHotKeyService::Chord activateChord{9, 0x300};
+constexpr std::uint16_t escapeKey = 53;
+constexpr std::uint16_t returnKey = 36;
+const Log shown{"application activate", "history center", "history makeKeyAndOrderFront", "ClipboardActivated"};
+const Log dismissed{"history orderOut", "application hide"};
+
+// The whole logic, wired as the program wires it, on ports without a desktop.
+class QuillmongerTest : public testing::Test {
+ protected:
+  QuillmongerTest() {
+    settings.defaults.set(keys::firstLaunch, false);
+    settings.defaults.set(keys::persistHistory, true);
+  }
+
+  quillmonger::Quillmonger& makeRoot() {
+    root = std::make_unique<quillmonger::Quillmonger>(quillmonger::Quillmonger::Platform{
+        runLoop, queue, notificationCenter, settings.defaults, shortcuts, context, pasteboard, bundleProvider, naming,
+        pasteKeys, eventMonitor, application, gettingStartedWindow, appWindow, [](std::string_view) { return false; }});
+    settle();
+    return *root;
+  }
+  void start() {
+    makeRoot().start();
+    settle();
+  }
+  void startAndShow() {
+    start();
+    pressChord();
+    log.clear();
+  }
+  void settle() {
+    runLoop.runPosted();
+    queue.run();
+    runLoop.runPosted();
+  }
+  void pressChord() {
+    hotKeys.press(activateChord);
+    hotKeys.release(activateChord);
+    settle();
+  }
+  void copy(const std::string& text) {
+    pasteboard.copyText(text);
+    runLoop.advance(150ms);
+    settle();
+  }
+  std::size_t rowCount() { return root->clipboardViewModel().filteredItems().value()->size(); }
+  std::string output(const std::vector<std::string>& urls) {
+    testing::internal::CaptureStdout();
+    root->openURLs(urls);
+    return testing::internal::GetCapturedStdout();
+  }
+
+  Log log;
+  testsupport::VirtualRunLoop runLoop;
+  testsupport::InlineBackgroundQueue queue;
+  foundation::NotificationCenter notificationCenter;
+  testsupport::TestDefaults settings;
+  testsupport::FakeHotKeyService hotKeys;
+  keyboardshortcuts::KeyboardShortcuts shortcuts{hotKeys, settings.suite, notificationCenter};
+  testsupport::FakeStoreContext context;
+  testsupport::FakePasteboard pasteboard{runLoop};
+  testsupport::FakeBundleProvider bundleProvider;
+  testsupport::FakeApplicationNaming naming;
+  testsupport::FakePasteKeys pasteKeys;
+  testsupport::FakeLocalEventMonitor eventMonitor;
+  testsupport::FakeApplication application{log};
+  testsupport::FakeWindow gettingStartedWindow{"guide", log};
+  testsupport::FakeWindow appWindow{"history", log};
+  foundation::Subscription activated =
+      notificationCenter.observe("ClipboardActivated", [this](const auto&) { log.emplace_back("ClipboardActivated"); });
+  std::unique_ptr<quillmonger::Quillmonger> root;
+};
+
+TEST_F(QuillmongerTest, ShowsOnlyTheGuideOfAFreshInstallation) {
+  settings.defaults.reset(keys::firstLaunch);
+
+  start();
+  copy("hello");
+
+  EXPECT_EQ(log, (Log{"application regular", "application activate", "guide center", "guide makeKeyAndOrderFront"}));
+  EXPECT_EQ(rowCount(), 0U);
+  EXPECT_FALSE(hotKeys.isRegistered(activateChord));
+}
+
+TEST_F(QuillmongerTest, EndsTheGuideWithTheNormalStartAndTheHistory) {
+  settings.defaults.set(keys::firstLaunch, true);
+  start();
+  log.clear();
+
+  root->finishGettingStarted();
+  settle();
+
+  EXPECT_EQ(log, (Log{"guide orderOut", "application accessory", "application activate", "history center",
+                      "history makeKeyAndOrderFront", "ClipboardActivated"}));
+  EXPECT_FALSE(settings.defaults[keys::firstLaunch]);
+  EXPECT_TRUE(hotKeys.isRegistered(activateChord));
+}
+
+TEST_F(QuillmongerTest, CapturesAtTheGuidesEndWhatWasCopiedMeanwhile) {
+  settings.defaults.set(keys::firstLaunch, true);
+  start();
+  pasteboard.copyText("during the guide");
+  pasteboard.advance();
+
+  root->finishGettingStarted();
+  runLoop.advance(150ms);
+  settle();
+
+  EXPECT_EQ(rowCount(), 1U);
+}
+
+TEST_F(QuillmongerTest, StartsNormallyAfterTheGuide) {
+  start();
+
+  EXPECT_EQ(log, Log{"application accessory"});
+  copy("hello");
+  EXPECT_EQ(rowCount(), 1U);
+  EXPECT_TRUE(hotKeys.isRegistered(activateChord));
+}
+
+TEST_F(QuillmongerTest, ShowsTheGuideAgainWhenItsSettingIsOn) {
+  start();
+  settings.defaults.set(keys::firstLaunch, true);
+  log.clear();
+
+  start();
+
+  EXPECT_EQ(log.front(), "application regular");
+}
+
+TEST_F(QuillmongerTest, DeletesTheLastRunsHistoryUnlessItPersists) {
+  settings.defaults.set(keys::persistHistory, false);
+  context.insert(testsupport::makeRecord("last run"));
+
+  start();
+
+  EXPECT_TRUE(context.records().empty());
+  EXPECT_EQ(rowCount(), 0U);
+}
+
+TEST_F(QuillmongerTest, LoadsAPersistentHistoryAndAppliesItsLimit) {
+  for (int age = 0; age < 12; ++age)
+    context.insert(testsupport::makeRecord(std::to_string(age), foundation::Seconds(age)));
+
+  start();
+  EXPECT_EQ(rowCount(), 12U);
+  runLoop.advance(500ms);
+  settle();
+
+  EXPECT_EQ(rowCount(), 10U);
+  EXPECT_EQ(context.records().size(), 10U);
+}
+
+TEST_F(QuillmongerTest, DeletesNothingWhileTheGuideIsUp) {
+  settings.defaults.set(keys::firstLaunch, true);
+  settings.defaults.set(keys::persistHistory, false);
+  context.insert(testsupport::makeRecord("last run"));
+
+  start();
+
+  EXPECT_EQ(context.records().size(), 1U);
+}
+
+TEST_F(QuillmongerTest, ShowsAndHidesTheHistoryWhenTheChordIsReleased) {
+  start();
+  log.clear();
+
+  hotKeys.press(activateChord);
+  settle();
+  EXPECT_EQ(log, Log{});
+  hotKeys.release(activateChord);
+  settle();
+  EXPECT_EQ(log, shown);
+  log.clear();
+  pressChord();
+
+  EXPECT_EQ(log, dismissed);
+}
+
+TEST_F(QuillmongerTest, OpensTheHistoryUnfilteredWithItsTopRowSelected) {
+  start();
+  copy("apple");
+  copy("pear");
+  root->searchViewModel().searchTerm().set("apple");
+  runLoop.advance(1s);
+  settle();
+  ASSERT_EQ(rowCount(), 1U);
+  root->clipboardViewModel().isOptionPressed().set(true);
+
+  pressChord();
+
+  EXPECT_EQ(root->searchViewModel().searchTerm().value(), "");
+  EXPECT_EQ(rowCount(), 2U);
+  EXPECT_FALSE(root->clipboardViewModel().isOptionPressed().value());
+  EXPECT_EQ(root->clipboardViewModel().selectedItem().value()->text().view, "pear");
+}
+
+TEST_F(QuillmongerTest, SelectsTheTopRowOfTheOldListAtOnce) {
+  start();
+  copy("one");
+  copy("two");
+  root->clipboardViewModel().select(root->clipboardViewModel().filteredItems().value()->at(1).item);
+
+  root->windowManager().showAppWindow();
+  runLoop.runPosted();
+
+  EXPECT_EQ(root->clipboardViewModel().selectedItem().value()->text().view, "two") << "before the search is done";
+}
+
+TEST_F(QuillmongerTest, ChangesNothingWhenAVisibleHistoryIsShown) {
+  startAndShow();
+  root->searchViewModel().searchTerm().set("term");
+
+  root->windowManager().showAppWindow();
+  settle();
+
+  EXPECT_EQ(log, Log{});
+  EXPECT_EQ(root->searchViewModel().searchTerm().value(), "term");
+}
+
+TEST_F(QuillmongerTest, LeavesTheGuideAloneWhenTheHistoryIsShown) {
+  start();
+  root->windowManager().showGettingStartedWindow();
+
+  root->windowManager().showAppWindow();
+  settle();
+
+  EXPECT_TRUE(gettingStartedWindow.isVisible());
+}
+
+TEST_F(QuillmongerTest, HidesTheHistoryForEscape) {
+  startAndShow();
+
+  EXPECT_TRUE(eventMonitor.press(escapeKey));
+
+  EXPECT_EQ(log, dismissed);
+}
+
+TEST_F(QuillmongerTest, HidesTheHistoryWhenTheProgramLosesTheFront) {
+  startAndShow();
+
+  root->applicationDidResignActive();
+
+  EXPECT_EQ(log, dismissed);
+}
+
+TEST_F(QuillmongerTest, KeepsItsWindowsWhenItLosesTheFrontBesideTheGuide) {
+  startAndShow();
+  root->windowManager().showGettingStartedWindow();
+  log.clear();
+
+  root->applicationDidResignActive();
+
+  EXPECT_EQ(log, Log{});
+  EXPECT_TRUE(root->windowManager().isAuxiliaryWindowVisible());
+}
+
+TEST_F(QuillmongerTest, CountsTheHistoryAsNoAuxiliaryWindow) {
+  startAndShow();
+
+  EXPECT_FALSE(root->windowManager().isAuxiliaryWindowVisible());
+}
+
+TEST_F(QuillmongerTest, PutsTheItemOnThePasteboardHidesAndPressesThePasteKeys) {
+  start();
+  copy("hello");
+  pressChord();
+  log.clear();
+
+  eventMonitor.press(returnKey);
+  settle();
+
+  EXPECT_EQ(log, dismissed);
+  EXPECT_EQ(pasteboard.writes().size(), 1U);
+  EXPECT_EQ(pasteKeys.postedCount(), 1);
+  EXPECT_EQ(context.records().at(0)->timesPasted(), 1);
+}
+
+TEST_F(QuillmongerTest, CountsEachPasteOfItsLife) {
+  start();
+  copy("hello");
+
+  eventMonitor.press(returnKey);
+  settle();
+  eventMonitor.press(returnKey);
+  settle();
+
+  EXPECT_EQ(settings.defaults[keys::numberOfPastes], 2);
+}
+
+TEST_F(QuillmongerTest, ShowsNothingOnceItIsGone) {
+  start();
+  root->windowManager().showAppWindow();
+  log.clear();
+
+  root.reset();
+  runLoop.runPosted();
+  pressChord();
+
+  EXPECT_EQ(log, Log{});
+}
+
+TEST_F(QuillmongerTest, SavesTheStoreAtItsEndAndSaysWhyItCant) {
+  start();
+  root->saveChanges();
+  EXPECT_EQ(context.saveCount(), 1);
+  context.failWith("disk on fire");
+  testing::internal::CaptureStdout();
+
+  root->saveChanges();
+
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "unable to save context changes: disk on fire\n");
+}
+
+TEST_F(QuillmongerTest, EndsTheApplicationToQuit) {
+  start();
+  log.clear();
+
+  root->quitApp();
+
+  EXPECT_EQ(log, Log{"application terminate"});
+}
+
+TEST_F(QuillmongerTest, TellsEachUrlAndDoesNothingElse) {
+  start();
+  log.clear();
+
+  EXPECT_EQ(output({"https://example.org/", "quillmonger://open/x", "quillmonger:x"}),
+            "application start url = https://example.org/\n"
+            "unknown url scheme: Optional(\"https\")\n"
+            "application start url = quillmonger://open/x\n"
+            "unknown url action: Optional(\"open\")\n"
+            "application start url = quillmonger:x\n"
+            "unknown url action: nil\n");
+  EXPECT_EQ(log, Log{});
+}
+
+TEST_F(QuillmongerTest, TellsUrlsThatAreNone) {
+  start();
+
+  EXPECT_EQ(output({"no scheme", "quillmonger://%zz"}),
+            "application start url = no%20scheme\n"
+            "unknown url scheme: nil\n"
+            "application start url = quillmonger://%zz\n"
+            "invalid url: quillmonger://%zz\n");
+}
+
+TEST_F(QuillmongerTest, LetsNoUrlWriteALineOfItsOwn) {
+  start();
+
+  const auto lines = output({"x:\nforged = " + std::string(100000, 'x')});
+
+  EXPECT_EQ(std::count(lines.begin(), lines.end(), '\n'), 2);
+  EXPECT_LT(lines.size(), 8192U);
+}
+
+}  // namespace
