@@ -69,7 +69,7 @@ void ClipboardManager::capture() {
 }
 
 bool ClipboardManager::isIgnored(const BundleReference& source) const {
-  if (!source.identifier || !m_with.isAppIgnored(*source.identifier)) return false;
+  if (!source.identifier || !m_with.ignoredApps.contains(*source.identifier)) return false;
   foundation::printLine("ignoring clip from ignored app ", *source.identifier);
   return true;
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -14,6 +13,7 @@
 #include "Foundation/Uuid.h"
 #include "Quillmonger/capture/BundleProviding.h"
 #include "Quillmonger/capture/ClipboardManaging.h"
+#include "Quillmonger/capture/IgnoredApps.h"
 #include "Quillmonger/capture/PasteStep.h"
 #include "Quillmonger/capture/Pasteboard.h"
 #include "Quillmonger/capture/StoreContext.h"
@@ -40,8 +40,7 @@ class ClipboardManager final : public ClipboardManaging {
     foundation::RunLoop& runLoop;
     foundation::NotificationCenter& notificationCenter;
     defaults::Defaults& defaults;
-    /// Whether the user wants nothing of the application with this identifier.
-    std::function<bool(std::string_view bundleIdentifier)> isAppIgnored;
+    const IgnoredApps& ignoredApps;
   };
 
   /// All collaborators outlive this object. What is on the pasteboard now is not captured later.

@@ -1,6 +1,7 @@
 #include "Quillmonger/shell/Quillmonger.h"
 
 #include <optional>
+#include <string_view>
 
 #include "Defaults/Defaults.h"
 #include "Foundation/Output.h"
@@ -51,8 +52,9 @@ Quillmonger::Quillmonger(const Platform& platform)
     : m_platform(platform),
       m_pasteInjection(m_permissionsManager, platform.pasteKeys, platform.runLoop, platform.notificationCenter,
                        platform.defaults),
+      m_ignoredApps(platform.defaults, platform.applicationBundles),
       m_clipboardManager({platform.pasteboard, platform.context, platform.bundleProvider, m_pasteInjection,
-                          platform.runLoop, platform.notificationCenter, platform.defaults, platform.isAppIgnored}),
+                          platform.runLoop, platform.notificationCenter, platform.defaults, m_ignoredApps}),
       m_searchViewModel(platform.runLoop, platform.defaults),
       m_searchManager(platform.backgroundQueue, platform.runLoop, platform.defaults),
       m_clipboardViewModel({m_clipboardManager, platform.context, m_searchViewModel, m_searchManager,

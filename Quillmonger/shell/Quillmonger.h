@@ -1,8 +1,6 @@
 #pragma once
 
-#include <functional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "Foundation/BackgroundQueue.h"
@@ -11,8 +9,10 @@
 #include "Foundation/Subscription.h"
 #include "Foundation/Url.h"
 #include "KeyboardShortcuts/KeyboardShortcuts.h"
+#include "Quillmonger/capture/ApplicationBundles.h"
 #include "Quillmonger/capture/BundleProviding.h"
 #include "Quillmonger/capture/ClipboardManager.h"
+#include "Quillmonger/capture/IgnoredApps.h"
 #include "Quillmonger/capture/Pasteboard.h"
 #include "Quillmonger/capture/StoreContext.h"
 #include "Quillmonger/history/ApplicationNaming.h"
@@ -43,14 +43,13 @@ class Quillmonger final {
     StoreContext& context;
     Pasteboard& pasteboard;
     BundleProviding& bundleProvider;
+    const ApplicationBundles& applicationBundles;
     const ApplicationNaming& applicationNaming;
     PasteKeyPosting& pasteKeys;
     LocalEventMonitoring& eventMonitoring;
     Application& application;
     Window& gettingStartedWindow;
     Window& appWindow;
-    /// Whether the user wants nothing of the application with this identifier.
-    std::function<bool(std::string_view bundleIdentifier)> isAppIgnored;
   };
 
   /// Loads the history; starts nothing. The windows' content is made afterwards, from what this object owns.
@@ -86,6 +85,7 @@ class Quillmonger final {
   Platform m_platform;
   PermissionsManager m_permissionsManager;
   PasteInjection m_pasteInjection;
+  IgnoredApps m_ignoredApps;
   ClipboardManager m_clipboardManager;
   SearchViewModel m_searchViewModel;
   SearchManager<ClipboardItemViewModel> m_searchManager;

@@ -4,40 +4,45 @@
 
 namespace testsupport {
 
-using Record = quillmonger::StoreContext::Record;
+using quillmonger::ClipboardItem;
+using quillmonger::StoreContext;
 
-foundation::Result<Record> FakeStoreContext::fetchByDigest(std::string_view hashedData) {
-  if (m_failure) return foundation::Error{*m_failure};
-  for (const auto& record : m_records) {
-    if (record->hashedData() == hashedData) return record;
-  }
-  return Record();
+template <typename Rule>
+foundation::Result<StoreContext::Record> FakeStoreContext::first(const Rule& rule) const {
+  if (m_fetchError) return *m_fetchError;
+  const auto found = std::ranges::find_if(m_records, rule);
+  return found == m_records.end() ? nullptr : *found;
 }
 
-foundation::Result<Record> FakeStoreContext::fetchById(const foundation::Uuid& id) {
-  if (m_failure || m_idFailure) return foundation::Error{m_failure.value_or(m_idFailure.value_or(""))};
-  for (const auto& record : m_records) {
-    if (record->id() == id) return record;
-  }
-  return Record();
+foundation::Result<StoreContext::Record> FakeStoreContext::fetchByDigest(std::string_view hashedData) {
+  return first([hashedData](const Record& record) { return record->hashedData() == hashedData; });
 }
 
-foundation::Result<std::vector<Record>> FakeStoreContext::fetchAll() {
-  if (m_failure) return foundation::Error{*m_failure};
-  auto records = m_records;
-  std::stable_sort(records.begin(), records.end(), [](const Record& first, const Record& second) {
-    return first->creationDate() < second->creationDate();
-  });
-  return records;
+foundation::Result<StoreContext::Record> FakeStoreContext::fetchById(const foundation::Uuid& id) {
+  if (m_fetchByIdError) return *m_fetchByIdError;
+  return first([&id](const Record& record) { return record->id() == id; });
 }
 
-void FakeStoreContext::insert(const Record& record) { m_records.push_back(record); }
+foundation::Result<std::vector<StoreContext::Record>> FakeStoreContext::fetchAll() {
+  if (m_fetchError) return *m_fetchError;
+  auto sorted = m_records;
+  std::ranges::stable_sort(sorted, {}, [](const Record& record) { return record->creationDate(); });
+  return sorted;
+}
 
-void FakeStoreContext::remove(const Record& record) { std::erase(m_records, record); }
+void FakeStoreContext::insert(const Record& record) {
+  m_inserted.push_back(record);
+  if (std::ranges::find(m_records, record) == m_records.end()) m_records.push_back(record);
+}
+
+void FakeStoreContext::remove(const Record& record) {
+  m_removed.push_back(record);
+  std::erase(m_records, m_removed.back());
+}
 
 foundation::Outcome FakeStoreContext::save() {
-  ++m_saveCount;
-  if (m_failure) return foundation::Error{*m_failure};
+  ++m_saves;
+  if (m_saveError) return *m_saveError;
   return foundation::success();
 }
 

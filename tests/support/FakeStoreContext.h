@@ -1,15 +1,14 @@
 #pragma once
 
 #include <optional>
-#include <string>
-#include <utility>
+#include <string_view>
 #include <vector>
 
 #include "Quillmonger/capture/StoreContext.h"
 
 namespace testsupport {
 
-/// A store in memory, whose operations fail when the test says so.
+/// A store in memory, which remembers what was asked of it and whose fetches and saves can be made to fail.
 class FakeStoreContext final : public quillmonger::StoreContext {
  public:
   foundation::Result<Record> fetchByDigest(std::string_view hashedData) override;
@@ -19,20 +18,29 @@ class FakeStoreContext final : public quillmonger::StoreContext {
   void remove(const Record& record) override;
   foundation::Outcome save() override;
 
-  /// Every fetch and save fails with `message` from now on; with none they succeed again.
-  void failWith(std::optional<std::string> message) { m_failure = std::move(message); }
-  /// Each fetch by identity fails with `message` from now on.
-  void failFetchByIdWith(std::string message) { m_idFailure = std::move(message); }
+  /// From now on; absent lets them succeed again.
+  void failFetches(std::optional<foundation::Error> error) { m_fetchError = std::move(error); }
+  void failFetchesById(std::optional<foundation::Error> error) { m_fetchByIdError = std::move(error); }
+  void failSaves(std::optional<foundation::Error> error) { m_saveError = std::move(error); }
 
-  /// In the order of their insertion.
+  /// What is stored now, in the order of its insertion.
   [[nodiscard]] const std::vector<Record>& records() const { return m_records; }
-  [[nodiscard]] int saveCount() const { return m_saveCount; }
+  /// In the order of the calls.
+  [[nodiscard]] const std::vector<Record>& inserted() const { return m_inserted; }
+  [[nodiscard]] const std::vector<Record>& removed() const { return m_removed; }
+  [[nodiscard]] int saves() const { return m_saves; }
 
  private:
+  template <typename Rule>
+  foundation::Result<Record> first(const Rule& rule) const;
+
   std::vector<Record> m_records;
-  std::optional<std::string> m_failure;
-  std::optional<std::string> m_idFailure;
-  int m_saveCount = 0;
+  std::vector<Record> m_inserted;
+  std::vector<Record> m_removed;
+  int m_saves = 0;
+  std::optional<foundation::Error> m_fetchError;
+  std::optional<foundation::Error> m_fetchByIdError;
+  std::optional<foundation::Error> m_saveError;
 };
 
 }  // namespace testsupport

@@ -9,6 +9,7 @@
 
 #include "Quillmonger/capture/PasteboardTypes.h"
 #include "Quillmonger/settings/SettingsKeys.h"
+#include "tests/support/FakeApplicationBundles.h"
 #include "tests/support/FakeBundleProvider.h"
 #include "tests/support/FakePasteStep.h"
 #include "tests/support/FakePasteboard.h"
@@ -84,9 +85,10 @@ class ClipboardManagerTest : public testing::Test {
   testsupport::FakeBundleProvider bundleProvider;
   testsupport::FakePasteStep pasteStep;
   foundation::NotificationCenter notificationCenter;
-  std::string ignoredApp = "org.example.Keys";
-  ClipboardManager manager{{pasteboard, context, bundleProvider, pasteStep, runLoop, notificationCenter,
-                            settings.defaults, [this](std::string_view app) { return app == ignoredApp; }}};
+  testsupport::FakeApplicationBundles bundles;
+  IgnoredApps ignoredApps{settings.defaults, bundles};
+  ClipboardManager manager{
+      {pasteboard, context, bundleProvider, pasteStep, runLoop, notificationCenter, settings.defaults, ignoredApps}};
   std::vector<Record> added;
   std::vector<Record> superseded;
   std::vector<std::string> log;
@@ -371,7 +373,7 @@ TEST_F(ClipboardManagerTest, MergesARecordTwiceThatIsBothDuplicateAndModified) {
 
 TEST_F(ClipboardManagerTest, LosesACopyWhoseDuplicateCantBeLookedUpAndSaysWhy) {
   startListening();
-  context.failWith("disk on fire");
+  context.failFetches(foundation::Error{"disk on fire"});
   testing::internal::CaptureStdout();
 
   copyText("hello");
@@ -385,7 +387,7 @@ TEST_F(ClipboardManagerTest, LeavesADuplicateRemovedWhenTheModifiedRecordCantBeL
   const auto modifiedCount = std::to_string(pasteboard.changeCount() + 1);
   copy({{plainText, "text"}, {std::string(pasteboardtype::modified), modifiedCount}});
   store();
-  context.failFetchByIdWith("disk on fire");
+  context.failFetchesById(foundation::Error{"disk on fire"});
 
   copy({{plainText, "text"}, {std::string(pasteboardtype::modified), modifiedCount}});
 
@@ -394,6 +396,8 @@ TEST_F(ClipboardManagerTest, LeavesADuplicateRemovedWhenTheModifiedRecordCantBeL
 
 TEST_F(ClipboardManagerTest, DropsACopyOfAnIgnoredApplicationAndSaysSo) {
   startListening();
+  settings.defaults.set(keys::ignoredApps, {"file:///apps/keys.desktop"});
+  bundles.add("file:///apps/keys.desktop", {.identifier = "org.example.Keys", .displayName = "Keys"});
   bundleProvider.setFrontmostBundle({"org.example.Keys", std::nullopt});
   testing::internal::CaptureStdout();
 
@@ -401,6 +405,17 @@ TEST_F(ClipboardManagerTest, DropsACopyOfAnIgnoredApplicationAndSaysSo) {
 
   EXPECT_EQ(testing::internal::GetCapturedStdout(), "ignoring clip from ignored app org.example.Keys\n");
   EXPECT_TRUE(added.empty());
+}
+
+TEST_F(ClipboardManagerTest, KeepsACopyOfAnApplicationThatIsNotIgnored) {
+  startListening();
+  settings.defaults.set(keys::ignoredApps, {"file:///apps/keys.desktop"});
+  bundles.add("file:///apps/keys.desktop", {.identifier = "org.example.Keys", .displayName = "Keys"});
+  bundleProvider.setFrontmostBundle({"org.example.KeysAndLocks", std::nullopt});
+
+  copyText("hello");
+
+  EXPECT_EQ(added.size(), 1U);
 }
 
 TEST_F(ClipboardManagerTest, KeepsACopyOfAnUnknownApplication) {

@@ -39,7 +39,7 @@ struct HostNames {
 TEST(FakeStoreContext, FailsItsFetchesOnDemand) {
   testsupport::FakeStoreContext fake;
 
-  fake.failWith("no");
+  fake.failFetches(foundation::Error{"no"});
 
   EXPECT_EQ(fake.fetchAll().error().message, "no");
   EXPECT_EQ(fake.fetchByDigest("").error().message, "no");

@@ -129,7 +129,7 @@ TEST_F(ClipboardViewModelTest, SaysHowManyItemsItLoaded) {
 
 TEST_F(ClipboardViewModelTest, StaysEmptyWhenTheStoreCantBeReadAndSaysWhy) {
   context.insert(makeRecord("a"));
-  context.failWith("disk on fire");
+  context.failFetches(foundation::Error{"disk on fire"});
   testing::internal::CaptureStdout();
 
   makeViewModel();
@@ -468,7 +468,7 @@ TEST_F(ClipboardViewModelTest, DeletesEverythingFromStoreAndList) {
 
 TEST_F(ClipboardViewModelTest, DeletesNothingWhenTheStoreCantBeReadAndSaysWhy) {
   startWith({"a"});
-  context.failWith("disk on fire");
+  context.failFetches(foundation::Error{"disk on fire"});
   testing::internal::CaptureStdout();
 
   viewModel->deleteAllItems();

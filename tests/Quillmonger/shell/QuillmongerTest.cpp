@@ -9,6 +9,7 @@
 
 #include "Quillmonger/settings/SettingsKeys.h"
 #include "tests/support/FakeApplication.h"
+#include "tests/support/FakeApplicationBundles.h"
 #include "tests/support/FakeApplicationNaming.h"
 #include "tests/support/FakeBundleProvider.h"
 #include "tests/support/FakeHotKeyService.h"
@@ -45,8 +46,8 @@ class QuillmongerTest : public testing::Test {
 
   quillmonger::Quillmonger& makeRoot() {
     root = std::make_unique<quillmonger::Quillmonger>(quillmonger::Quillmonger::Platform{
-        runLoop, queue, notificationCenter, settings.defaults, shortcuts, context, pasteboard, bundleProvider, naming,
-        pasteKeys, eventMonitor, application, gettingStartedWindow, appWindow, [](std::string_view) { return false; }});
+        runLoop, queue, notificationCenter, settings.defaults, shortcuts, context, pasteboard, bundleProvider, bundles,
+        naming, pasteKeys, eventMonitor, application, gettingStartedWindow, appWindow});
     settle();
     return *root;
   }
@@ -91,6 +92,7 @@ class QuillmongerTest : public testing::Test {
   testsupport::FakeStoreContext context;
   testsupport::FakePasteboard pasteboard{runLoop};
   testsupport::FakeBundleProvider bundleProvider;
+  testsupport::FakeApplicationBundles bundles;
   testsupport::FakeApplicationNaming naming;
   testsupport::FakePasteKeys pasteKeys;
   testsupport::FakeLocalEventMonitor eventMonitor;
@@ -334,8 +336,8 @@ TEST_F(QuillmongerTest, ShowsNothingOnceItIsGone) {
 TEST_F(QuillmongerTest, SavesTheStoreAtItsEndAndSaysWhyItCant) {
   start();
   root->saveChanges();
-  EXPECT_EQ(context.saveCount(), 1);
-  context.failWith("disk on fire");
+  EXPECT_EQ(context.saves(), 1);
+  context.failSaves(foundation::Error{"disk on fire"});
   testing::internal::CaptureStdout();
 
   root->saveChanges();
