@@ -1,9 +1,14 @@
 #pragma once
 
 #include <gtest/gtest.h>
+#include <xcb/xcb.h>
 
 #include <algorithm>
+#include <chrono>
+#include <functional>
+#include <iostream>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
