@@ -4,6 +4,7 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
+#include <utility>
 
 #include "Quillmonger/resources/Appearance.h"
 
@@ -49,11 +50,12 @@ class Answer final : public QObject {
 
 }  // namespace
 
-QtAlert::QtAlert(QQmlEngine& engine, Appearance& appearance) : m_engine(engine), m_appearance(appearance) {}
+QtAlert::QtAlert(std::function<QQmlEngine&()> engine, Appearance& appearance)
+    : m_engine(std::move(engine)), m_appearance(appearance) {}
 
 int QtAlert::runModal(const Content& content) {
   const int lastAnswer = firstButton + static_cast<int>(content.buttons.size()) - 1;
-  QQuickView view(&m_engine, nullptr);
+  QQuickView view(&m_engine(), nullptr);
   view.setFlags(Qt::Dialog | Qt::WindowStaysOnTopHint);
   view.setModality(Qt::ApplicationModal);
   view.setTitle(QString::fromStdString(content.message));
