@@ -106,6 +106,25 @@ function(quillmonger_module target)
   _quillmonger_target(${target} USES ${MODULE_USES} SYSTEM ${MODULE_SYSTEM} SOURCES ${MODULE_SOURCES})
 endfunction()
 
+# A static library of this folder with a QML module: its *.qml files, compiled ahead of time, and the types in SOURCES
+# that they use. A program calls `registerTypes` of the folder before it loads a view (see QmlModule.h there).
+function(quillmonger_qml_module target)
+  cmake_parse_arguments(PARSE_ARGV 1 MODULE "" "URI" "USES;SYSTEM;SOURCES;QML;RESOURCES")
+  quillmonger_module(${target} USES ${MODULE_USES} SYSTEM qt ${MODULE_SYSTEM} SOURCES ${MODULE_SOURCES})
+  # What Qt generates compiles without our warnings.
+  set_target_properties(${target} PROPERTIES AUTOMOC ON COMPILE_OPTIONS "")
+  set_source_files_properties(${MODULE_SOURCES} PROPERTIES COMPILE_OPTIONS "${QUILLMONGER_WARNINGS}")
+  target_include_directories(${target} PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
+  foreach(file IN LISTS MODULE_QML MODULE_RESOURCES)
+    get_filename_component(name "${file}" NAME)
+    set_source_files_properties(${file} PROPERTIES QT_RESOURCE_ALIAS "${name}")
+  endforeach()
+  # The engine looks for modules below this prefix by itself.
+  qt_add_qml_module(${target} URI ${MODULE_URI} VERSION 1.0 RESOURCE_PREFIX /qt-project.org/imports NO_PLUGIN
+    OUTPUT_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}/module"
+    QML_FILES ${MODULE_QML} RESOURCES ${MODULE_RESOURCES})
+endfunction()
+
 # A program of this folder.
 function(quillmonger_program target)
   cmake_parse_arguments(PARSE_ARGV 1 MODULE "" "" "USES;SYSTEM;SOURCES")

@@ -3,12 +3,12 @@
 
 find_package(PkgConfig REQUIRED)
 find_package(Threads REQUIRED)
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Qml Quick Svg)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Qml Quick Svg Test)
 find_package(ICU REQUIRED COMPONENTS uc i18n)
 find_package(SQLite3 REQUIRED)
 find_package(nlohmann_json REQUIRED)
 pkg_check_modules(NETTLE REQUIRED IMPORTED_TARGET nettle)
-pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb xcb-xfixes xcb-xtest xcb-keysyms)
+pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb xcb-xfixes xcb-xtest xcb-xkb xcb-keysyms)
 pkg_check_modules(GLIB REQUIRED IMPORTED_TARGET glib-2.0)
 
 set(QUILLMONGER_OUTSIDE_posix_INCLUDES "^(sys/.*|arpa/.*|netinet/.*|dirent|errno|fcntl|poll|pwd|signal|spawn|time|unistd)(\\.h)?$")
@@ -26,7 +26,7 @@ set(QUILLMONGER_OUTSIDE_xcb_LINKS PkgConfig::XCB)
 set(QUILLMONGER_OUTSIDE_glib_INCLUDES "^glib\\.h$")
 set(QUILLMONGER_OUTSIDE_glib_LINKS PkgConfig::GLIB)
 set(QUILLMONGER_OUTSIDE_qt_INCLUDES "^(Q[A-Za-z]+|Qt[A-Za-z]+/.*|qpa/.*\\.h)$")
-set(QUILLMONGER_OUTSIDE_qt_LINKS Qt6::Core Qt6::Gui Qt6::Qml Qt6::Quick)
+set(QUILLMONGER_OUTSIDE_qt_LINKS Qt6::Core Qt6::Gui Qt6::Qml Qt6::Quick Qt6::Svg)
 
 if(BUILD_TESTING)
   find_package(GTest REQUIRED)

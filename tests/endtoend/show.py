@@ -24,13 +24,13 @@ def main(build):
 
         terminal = desktop.home / "terminal.txt"
         desktop.spawn(["xterm", "-xrm", "XTerm*selectToClipboard: true", "-T", "terminal", "-geometry", "80x12+40+40",
-                       "-e", "sh", "-c", f"echo ssh-keygen; cat > {terminal}"])
+                       "-e", "sh", "-c", f"echo keyboard; cat > {terminal}"])
         window = desktop.window("^terminal$")
         desktop.focus(window)
 
         def copied():
             desktop.run(["xdotool", "mousemove", "--window", window, "20", "10", "click", "--repeat", "2", "1"])
-            return any("ssh" in text for text in desktop.texts())
+            return any("keyboard" in text for text in desktop.texts())
         wait_until(copied, "the terminal's selection in the history", step=0.3)
         step(f"a word selected in a terminal was copied from {desktop.records()[0]['sourceAppBundleIdentifier']}")
 

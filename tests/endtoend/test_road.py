@@ -98,18 +98,18 @@ class TheWholeRoad(RoadCase):
     def test_a_copy_of_a_terminal_goes_into_a_gtk_editor(self):
         self.desktop.start_app()
         self.desktop.spawn(["xterm", "-xrm", "XTerm*selectToClipboard: true", "-T", "source", "-e",
-                            "sh", "-c", "printf terminal-word; sleep 600"])
+                            "sh", "-c", "printf terminalword; sleep 600"])
         window = self.desktop.window("^source$")
         self.desktop.focus(window)
         def selected():
             self.desktop.run(["xdotool", "mousemove", "--window", window, "20", "10", "click", "--repeat", "2", "1"])
-            return "terminal-word" in self.desktop.texts()
+            return "terminalword" in self.desktop.texts()
         wait_until(selected, "the terminal's selection in the history", step=0.3)
         file, _ = self.open_gtk_editor()
 
-        self.paste_from_history("terminal-w")
+        self.paste_from_history("terminalw")
 
-        self.save_until(file, "terminal-word")
+        self.save_until(file, "terminalword")
 
     def test_the_terminal_keeps_the_focus_and_the_copy_after_escape(self):
         self.desktop.start_app()

@@ -1,0 +1,64 @@
+#include "Platform/qt/QtApplication.h"
+
+#include <xcb/xcb.h>
+
+#include <QAbstractNativeEventFilter>
+#include <QGuiApplication>
+#include <QWindow>
+#include <utility>
+
+namespace platform {
+
+// While a chord or a menu holds the keyboard, X11 says that the focus went out and in again, though it stays where it
+// is. Qt would take that for the loss of the front.
+class QtApplication::GrabFilter final : public QAbstractNativeEventFilter {
+ public:
+  bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* /*result*/) override {
+    if (eventType != "xcb_generic_event_t") return false;
+    const auto* event = static_cast<const xcb_generic_event_t*>(message);
+    const int type = event->response_type & 0x7F;
+    if (type != XCB_FOCUS_OUT && type != XCB_FOCUS_IN) return false;
+    const auto mode = reinterpret_cast<const xcb_focus_in_event_t*>(event)->mode;
+    return mode == XCB_NOTIFY_MODE_GRAB || mode == XCB_NOTIFY_MODE_UNGRAB;
+  }
+};
+
+QtApplication::QtApplication(quillmonger::WindowSystem& windowSystem)
+    : m_windowSystem(windowSystem), m_grabFilter(std::make_unique<GrabFilter>()) {
+  QGuiApplication::setQuitOnLastWindowClosed(false);
+  qGuiApp->installNativeEventFilter(m_grabFilter.get());
+  QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, &m_connections,
+                   [this](Qt::ApplicationState state) {
+                     const bool wasActive = std::exchange(m_isActive, state == Qt::ApplicationActive);
+                     if (wasActive && !m_isActive) m_didResignActive.send(0);
+                   });
+}
+
+QtApplication::~QtApplication() { qGuiApp->removeNativeEventFilter(m_grabFilter.get()); }
+
+// An entry in the task list belongs to a window on this desktop, and to none of a program without windows: each window
+// decides for itself, and the policy needs nothing.
+void QtApplication::setActivationPolicy(ActivationPolicy /*policy*/) {}
+
+void QtApplication::activateIgnoringOtherApps() {
+  for (const QWindow* window : QGuiApplication::topLevelWindows()) {
+    if (window->isVisible()) m_windowSystem.bringToFront(window->winId());
+  }
+}
+
+// The window manager gives the focus back to the window that had it as soon as ours are gone.
+void QtApplication::hide() {
+  for (QWindow* window : QGuiApplication::topLevelWindows())
+    window->hide();
+}
+
+void QtApplication::terminate() {
+  QMetaObject::invokeMethod(
+      qGuiApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
+}
+
+foundation::Subscription QtApplication::onDidResignActive(std::function<void()> receiver) {
+  return m_didResignActive.subscribe([receiver = std::move(receiver)](int) { receiver(); });
+}
+
+}  // namespace platform

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "Platform/x11/X11Thread.h"
+#include "Quillmonger/input/PasteKeyPosting.h"
+
+namespace platform {
+
+/// Presses Control and V, with Shift for a terminal, through XTest: once the clipboard is this program's, a window of
+/// another program has the keyboard, and the user holds no modifier. Waits for that on a thread of its own, at most a
+/// second.
+class X11PasteKeys final : public quillmonger::PasteKeyPosting {
+ public:
+  /// Whether the application of this window class is a terminal, beyond the ones that are known here. Called on the
+  /// service's thread.
+  using TerminalPredicate = std::function<bool(const std::string& windowClass)>;
+
+  /// Null when there is no X server, or one without XTest. `selectionWindow` is the window that owns CLIPBOARD when
+  /// the program has written it.
+  [[nodiscard]] static std::unique_ptr<X11PasteKeys> connect(xcb_window_t selectionWindow, TerminalPredicate isTerminal,
+                                                             const std::string& display = {});
+  ~X11PasteKeys() override;
+
+  void postPasteKeyEvents() override;
+
+ private:
+  class Injector;
+  explicit X11PasteKeys(std::unique_ptr<X11Thread> thread, std::unique_ptr<Injector> injector);
+
+  std::unique_ptr<Injector> m_injector;  // touched on the thread alone
+  std::unique_ptr<X11Thread> m_thread;   // last, so that it ends before what it uses
+};
+
+}  // namespace platform

@@ -1,0 +1,37 @@
+#include "Quillmonger/history/view/AttributedLine.h"
+
+#include <algorithm>
+
+namespace quillmonger {
+
+void AttributedLine::setLine(const QVariant& line) {
+  m_line = line;
+  emit changed();
+}
+
+void AttributedLine::setDimmedColor(const QColor& color) {
+  if (color == m_dimmedColor) return;
+  m_dimmedColor = color;
+  emit changed();
+}
+
+bool AttributedLine::isPlain() const {
+  const TextRuns present = runs();
+  return std::ranges::all_of(present, [](const TextRun& run) { return run.style == TextRun::Style::plain; });
+}
+
+QString AttributedLine::text() const {
+  const TextRuns present = runs();
+  if (isPlain()) return plainText(present);
+  QString text;
+  for (const TextRun& run : present) {
+    // Blanks at the edge of a tag would be dropped by the markup.
+    const QString escaped = run.text.toHtmlEscaped().replace(u' ', QStringLiteral("&nbsp;"));
+    if (run.style == TextRun::Style::bold) text += QStringLiteral("<b>%1</b>").arg(escaped);
+    if (run.style == TextRun::Style::dimmed)
+      text += QStringLiteral("<font color=\"%1\">%2</font>").arg(m_dimmedColor.name(), escaped);
+  }
+  return text;
+}
+
+}  // namespace quillmonger

@@ -1,0 +1,91 @@
+import QtQuick
+import Quillmonger.Resources
+
+// One row of the history.
+Item {
+    id: row
+
+    required property int index
+    required property string line
+    required property var attributedLine
+    required property string iconPath
+    required property string appName
+    required property bool isImage
+    required property bool isFileURL
+
+    required property ClipboardViewAdapter clipboard
+    required property HistorySettings settings
+    required property Theme theme
+
+    readonly property bool isSelected: clipboard.selectedRow === index
+
+    objectName: "ClipboardItem"
+    height: theme.rowHeight
+    Accessible.role: Accessible.ListItem
+    Accessible.name: isImage && line === "" ? qsTrId("accessibility_picture") : line
+    Accessible.selectable: true
+    Accessible.selected: isSelected
+    Accessible.onPressAction: clipboard.select(index)
+
+    Rectangle {
+        objectName: "RowHighlight"
+        anchors.fill: parent
+        visible: row.isSelected
+        radius: row.theme.rowRadius
+        antialiasing: true
+        color: row.theme.highlightColor
+    }
+
+    AppIcon {
+        id: icon
+        anchors { left: parent.left; leftMargin: visible ? 6 : 2; verticalCenter: parent.verticalCenter }
+        visible: row.settings.showSourceAppIcon && row.iconPath !== ""
+        path: row.iconPath
+        toolTip: row.appName
+        theme: row.theme
+    }
+
+    TextBar {
+        anchors {
+            left: icon.right; leftMargin: 8
+            right: marks.left; rightMargin: 8
+            verticalCenter: parent.verticalCenter
+        }
+        attributedLine: row.attributedLine
+        isSelected: row.isSelected
+        isFileURL: row.isFileURL
+        isOptionPressed: row.clipboard.isOptionPressed
+        settings: row.settings
+        theme: row.theme
+    }
+
+    Row {
+        id: marks
+        anchors { right: parent.right; rightMargin: 8; verticalCenter: parent.verticalCenter }
+        spacing: 5
+
+        ContentTypeIndicators {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: row.settings.showContentTypeIndicators && (row.isImage || row.isFileURL)
+            isImage: row.isImage
+            isFileURL: row.isFileURL
+            isSelected: row.isSelected
+            theme: row.theme
+        }
+
+        HotKeyIcon {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: row.settings.showKeyboardShortcuts
+            index: row.index
+            isSelected: row.isSelected
+            theme: row.theme
+        }
+    }
+
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: Qt.LeftButton
+        onClicked: row.clipboard.select(row.index)
+        onDoubleClicked: row.clipboard.paste(row.index)
+    }
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QAbstractListModel>
+
+#include "Quillmonger/history/ClipboardItemViewModel.h"
+#include "Quillmonger/search/SearchResult.h"
+
+namespace quillmonger {
+
+/// The rows of the history. They change by identity: a row that stays keeps its place in the view, a new search
+/// replaces all at once. Each row is worked out when it is shown. Main thread.
+class HistoryListModel final : public QAbstractListModel {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("made by the program")
+
+ public:
+  using Rows = SearchResults<ClipboardItemViewModel>;
+  enum Role {
+    lineRole = Qt::UserRole,  ///< the text of the row, on one line
+    attributedLineRole,       ///< the same with the hit, a `RowLine`
+    iconPathRole,             ///< the source application's desktop entry; empty when there is none
+    appNameRole,              ///< the source application's name
+    isImageRole,
+    isFileURLRole
+  };
+  enum class Change { gradual, reset };
+
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+  [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+  /// Never null.
+  [[nodiscard]] const Rows& rows() const { return m_rows; }
+  /// Tells how the view was led to the new rows.
+  Change setRows(const Rows& rows);
+  /// -1 when it is not among the rows.
+  [[nodiscard]] int rowOf(const std::shared_ptr<ClipboardItemViewModel>& item) const;
+
+ private:
+  void updateMatches(const Rows& before);
+
+  Rows m_rows = std::make_shared<const std::vector<SearchResult<ClipboardItemViewModel>>>();
+};
+
+}  // namespace quillmonger

@@ -1,0 +1,31 @@
+#include "Quillmonger/resources/Appearance.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QPalette>
+
+#include "Quillmonger/settings/SettingsKeys.h"
+
+namespace quillmonger {
+
+Appearance::Appearance(defaults::Defaults& defaults) {
+  m_subscription = defaults.updates<std::optional<ColorScheme>>(
+      keys::selectedColorScheme, defaults::Defaults::Initial::yes, [this](const std::optional<ColorScheme>& scheme) {
+        m_selectedColorScheme = scheme;
+        emit isDarkChanged();
+      });
+  qGuiApp->installEventFilter(this);
+}
+
+bool Appearance::isDark() const {
+  if (m_selectedColorScheme) return *m_selectedColorScheme == ColorScheme::dark;
+  const QPalette palette = QGuiApplication::palette();
+  return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+}
+
+bool Appearance::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == qGuiApp && event->type() == QEvent::ApplicationPaletteChange) emit isDarkChanged();
+  return false;
+}
+
+}  // namespace quillmonger

@@ -1,0 +1,66 @@
+#include "Quillmonger/resources/Texts.h"
+
+#include <QCoreApplication>
+#include <algorithm>
+#include <array>
+
+namespace quillmonger {
+
+namespace {
+
+struct Entry {
+  std::string_view key;
+  const char* text;
+  const char* comment;
+};
+
+constexpr auto entries = std::to_array<Entry>({
+    {"accessibility_app_icon", "Copied from %1", "Read aloud for the source application's icon; %1 is its name."},
+    {"accessibility_contains_data", "Recognised content",
+     "Read aloud for the mark of a text with a date, colour or JSON."},
+    {"accessibility_file", "File", "Read aloud for the mark of a file."},
+    {"accessibility_history", "Clipboard history", "Read aloud for the list of copies."},
+    {"accessibility_picture", "Picture", "Read aloud for the mark of a picture, and for a picture's row."},
+    {"cancel_string", "Cancel", "The word 'cancel'."},
+    {"empty_space_text", "Nothing copied yet. Your next copy shows up here.",
+     "Text shown when the user has no items copied to their clipboard (empty state)."},
+    {"error_alert_email_subject", "Quillmonger problem report",
+     "Email subject sent when the support button is pressed."},
+    {"error_alert_email_support_button", "Write to support", "Email support button."},
+    {"error_alert_message", "Quillmonger can't open its history and has to stop. Your data was left as it is.",
+     "Message shown in generic error alert."},
+    {"error_alert_title", "Something went wrong", "Title shown in generic error alert."},
+    {"getting_started_chord", "Press %1 anywhere", "Guide: the chord that shows the history; %1 is the chord."},
+    {"getting_started_chord_details", "Your history opens over whatever you are doing.", "Guide: below the chord."},
+    {"getting_started_finish", "Start", "Guide: the button that ends it."},
+    {"getting_started_paste", "Return pastes", "Guide: how to paste."},
+    {"getting_started_paste_details", "The chosen copy goes into the window that you came from.",
+     "Guide: below how to paste."},
+    {"getting_started_search", "Type to search", "Guide: how to search."},
+    {"getting_started_search_details", "Any word of a copy brings it up.", "Guide: below how to search."},
+    {"getting_started_text", "Everything that you copy stays at hand.", "Guide: one sentence below the title."},
+    {"getting_started_title", "Welcome to Quillmonger", "Guide: title."},
+    {"paste_with_formatting_text", "Paste with formatting",
+     "Indicator that the paste will be made with text formatting."},
+    {"paste_without_formatting_text", "Paste without formatting",
+     "Indicator that the paste will be made without any text formatting."},
+    {"quick_paste_key", "Ctrl+%1", "The keys that paste a row; %1 is a digit."},
+    {"search_bar_text_field", "Search", "The placeholder text that goes in the search box."},
+    {"toggle_preview_pane_button_help", "Show or hide the preview", "Tooltip for the toggle preview pane button."},
+});
+
+static_assert(std::ranges::is_sorted(entries, {}, &Entry::key));
+
+}  // namespace
+
+QString Texts::translate(const char* /*context*/, const char* key, const char* /*disambiguation*/,
+                         int /*count*/) const {
+  const std::string_view wanted = key == nullptr ? std::string_view{} : key;
+  const auto entry = std::ranges::lower_bound(entries, wanted, {}, &Entry::key);
+  if (entry == entries.end() || entry->key != wanted) return {};
+  return QString::fromUtf8(entry->text);
+}
+
+std::string localizedText(std::string_view key) { return qtTrId(std::string(key).c_str()).toStdString(); }
+
+}  // namespace quillmonger

@@ -1,0 +1,46 @@
+import QtQuick
+
+// Colours, sizes, type and motion of every window. Text on each background it is meant for has a contrast of at least
+// 4.5 to 1.
+QtObject {
+    required property bool isDark
+
+    // Backgrounds and lines
+    readonly property color window: isDark ? "#22242a" : "#f8f8fa"
+    readonly property color border: isDark ? "#44474f" : "#cfd0d8"
+    readonly property color separator: isDark ? "#33363e" : "#e4e4ea"
+    readonly property color scrollBar: isDark ? "#5a5e69" : "#bdbfc9"
+
+    // Text and symbols
+    readonly property color primary: isDark ? "#f1f1f4" : "#1c1d22"
+    readonly property color secondary: isDark ? "#a6a9b5" : "#656873"
+    readonly property color tertiary: isDark ? "#9699a6" : "#6b6e79"
+
+    // The selected row
+    readonly property color highlightColor: isDark ? "#4557b8" : "#4a5dc4"
+    readonly property color selectedPrimary: "#ffffff"
+    readonly property color selectedSecondary: isDark ? "#d5dbfb" : "#e4e8fd"
+
+    readonly property color accentColor: isDark ? "#95a5ff" : "#4357bd"
+
+    readonly property int windowRadius: 15
+    readonly property int rowRadius: 6
+    readonly property int rowHeight: 42
+    readonly property int margin: 8
+    readonly property int searchBarHeight: 58
+    readonly property int iconSize: 32
+    readonly property int symbolSize: 20
+    readonly property int indicatorSize: 14
+
+    readonly property int searchFontSize: 20
+    readonly property int titleFontSize: 26
+    readonly property int noteFontSize: 18
+    readonly property int rowFontSize: 16
+    readonly property int bodyFontSize: 15
+    readonly property int keyFontSize: 14
+    readonly property int hintFontSize: 11
+
+    // Milliseconds. Long enough to be followed with the eye, too short to be waited for.
+    readonly property int rowMotion: 90
+    readonly property int fade: 140
+}

@@ -1,0 +1,105 @@
+#include "Quillmonger/shell/app/Composition.h"
+
+#include <QDesktopServices>
+#include <algorithm>
+#include <utility>
+
+#include "Foundation/Fatal.h"
+#include "Foundation/Output.h"
+#include "Quillmonger/resources/Texts.h"
+#include "Quillmonger/shell/command/CommandSyntax.h"
+
+namespace quillmonger {
+
+namespace {
+
+constexpr auto supportAddress = "support@quillmonger.example";
+
+template <typename Service>
+std::unique_ptr<Service> required(std::unique_ptr<Service> service, std::string_view what) {
+  if (!service) foundation::stopProcess("Quillmonger needs an X11 display that offers " + std::string(what) + ".");
+  return service;
+}
+
+void openUrl(const foundation::Url& url) {
+  QDesktopServices::openUrl(QUrl(QString::fromStdString(url.absoluteString())));
+}
+
+}  // namespace
+
+Composition::Composition(const platform::XdgFolders& folders, const std::vector<std::string>& arguments)
+    : m_folders(folders),
+      m_userDefaults(folders.config / "settings.json", m_runLoop),
+      m_defaults(m_userDefaults),
+      m_windowSystem(required(platform::X11WindowSystem::connect(), "windows")),
+      m_hotKeys(required(platform::X11HotKeys::connect(m_runLoop), "the XKEYBOARD extension")),
+      m_pasteboard(required(
+          platform::X11Pasteboard::connect(m_runLoop, TypeFilter(), pasteboardName(arguments).value_or("CLIPBOARD")),
+          "the XFIXES extension")),
+      m_pasteKeys(required(
+          platform::X11PasteKeys::connect(
+              m_pasteboard->selectionWindow(),
+              [this](const std::string& windowClass) { return m_desktopEntries.isTerminal(windowClass); }),
+          "the XTEST extension")),
+      m_desktopEntries(folders.dataSearch),
+      m_applicationBundles(m_desktopEntries),
+      m_applicationNaming(m_applicationBundles),
+      m_bundleProvider([this] { return m_pasteboard->frontmostAtPresentContent(); }, m_desktopEntries),
+      m_application(*m_windowSystem),
+      m_views(m_defaults, *m_windowSystem, [this](const std::string& path) { return m_desktopEntries.iconAt(path); }),
+      m_dialogManager(m_views.alert(), localizedText, openUrl, supportAddress),
+      m_contextProvider(m_dialogManager, folders.data, m_runLoop),
+      m_shortcuts(*m_hotKeys, m_userDefaults, m_notificationCenter),
+      m_root({m_runLoop, m_backgroundQueue, m_notificationCenter, m_defaults, m_shortcuts, m_contextProvider.context(),
+              *m_pasteboard, m_bundleProvider, m_applicationBundles, m_applicationNaming, *m_pasteKeys, m_eventMonitor,
+              m_application, m_views.gettingStartedWindow(), m_views.appWindow()}),
+      m_commandLine(commandOperations(), m_defaults) {
+  m_views.feed(m_root);
+  m_resigning = m_application.onDidResignActive([this] { m_root.applicationDidResignActive(); });
+}
+
+Composition::~Composition() = default;
+
+void Composition::launch(const std::vector<std::string>& arguments) {
+  m_root.start();
+  std::vector<std::string> urls;
+  std::ranges::copy_if(arguments, std::back_inserter(urls), isUrlWord);
+  m_root.openURLs(urls);
+  listenToCommands();
+  tellServices();
+  // In a later turn: whoever waits for the start need not wait for the window, nor the first chord for its views.
+  m_runLoop.post([this] { m_views.appWindow().prepare(); });
+}
+
+void Composition::saveChanges() {
+  m_root.saveChanges();
+  m_userDefaults.synchronize();
+}
+
+CommandLine::Operations Composition::commandOperations() {
+  return {[this] { m_root.windowManager().toggleAppWindow(); }, [this] { m_root.windowManager().showAppWindow(); },
+          [this] { m_root.quitApp(); }, [this](const std::vector<std::string>& urls) { m_root.openURLs(urls); },
+          [this] { return recordsNewestFirst(); }};
+}
+
+std::vector<std::shared_ptr<ClipboardItem>> Composition::recordsNewestFirst() {
+  std::vector<std::shared_ptr<ClipboardItem>> records;
+  for (const auto& item : m_root.clipboardViewModel().items())
+    records.push_back(item->item());
+  std::ranges::stable_sort(records, std::greater(), [](const auto& record) { return record->creationDate(); });
+  return records;
+}
+
+void Composition::listenToCommands() {
+  m_commandSocket =
+      platform::CommandSocket::listen(m_folders.runtime / "socket", m_runLoop, [this](const auto& line, const auto& reply) {
+        reply(m_commandLine.answer(line));
+      });
+}
+
+void Composition::tellServices() const {
+  foundation::printLine(
+      "Quillmonger is ready: clipboard by X11 (XFixes), global chord by X11 key grabs, paste keys by X11 (XTest)");
+}
+
+}  // namespace quillmonger

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "Defaults/Defaults.h"
+#include "Defaults/FileUserDefaults.h"
+#include "Foundation/NotificationCenter.h"
+#include "KeyboardShortcuts/KeyboardShortcuts.h"
+#include "Platform/freedesktop/CommandSocket.h"
+#include "Platform/freedesktop/DesktopApplicationBundles.h"
+#include "Platform/freedesktop/DesktopApplicationNaming.h"
+#include "Platform/freedesktop/DesktopBundleProvider.h"
+#include "Platform/freedesktop/DesktopEntries.h"
+#include "Platform/freedesktop/XdgFolders.h"
+#include "Platform/qt/QtApplication.h"
+#include "Platform/qt/QtBackgroundQueue.h"
+#include "Platform/qt/QtLocalEventMonitor.h"
+#include "Platform/qt/QtRunLoop.h"
+#include "Platform/x11/X11HotKeys.h"
+#include "Platform/x11/X11PasteKeys.h"
+#include "Platform/x11/X11Pasteboard.h"
+#include "Platform/x11/X11WindowSystem.h"
+#include "Quillmonger/capture/ContextProvider.h"
+#include "Quillmonger/shell/DialogManager.h"
+#include "Quillmonger/shell/Quillmonger.h"
+#include "Quillmonger/shell/app/Views.h"
+#include "Quillmonger/shell/command/CommandLine.h"
+
+namespace quillmonger {
+
+/// The whole object graph of the running program: the adapters of this desktop, the logic on them, and the views. The
+/// only place that knows all three. Made on the main thread after the application object, and gone before it.
+class Composition final {
+ public:
+  /// `arguments`: the program's, without its name. Opens the store and loads the history. A display without what the
+  /// program needs of it stops the process with a message that says so.
+  Composition(const platform::XdgFolders& folders, const std::vector<std::string>& arguments);
+  ~Composition();
+
+  /// Launching has finished: starts, says what is in use, and takes commands from then on.
+  void launch(const std::vector<std::string>& arguments);
+  /// Brings everything to the disk. The last call.
+  void saveChanges();
+  void quit() { m_root.quitApp(); }
+
+ private:
+  [[nodiscard]] CommandLine::Operations commandOperations();
+  [[nodiscard]] std::vector<std::shared_ptr<ClipboardItem>> recordsNewestFirst();
+  void listenToCommands();
+  void tellServices() const;
+
+  platform::XdgFolders m_folders;
+  platform::QtRunLoop m_runLoop;
+  platform::QtBackgroundQueue m_backgroundQueue;
+  foundation::NotificationCenter m_notificationCenter;
+  defaults::FileUserDefaults m_userDefaults;
+  defaults::Defaults m_defaults;
+
+  std::unique_ptr<platform::X11WindowSystem> m_windowSystem;
+  std::unique_ptr<platform::X11HotKeys> m_hotKeys;
+  std::unique_ptr<platform::X11Pasteboard> m_pasteboard;
+  std::unique_ptr<platform::X11PasteKeys> m_pasteKeys;
+  platform::DesktopEntries m_desktopEntries;
+  platform::DesktopApplicationBundles m_applicationBundles;
+  platform::DesktopApplicationNaming m_applicationNaming;
+  platform::DesktopBundleProvider m_bundleProvider;
+  platform::QtLocalEventMonitor m_eventMonitor;
+  platform::QtApplication m_application;
+  Views m_views;
+
+  DialogManager m_dialogManager;
+  ContextProvider m_contextProvider;
+  keyboardshortcuts::KeyboardShortcuts m_shortcuts;
+  Quillmonger m_root;
+
+  CommandLine m_commandLine;
+  std::unique_ptr<platform::CommandSocket> m_commandSocket;
+  foundation::Subscription m_resigning;
+};
+
+}  // namespace quillmonger

@@ -1,0 +1,72 @@
+#include "Quillmonger/shell/app/Views.h"
+
+#include <utility>
+
+#include "Quillmonger/guide/view/QmlModule.h"
+#include "Quillmonger/history/view/QmlModule.h"
+#include "Quillmonger/resources/QmlModule.h"
+#include "Quillmonger/resources/Texts.h"
+#include "Quillmonger/search/view/QmlModule.h"
+#include "Quillmonger/shell/view/QmlModule.h"
+
+namespace quillmonger {
+
+namespace {
+
+constexpr QSize appWindowSize(600, 445);
+constexpr QSize gettingStartedWindowSize(550, 640);
+
+}  // namespace
+
+Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCache::IconNaming iconNaming)
+    : m_defaults(defaults),
+      m_iconNaming(std::move(iconNaming)),
+      m_appearance(defaults),
+      m_historySettings(defaults),
+      m_alert([this]() -> QQmlEngine& { return engine(); }, m_appearance),
+      m_appWindow({platform::QtQuickWindow::Kind::palette, appWindowSize, QStringLiteral("Quillmonger"),
+                   [this] { return appContent(); }, [this]() -> QQmlEngine& { return engine(); }},
+                  windowSystem),
+      m_gettingStartedWindow({platform::QtQuickWindow::Kind::dialog, gettingStartedWindowSize,
+                              QString::fromStdString(localizedText("getting_started_title")),
+                              [this] { return gettingStartedContent(); }, [this]() -> QQmlEngine& { return engine(); }},
+                             windowSystem) {}
+
+void Views::feed(Quillmonger& root) {
+  ClipboardViewModel& history = root.clipboardViewModel();
+  m_searchBarModel = std::make_unique<SearchBarModel>(root.searchViewModel().searchTerm(), m_defaults, nullptr);
+  m_clipboardViewAdapter = std::make_unique<ClipboardViewAdapter>(ClipboardViewAdapter::History{
+      history.filteredItems(), history.selectedItem(), history.isOptionPressed(),
+      [&history] { return history.items().empty(); }, [&history](const auto& item) { history.select(item); }});
+  m_gettingStartedModel =
+      std::make_unique<GettingStartedModel>(QStringLiteral("Shift+Super+V"), [&root] { root.finishGettingStarted(); });
+}
+
+QQmlEngine& Views::engine() {
+  if (!m_engine) {
+    m_engine = std::make_unique<QQmlEngine>();
+    resourcesview::registerTypes(*m_engine);
+    searchview::registerTypes();
+    historyview::registerTypes();
+    guideview::registerTypes();
+    shellview::registerTypes();
+    m_engine->addImageProvider(QStringLiteral("appicon"), new ImageCache(m_iconNaming));
+  }
+  return *m_engine;
+}
+
+Views::Content Views::appContent() {
+  return {QUrl(QStringLiteral("qrc:/qt-project.org/imports/Quillmonger/History/AppView.qml")),
+          {{"clipboard", QVariant::fromValue(m_clipboardViewAdapter.get())},
+           {"search", QVariant::fromValue(m_searchBarModel.get())},
+           {"settings", QVariant::fromValue(&m_historySettings)},
+           {"appearance", QVariant::fromValue(&m_appearance)}}};
+}
+
+Views::Content Views::gettingStartedContent() {
+  return {QUrl(QStringLiteral("qrc:/qt-project.org/imports/Quillmonger/Guide/GettingStartedView.qml")),
+          {{"model", QVariant::fromValue(m_gettingStartedModel.get())},
+           {"appearance", QVariant::fromValue(&m_appearance)}}};
+}
+
+}  // namespace quillmonger

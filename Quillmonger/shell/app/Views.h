@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QQmlEngine>
+#include <memory>
+
+#include "Defaults/Defaults.h"
+#include "Platform/qt/QtQuickWindow.h"
+#include "Quillmonger/guide/view/GettingStartedModel.h"
+#include "Quillmonger/history/view/ClipboardViewAdapter.h"
+#include "Quillmonger/history/view/HistorySettings.h"
+#include "Quillmonger/history/view/ImageCache.h"
+#include "Quillmonger/resources/Appearance.h"
+#include "Quillmonger/search/view/SearchBarModel.h"
+#include "Quillmonger/shell/Quillmonger.h"
+#include "Quillmonger/shell/view/QtAlert.h"
+#include "Quillmonger/shell/windows/WindowSystem.h"
+
+namespace quillmonger {
+
+/// The program's windows and alert, and what feeds their views. The windows exist before the logic that shows them;
+/// their content is made afterwards, from what the logic owns. Main thread.
+class Views final {
+ public:
+  /// All outlive the views.
+  Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCache::IconNaming iconNaming);
+
+  [[nodiscard]] platform::QtQuickWindow& appWindow() { return m_appWindow; }
+  [[nodiscard]] platform::QtQuickWindow& gettingStartedWindow() { return m_gettingStartedWindow; }
+  [[nodiscard]] Alert& alert() { return m_alert; }
+
+  /// Before the first window is shown. `root` outlives the views.
+  void feed(Quillmonger& root);
+
+ private:
+  using Content = platform::QtQuickWindow::Content;
+  /// Made when the first view needs it: a start has no use for it before.
+  QQmlEngine& engine();
+  [[nodiscard]] Content appContent();
+  [[nodiscard]] Content gettingStartedContent();
+
+  defaults::Defaults& m_defaults;
+  ImageCache::IconNaming m_iconNaming;
+  Appearance m_appearance;
+  HistorySettings m_historySettings;
+  std::unique_ptr<SearchBarModel> m_searchBarModel;
+  std::unique_ptr<ClipboardViewAdapter> m_clipboardViewAdapter;
+  std::unique_ptr<GettingStartedModel> m_gettingStartedModel;
+  // Destroyed after the windows, whose views are its objects, and before what the views show.
+  std::unique_ptr<QQmlEngine> m_engine;
+  QtAlert m_alert;
+  platform::QtQuickWindow m_appWindow;
+  platform::QtQuickWindow m_gettingStartedWindow;
+};
+
+}  // namespace quillmonger

@@ -1,0 +1,42 @@
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+#include <string>
+#include <system_error>
+#include <utility>
+
+#include "Platform/freedesktop/XdgFolders.h"
+#include "Quillmonger/shell/client/Client.h"
+#include "Quillmonger/shell/client/StartedApplication.h"
+
+namespace {
+
+bool isSet(const char* name) {
+  const char* value = std::getenv(name);
+  return value != nullptr && *value != '\0';
+}
+
+bool startApplication() {
+  std::error_code error;
+  const auto self = std::filesystem::read_symlink("/proc/self/exe", error);
+  if (error) return false;
+  const auto program = quillmonger::applicationBeside(self);
+  return program.has_value() && quillmonger::startDetached(*program);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const auto folders = platform::XdgFolders::present();
+  quillmonger::Client::Surroundings surroundings;
+  // Not in a folder that someone else could have put there: then there is nobody to ask.
+  if (platform::ensurePrivateFolder(folders.runtime)) surroundings.socket = folders.runtime / "socket";
+  surroundings.settingsFile = folders.config / "settings.json";
+  surroundings.hasDisplay = isSet("DISPLAY") || isSet("WAYLAND_DISPLAY");
+  surroundings.startApplication = startApplication;
+  const quillmonger::Client client(std::move(surroundings));
+  const auto result = client.run({argv + 1, argv + argc});
+  std::cout << result.output << std::flush;
+  std::cerr << result.errorOutput << std::flush;
+  return result.exitCode;
+}

@@ -1,0 +1,95 @@
+#include "Quillmonger/shell/command/RecordList.h"
+
+#include <time.h>
+
+#include <array>
+#include <chrono>
+#include <nlohmann/json.hpp>
+#include <optional>
+
+#include "Foundation/Text.h"
+#include "Quillmonger/capture/PasteboardTypes.h"
+
+namespace quillmonger::recordlist {
+
+namespace {
+
+using Json = nlohmann::json;
+
+constexpr std::size_t bytesPerCharacter = 4;
+
+std::string isoDate(foundation::Date date) {
+  const time_t seconds = std::chrono::system_clock::to_time_t(date);
+  tm parts{};
+  gmtime_r(&seconds, &parts);
+  std::array<char, 64> text{};
+  const std::size_t length = strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%SZ", &parts);
+  return {text.data(), length};
+}
+
+bool isContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
+
+std::string firstCharacters(std::string_view text) {
+  std::size_t count = 0;
+  for (std::size_t index = 0; index < text.size(); ++index) {
+    if (!isContinuation(text[index]) && ++count > characterLimit) return std::string(text.substr(0, index));
+  }
+  return std::string(text);
+}
+
+std::optional<std::string> textOf(const ClipboardItem& item) {
+  const auto data = item.data(pasteboardtype::utf8PlainText);
+  if (!data.has_value()) return std::nullopt;
+  std::string part = data->part(0, characterLimit * bytesPerCharacter + bytesPerCharacter);
+  // A cut through a character would read as one that the user never copied.
+  if (part.size() < data->size()) {
+    while (!part.empty() && isContinuation(part.back()))
+      part.pop_back();
+    if (!part.empty()) part.pop_back();
+  }
+  return firstCharacters(foundation::toValidUtf8(part));
+}
+
+// One line, and nothing that a terminal would obey.
+std::string onOneLine(std::string text) {
+  for (std::size_t index = 0; index < text.size(); ++index) {
+    const auto byte = static_cast<unsigned char>(text[index]);
+    if (byte < 0x20 || byte == 0x7F) text[index] = ' ';
+    const bool isC1 = byte == 0xC2 && index + 1 < text.size() && static_cast<unsigned char>(text[index + 1]) < 0xA0;
+    if (isC1) text.replace(index, 2, " ");
+  }
+  return text;
+}
+
+}  // namespace
+
+std::string lines(const std::vector<std::shared_ptr<ClipboardItem>>& records) {
+  std::string all;
+  for (const auto& record : records) {
+    const auto source = foundation::toValidUtf8(record->sourceAppBundleIdentifier().value_or("-"));
+    all += isoDate(record->creationDate()) + "  " + std::to_string(record->dataSize()) + "  " + onOneLine(source) +
+           "  " + onOneLine(textOf(*record).value_or("")) + "\n";
+  }
+  return all;
+}
+
+std::string json(const std::vector<std::shared_ptr<ClipboardItem>>& records) {
+  Json list = Json::array();
+  for (const auto& record : records) {
+    Json types = Json::array();
+    for (const auto& entry : record->data())
+      types.push_back(entry.first);
+    const auto text = textOf(*record);
+    const auto& source = record->sourceAppBundleIdentifier();
+    list.push_back({{"id", record->id().toString()},
+                    {"creationDate", isoDate(record->creationDate())},
+                    {"sourceAppBundleIdentifier", source.has_value() ? Json(*source) : Json()},
+                    {"types", std::move(types)},
+                    {"size", record->dataSize()},
+                    {"timesPasted", record->timesPasted()},
+                    {"text", text.has_value() ? Json(*text) : Json()}});
+  }
+  return list.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+}
+
+}  // namespace quillmonger::recordlist

@@ -1,0 +1,123 @@
+#include "tests/gallery/ViewStage.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QSurfaceFormat>
+#include <algorithm>
+#include <functional>
+
+#include "Quillmonger/history/view/ImageCache.h"
+#include "Quillmonger/history/view/QmlModule.h"
+#include "Quillmonger/resources/QmlModule.h"
+#include "Quillmonger/search/view/QmlModule.h"
+#include "tests/support/Records.h"
+
+namespace testsupport {
+
+using quillmonger::ClipboardItemViewModel;
+
+namespace {
+
+void collect(QQuickItem* item, const QString& identifier, std::vector<QQuickItem*>& found) {
+  if (!item->isVisible()) return;
+  if (item->objectName() == identifier) found.push_back(item);
+  for (QQuickItem* child : item->childItems())
+    collect(child, identifier, found);
+}
+
+}  // namespace
+
+ViewStage::ViewStage()
+    : m_services(std::make_shared<const ClipboardItemViewModel::Services>(
+          ClipboardItemViewModel::Services{m_clipboard, m_defaults.defaults, m_naming})),
+      m_appearance(m_defaults.defaults),
+      m_settings(m_defaults.defaults) {
+  quillmonger::resourcesview::registerTypes(m_engine);
+  quillmonger::searchview::registerTypes();
+  quillmonger::historyview::registerTypes();
+  m_engine.addImageProvider(QStringLiteral("appicon"),
+                            new quillmonger::ImageCache([](const std::string& path) { return path + ".svg"; }));
+  m_adapter = std::make_unique<quillmonger::ClipboardViewAdapter>(quillmonger::ClipboardViewAdapter::History{
+      m_rows, m_selectedItem, m_isOptionPressed, [this] { return m_items.empty(); },
+      [this](const Item& item) { m_selectedItem.set(item); }});
+  m_searchBar = std::make_unique<quillmonger::SearchBarModel>(m_searchTerm, m_defaults.defaults,
+                                                              [this] { ++m_previewToggleCount; });
+}
+
+ViewStage::~ViewStage() = default;
+
+// Each application has an icon of its own: a coloured tile with its initial.
+std::optional<foundation::Url> ViewStage::application(const std::string& name) {
+  if (name.empty()) return std::nullopt;
+  const std::string path = (m_folder.path() / (name + ".desktop")).string();
+  const auto url = foundation::Url::fromFilePath(path);
+  m_naming.setDisplayName(url, name);
+  QFile icon(QString::fromStdString(path + ".svg"));
+  if (icon.open(QIODevice::WriteOnly)) {
+    const auto hue = static_cast<int>(std::hash<std::string>{}(name) % 360);
+    icon.write(QStringLiteral("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 32 32' width='32' height='32'>"
+                              "<rect x='3' y='3' width='26' height='26' rx='7' fill='%1'/><text x='16' y='22' "
+                              "font-size='16' fill='white' text-anchor='middle'>%2</text></svg>")
+                   .arg(QColor::fromHsv(hue, 150, 200).name(), QString::fromStdString(name.substr(0, 1)))
+                   .toUtf8());
+  }
+  return url;
+}
+
+ViewStage::Item ViewStage::makeItem(std::string bytes, std::string_view type, const std::string& appName) {
+  return std::make_shared<ClipboardItemViewModel>(
+      makeRecord(std::move(bytes), {}, type, {std::nullopt, application(appName)}), m_services);
+}
+
+void ViewStage::show(const std::vector<Item>& items) {
+  m_items = items;
+  std::vector<Row> rows;
+  for (const Item& item : items)
+    rows.push_back({item, 0.0, std::nullopt});
+  showRows(std::move(rows));
+}
+
+void ViewStage::showRows(std::vector<Row> rows) {
+  m_rows.set(std::make_shared<const std::vector<Row>>(std::move(rows)));
+  m_selectedItem.set(m_rows.value()->empty() ? nullptr : m_rows.value()->front().item);
+}
+
+void ViewStage::select(std::size_t row) { m_selectedItem.set(m_rows.value()->at(row).item); }
+
+QQuickView& ViewStage::view() {
+  if (!m_view) {
+    m_view = std::make_unique<QQuickView>(&m_engine, nullptr);
+    QSurfaceFormat format = m_view->format();
+    format.setAlphaBufferSize(8);
+    m_view->setFormat(format);
+    m_view->setColor(Qt::transparent);
+    m_view->setResizeMode(QQuickView::SizeRootObjectToView);
+    m_view->resize(600, 445);
+    m_view->setInitialProperties({{"clipboard", QVariant::fromValue(m_adapter.get())},
+                                  {"search", QVariant::fromValue(m_searchBar.get())},
+                                  {"settings", QVariant::fromValue(&m_settings)},
+                                  {"appearance", QVariant::fromValue(&m_appearance)}});
+    m_view->setSource(QUrl(QStringLiteral("qrc:/qt-project.org/imports/Quillmonger/History/AppView.qml")));
+    m_view->show();
+  }
+  // Lays out and lets deferred steps and animations' first frames pass.
+  m_view->grabWindow();
+  QCoreApplication::processEvents();
+  return *m_view;
+}
+
+std::vector<QQuickItem*> ViewStage::findAll(const QString& identifier) {
+  std::vector<QQuickItem*> found;
+  if (QQuickItem* root = view().rootObject()) collect(root, identifier, found);
+  std::ranges::stable_sort(found, {}, [](QQuickItem* item) { return item->mapToScene(QPointF()).y(); });
+  return found;
+}
+
+QQuickItem* ViewStage::find(const QString& identifier) {
+  const auto found = findAll(identifier);
+  return found.empty() ? nullptr : found.front();
+}
+
+QImage ViewStage::picture() { return view().grabWindow(); }
+
+}  // namespace testsupport
