@@ -105,7 +105,9 @@ void ClipboardItem::enterStore(Store& store, std::int64_t key) {
 }
 
 std::string ClipboardItem::persistentIdentifier() const {
-  return "x-quillmonger:ClipboardItem/" + (m_storeKey == 0 ? "new" : "p" + std::to_string(m_storeKey));
+  std::string identifier = "x-quillmonger:ClipboardItem/";
+  if (m_storeKey == 0) return identifier.append("new");
+  return identifier.append("p").append(std::to_string(m_storeKey));
 }
 
 }  // namespace quillmonger
