@@ -57,7 +57,15 @@ class Data final {
   bool operator==(const Data& other) const;
 
  private:
+  struct Large;
   struct Shared;
+  /// One of the two is null.
+  struct Place {
+    std::shared_ptr<const std::string> memory;
+    std::shared_ptr<const DataSource> source;
+  };
+  [[nodiscard]] Place place() const;
+
   std::shared_ptr<Shared> m_shared;
 };
 

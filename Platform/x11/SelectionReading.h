@@ -36,7 +36,7 @@ class SelectionReading final {
   using Completion = std::function<void(Result result)>;
 
   /// `time`: when the owner came, on the server's clock. `completion` is called once, unless this object goes before,
-  /// and must not end this object.
+  /// and may end this object.
   SelectionReading(X11Thread& thread, X11Atoms& atoms, xcb_timestamp_t time, const quillmonger::TypeFilter& filter,
                    Completion completion);
   SelectionReading(const SelectionReading&) = delete;

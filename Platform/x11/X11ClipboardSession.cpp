@@ -194,11 +194,18 @@ void X11ClipboardSession::supersede(Number number, std::uint32_t sequence) {
     if (reading != nullptr) reading->end(SelectionReading::Streaming::end);
     return forget(number);
   }
-  content->second.release = m_thread.after(grace, [this, number, reading] {
-    m_succession.release(number);
-    if (reading != nullptr) reading->end(SelectionReading::Streaming::letGoOn);
-  });
+  content->second.release = m_thread.after(grace, [this, number] { endGrace(number); });
   if (reading != nullptr) reading->supersede(sequence);
+}
+
+void X11ClipboardSession::endGrace(Number number) {
+  Content& content = m_contents.at(number);
+  if (content.reading && !content.reading->isFinished()) content.reading->end(SelectionReading::Streaming::letGoOn);
+  const auto left = m_contents.find(number);
+  if (left == m_contents.end()) return;
+  if (left->second.reading && !left->second.reading->isFinished()) return m_succession.release(number);
+  // What has been read is being digested, and comes in its turn unless that takes long.
+  left->second.release = m_thread.after(grace, [this, number] { m_succession.release(number); });
 }
 
 void X11ClipboardSession::readOwner(Number number, xcb_timestamp_t time) {

@@ -87,6 +87,7 @@ class X11ClipboardSession final {
 
   Number begin(xcb_timestamp_t time, std::uint32_t sequence);
   void supersede(Number number, std::uint32_t sequence);
+  void endGrace(Number number);
   void readOwner(Number number, xcb_timestamp_t time);
   void takeOwn(Number number, Items items);
   void askForTime();

@@ -1,7 +1,7 @@
 #include "Quillmonger/capture/PasteboardContent.h"
 
 #include <algorithm>
-#include <ranges>
+#include <utility>
 
 #include "Foundation/Text.h"
 #include "Quillmonger/capture/PasteboardTypes.h"
@@ -44,10 +44,9 @@ std::vector<std::string> PasteboardItem::types() const {
 }
 
 std::optional<foundation::Data> PasteboardItem::dataForType(std::string_view type) const {
-  for (const auto& representation : std::views::reverse(representations)) {
-    if (representation.type == type) return representation.data;
-  }
-  return std::nullopt;
+  const auto found = std::find_if(representations.rbegin(), representations.rend(),
+                                  [type](const Representation& representation) { return representation.type == type; });
+  return found == representations.rend() ? std::nullopt : found->data;
 }
 
 PasteboardContent::PasteboardContent(std::vector<PasteboardItem> items)

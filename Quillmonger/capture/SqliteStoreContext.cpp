@@ -91,8 +91,8 @@ SqliteStoreContext::SqliteStoreContext(foundation::RunLoop& runLoop, Opening ope
 
 SqliteStoreContext::~SqliteStoreContext() {
   m_self.reset();
+  m_blobs->close();  // first, so that the writer's connection is the last one and merges the log
   m_writer.reset();
-  m_blobs->close();
   for (const auto& record : m_records)
     record->leaveStore();
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <exception>
 #include <string>
 
 #include "Quillmonger/capture/StoreSchema.h"
@@ -83,10 +84,10 @@ Outcome StoreWriter::waitForOutcome() {
 
 Outcome StoreWriter::waitUntilClean() {
   std::unique_lock lock(m_mutex);
+  const std::uint64_t request = ++m_cleaningRequests;
   m_mustClean = true;
-  m_cleaned.reset();
   m_changed.notify_all();
-  m_changed.wait(lock, [this] { return m_cleaned.has_value(); });
+  m_changed.wait(lock, [this, request] { return m_cleanedRequests >= request; });
   return *m_cleaned;
 }
 
@@ -96,32 +97,41 @@ void StoreWriter::run() {
   for (;;) {
     m_changed.wait(lock, [this] { return m_isStopping || m_batch || m_mustClean; });
     if (m_batch) {
-      auto batch = *std::exchange(m_batch, std::nullopt);
-      lock.unlock();
-      auto outcome = commit(batch);
-      batch.clear();
-      lock.lock();
-      m_outcome = std::move(outcome);
-      m_mustClean = true;
-      m_changed.notify_all();
-      lock.unlock();
-      m_finished();
-      lock.lock();
-      continue;
-    }
-    if (m_isStopping) return;
-    m_mustClean = false;
-    lock.unlock();
-    auto cleaned = clean();
-    lock.lock();
-    const bool isClean = cleaned.hasValue();
-    m_cleaned = std::move(cleaned);
-    m_changed.notify_all();
-    if (!isClean) {
-      m_changed.wait_for(lock, cleaningRetryInterval, [this] { return m_isStopping || m_batch; });
-      m_mustClean = true;
+      performBatch(lock);
+    } else {
+      performCleaning(lock);
+      if (m_isStopping) return;
     }
   }
+}
+
+void StoreWriter::performBatch(std::unique_lock<std::mutex>& lock) {
+  auto batch = *std::exchange(m_batch, std::nullopt);
+  lock.unlock();
+  auto outcome = commit(batch);
+  batch.clear();
+  lock.lock();
+  m_outcome = std::move(outcome);
+  m_mustClean = true;
+  m_changed.notify_all();
+  lock.unlock();
+  m_finished();
+  lock.lock();
+}
+
+void StoreWriter::performCleaning(std::unique_lock<std::mutex>& lock) {
+  const std::uint64_t requests = m_cleaningRequests;
+  m_mustClean = false;
+  lock.unlock();
+  auto cleaned = clean();
+  lock.lock();
+  const bool isClean = cleaned.hasValue();
+  m_cleaned = std::move(cleaned);
+  m_cleanedRequests = requests;
+  m_changed.notify_all();
+  if (isClean) return;
+  m_changed.wait_for(lock, cleaningRetryInterval, [this] { return m_isStopping || m_batch || m_mustClean; });
+  m_mustClean = true;
 }
 
 Outcome StoreWriter::commit(const Batch& batch) {
@@ -142,7 +152,7 @@ Outcome StoreWriter::commit(const Batch& batch) {
       }
     }
     transaction.commit();
-  } catch (const StoreFailure& failure) {
+  } catch (const std::exception& failure) {
     return foundation::Error{failure.what()};
   }
   apply(effects);
@@ -166,34 +176,39 @@ void StoreWriter::insert(const StoreChange& change, Effects& effects) {
     const auto bytes = data && data->size() <= Data::residentLimit ? data->bytes() : nullptr;
     if (bytes) {
       value.bindBlob(3, *bytes);
-    } else if (data) {
-      const std::int64_t blob = writeBlob(*data, effects);
-      value.bind(4, blob).bind(5, static_cast<std::int64_t>(data->size())).bindBlob(6, viewOf(data->fingerprint()));
-      ++effects.references[blob];
+    } else if (const auto blob = data ? writeBlob(*data, effects) : std::nullopt) {
+      value.bind(4, *blob).bind(5, static_cast<std::int64_t>(data->size())).bindBlob(6, viewOf(data->fingerprint()));
+      ++effects.references[*blob];
     }
     value.run();
   }
 }
 
 // The number of the blob that holds the value: the one in which it rests already, or that of an equal value of this
-// transaction, or a new one.
-std::int64_t StoreWriter::writeBlob(const Data& data, Effects& effects) {
+// transaction, or a new one. Absent for a value that can't be read, which is then stored as such.
+std::optional<std::int64_t> StoreWriter::writeBlob(const Data& data, Effects& effects) {
   const auto source = std::dynamic_pointer_cast<const StoredBlob>(data.source());
   if (source && source->isIn(*m_blobs)) return source->number();
-  const auto [known, isNew] = effects.blobs.try_emplace(data.fingerprint(), m_nextBlob);
-  effects.written.emplace_back(data, known->second);
-  if (!isNew) return known->second;
-  const std::int64_t blob = m_nextBlob++;
+  const auto known = effects.blobs.find(data.fingerprint());
+  const std::int64_t blob = known == effects.blobs.end() ? m_nextBlob++ : known->second;
+  if (known == effects.blobs.end() && !writeChunks(blob, data)) return std::nullopt;
+  effects.blobs.emplace(data.fingerprint(), blob);
+  effects.written.emplace_back(data, blob);
+  return blob;
+}
+
+bool StoreWriter::writeChunks(std::int64_t blob, const Data& data) {
   auto chunk = m_database.prepare("INSERT INTO chunk VALUES(?, ?)");
   for (std::size_t sequence = 0; sequence < storeschema::chunkCount(data.size()); ++sequence) {
     const std::size_t offset = sequence * storeschema::chunkSize;
     const std::string bytes = data.part(offset, storeschema::chunkSize);
     if (bytes.size() != std::min(storeschema::chunkSize, data.size() - offset)) {
-      throw StoreFailure("a value can't be read");
+      m_perhapsUnused.insert(blob);
+      return false;
     }
     chunk.bind(1, storeschema::chunkKey(blob, sequence)).bindBlob(2, bytes).run();
   }
-  return blob;
+  return true;
 }
 
 void StoreWriter::update(const StoreChange& change) {

@@ -8,6 +8,7 @@
 #include <mutex>
 #include <optional>
 #include <set>
+#include <string>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -60,11 +61,14 @@ class StoreWriter final {
   struct Effects;
 
   void run();
+  void performBatch(std::unique_lock<std::mutex>& lock);
+  void performCleaning(std::unique_lock<std::mutex>& lock);
   foundation::Outcome commit(const Batch& batch);
   void insert(const StoreChange& change, Effects& effects);
   void update(const StoreChange& change);
   void remove(const StoreChange& change, Effects& effects);
-  std::int64_t writeBlob(const foundation::Data& data, Effects& effects);
+  std::optional<std::int64_t> writeBlob(const foundation::Data& data, Effects& effects);
+  bool writeChunks(std::int64_t blob, const foundation::Data& data);
   void apply(const Effects& effects);
 
   void sweepOrphans();
@@ -87,6 +91,8 @@ class StoreWriter final {
   std::optional<Batch> m_batch;
   std::optional<foundation::Outcome> m_outcome;
   std::optional<foundation::Outcome> m_cleaned;
+  std::uint64_t m_cleaningRequests = 0;
+  std::uint64_t m_cleanedRequests = 0;
   bool m_mustClean = true;
   bool m_isStopping = false;
 
