@@ -57,7 +57,10 @@ Json encodeFloat(float value) {
   const auto end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
   double readable = 0;
   std::from_chars(text.data(), end, readable);
-  return encodeNumber(static_cast<float>(readable) == value ? readable : static_cast<double>(value));
+  // The short text of the greatest float lies beyond it.
+  const bool isWithin = std::abs(readable) <= static_cast<double>(std::numeric_limits<float>::max());
+  const bool isSame = isWithin && static_cast<float>(readable) == value;
+  return encodeNumber(isSame ? readable : static_cast<double>(value));
 }
 
 std::optional<float> decodeFloat(const Json& json) {
