@@ -1,4 +1,5 @@
 import QtQuick
+import Quillmonger.Guide
 import Quillmonger.Resources
 
 // What a new user needs to know, on one page.

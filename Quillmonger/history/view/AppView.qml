@@ -1,4 +1,5 @@
 import QtQuick
+import Quillmonger.History
 import Quillmonger.Resources
 import Quillmonger.Search
 

@@ -14,8 +14,8 @@ struct RowLine {
   TextRuns runs;
 };
 
-/// A row's line in the markup that a QML Text understands.
-class AttributedLine final : public QObject {
+/// A row's line in the markup that a QML Text understands. Not final, since QML derives from what it makes.
+class AttributedLine : public QObject {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(QVariant line READ line WRITE setLine NOTIFY changed)

@@ -1,4 +1,5 @@
 import QtQuick
+import Quillmonger.History
 import Quillmonger.Resources
 
 // The rows, or a note while there is nothing in the history. A search without a hit shows no rows and no note.

@@ -1,4 +1,5 @@
 import QtQuick
+import Quillmonger.History
 import Quillmonger.Resources
 
 // One line with the search hit in bold and the rest dimmed, cut where the setting says.

@@ -9,8 +9,8 @@
 namespace quillmonger {
 
 /// The rows of the history. They change by identity: a row that stays keeps its place in the view, a new search
-/// replaces all at once. Each row is worked out when it is shown. Main thread.
-class HistoryListModel final : public QAbstractListModel {
+/// replaces all at once. Each row is worked out when it is shown. Not final, since QML derives from it. Main thread.
+class HistoryListModel : public QAbstractListModel {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("made by the program")

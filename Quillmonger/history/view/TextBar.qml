@@ -1,4 +1,5 @@
 import QtQuick
+import Quillmonger.History
 import Quillmonger.Resources
 
 // The text of a row and, while Option is held, what a paste would do to its formatting.

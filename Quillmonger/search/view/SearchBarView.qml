@@ -1,5 +1,6 @@
 import QtQuick
 import Quillmonger.Resources
+import Quillmonger.Search
 
 FocusScope {
     id: bar

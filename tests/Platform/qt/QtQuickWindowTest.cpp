@@ -1,0 +1,110 @@
+#include "Platform/qt/QtQuickWindow.h"
+
+#include <gtest/gtest.h>
+
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickView>
+#include <QScreen>
+#include <QTemporaryFile>
+#include <QTest>
+#include <vector>
+
+#include "Platform/qt/QtApplication.h"
+
+namespace {
+
+using platform::QtQuickWindow;
+
+class FakeWindowSystem final : public quillmonger::WindowSystem {
+ public:
+  [[nodiscard]] bool blendsTransparency() const override { return isBlending; }
+  void keepOutOfTaskList(WindowId /*window*/) override { ++keptOutCount; }
+  void bringToFront(WindowId /*window*/) override { ++frontCount; }
+
+  bool isBlending = true;
+  int keptOutCount = 0;
+  int frontCount = 0;
+};
+
+class QtQuickWindowTest : public testing::Test {
+ protected:
+  QtQuickWindowTest() : m_window(description(), m_system) {}
+
+  QtQuickWindow::Description description() {
+    m_file.open();
+    m_file.write("import QtQuick\nItem { required property string words; property bool blendsTransparency }");
+    m_file.close();
+    return {QtQuickWindow::Kind::palette, QSize(300, 200), QStringLiteral("Title"),
+            [this] {
+              ++m_contentCount;
+              return QtQuickWindow::Content{QUrl::fromLocalFile(m_file.fileName()), {{"words", "hello"}}};
+            },
+            [this]() -> QQmlEngine& { return m_engine; }};
+  }
+
+  QTemporaryFile m_file{QStringLiteral("XXXXXX.qml")};
+  QQmlEngine m_engine;
+  FakeWindowSystem m_system;
+  int m_contentCount = 0;
+  QtQuickWindow m_window;
+};
+
+TEST_F(QtQuickWindowTest, IsNotLoadedBeforeItIsNeeded) {
+  EXPECT_FALSE(m_window.isVisible());
+  m_window.orderOut();
+
+  EXPECT_EQ(m_contentCount, 0);
+}
+
+TEST_F(QtQuickWindowTest, LoadsItsContentOnceWithItsProperties) {
+  m_window.prepare();
+  m_window.makeKeyAndOrderFront();
+
+  EXPECT_EQ(m_contentCount, 1);
+  EXPECT_EQ(m_window.view()->rootObject()->property("words").toString(), "hello");
+}
+
+TEST_F(QtQuickWindowTest, ComesToTheFrontEachTimeItIsShown) {
+  m_window.makeKeyAndOrderFront();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return m_system.frontCount == 1; }));
+  EXPECT_TRUE(m_window.isVisible());
+
+  m_window.orderOut();
+  EXPECT_FALSE(m_window.isVisible());
+  m_window.makeKeyAndOrderFront();
+
+  EXPECT_TRUE(QTest::qWaitFor([this] { return m_system.frontCount == 2; }));
+  EXPECT_EQ(m_system.keptOutCount, 2);
+}
+
+TEST_F(QtQuickWindowTest, TellsItsContentWhetherTransparencyIsBlended) {
+  m_system.isBlending = false;
+  m_window.makeKeyAndOrderFront();
+  EXPECT_FALSE(m_window.view()->rootObject()->property("blendsTransparency").toBool());
+
+  m_system.isBlending = true;
+  m_window.makeKeyAndOrderFront();
+  EXPECT_TRUE(m_window.view()->rootObject()->property("blendsTransparency").toBool());
+}
+
+TEST_F(QtQuickWindowTest, StandsInTheMiddleAndALittleAbove) {
+  m_window.center();
+
+  const QRect screen = m_window.view()->screen()->availableGeometry();
+  const QRect window = m_window.view()->geometry();
+  EXPECT_NEAR(window.center().x(), screen.center().x(), 1);
+  EXPECT_LT(window.center().y(), screen.center().y());
+  EXPECT_GT(window.top(), screen.top());
+}
+
+TEST_F(QtQuickWindowTest, GoesWhenTheApplicationHides) {
+  platform::QtApplication application(m_system);
+  m_window.makeKeyAndOrderFront();
+
+  application.hide();
+
+  EXPECT_FALSE(m_window.isVisible());
+}
+
+}  // namespace

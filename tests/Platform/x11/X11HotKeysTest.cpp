@@ -1,0 +1,142 @@
+#include "Platform/x11/X11HotKeys.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include "tests/support/ChildProcess.h"
+#include "tests/support/PrivateDisplay.h"
+#include "tests/support/RealRunLoop.h"
+#include "tests/support/x11/KeyboardClient.h"
+
+namespace {
+
+using Kind = keyboardshortcuts::HotKeyService::Kind;
+using testsupport::KeyboardClient;
+
+constexpr std::uint32_t evdevV = 47;
+constexpr std::uint32_t evdevShift = 42;
+constexpr std::uint32_t evdevSuper = 125;
+constexpr std::uint32_t evdevCapsLock = 58;
+constexpr std::uint32_t evdevNumLock = 69;
+constexpr std::uint32_t virtualV = 9;
+constexpr std::uint32_t shiftAndCommand = 0x300;
+constexpr std::uint16_t shiftAndSuperState = XCB_MOD_MASK_SHIFT | XCB_MOD_MASK_4;
+
+class X11HotKeys : public testing::Test {
+ protected:
+  X11HotKeys() : m_user(m_display.name()), m_hotKeys(platform::X11HotKeys::connect(m_runLoop, m_display.name())) {
+    m_hotKeys->setHandler([this](std::uint32_t identifier, Kind kind) { m_told.emplace_back(identifier, kind); });
+  }
+
+  [[nodiscard]] bool isTold(std::size_t count) {
+    return m_runLoop.runUntil([this, count] { return m_told.size() >= count; });
+  }
+
+  void pressChord() {
+    m_user.press(evdevSuper);
+    m_user.press(evdevShift);
+    m_user.press(evdevV);
+  }
+  void releaseChord() {
+    m_user.release(evdevV);
+    m_user.release(evdevShift);
+    m_user.release(evdevSuper);
+  }
+
+  using Told = std::vector<std::pair<std::uint32_t, Kind>>;
+  testsupport::PrivateDisplay m_display;
+  testsupport::RealRunLoop m_runLoop;
+  KeyboardClient m_user;
+  Told m_told;
+  std::unique_ptr<platform::X11HotKeys> m_hotKeys;
+};
+
+TEST_F(X11HotKeys, TellPressAndReleaseOfAChord) {
+  ASSERT_TRUE(m_hotKeys->registerHotKey(7, virtualV, shiftAndCommand));
+
+  pressChord();
+  releaseChord();
+
+  ASSERT_TRUE(isTold(2));
+  EXPECT_EQ(m_told, (Told{{7, Kind::pressed}, {7, Kind::released}}));
+}
+
+TEST_F(X11HotKeys, TellTheReleaseWhenTheModifiersWentFirst) {
+  ASSERT_TRUE(m_hotKeys->registerHotKey(7, virtualV, shiftAndCommand));
+  pressChord();
+
+  m_user.release(evdevSuper);
+  m_user.release(evdevShift);
+  m_user.release(evdevV);
+
+  ASSERT_TRUE(isTold(2));
+  EXPECT_EQ(m_told.back(), std::pair(std::uint32_t{7}, Kind::released));
+}
+
+TEST_F(X11HotKeys, WorkWhateverLockIsOn) {
+  ASSERT_TRUE(m_hotKeys->registerHotKey(7, virtualV, shiftAndCommand));
+  m_user.tap(evdevCapsLock);
+  m_user.tap(evdevNumLock);
+
+  pressChord();
+  releaseChord();
+
+  EXPECT_TRUE(isTold(2));
+}
+
+TEST_F(X11HotKeys, TellAHeldKeyAsOnePress) {
+  testsupport::ChildProcess fast({"xset", "r", "rate", "20", "200"}, {m_display.environment()});
+  ASSERT_TRUE(m_runLoop.runUntil([&fast] { return fast.isFinished(); }));
+  ASSERT_EQ(fast.exitCode(), 0);
+  KeyboardClient other(m_display.name());
+  other.showWindow();
+  other.focusWindow();
+  ASSERT_TRUE(m_hotKeys->registerHotKey(7, virtualV, shiftAndCommand));
+  // The same key without the modifiers reaches the window, and shows that keys do repeat here.
+  m_user.press(evdevV);
+  ASSERT_TRUE(m_runLoop.runUntil([&other] { return other.receivedKeys().size() > 4; }));
+  m_user.release(evdevV);
+
+  pressChord();
+  ASSERT_TRUE(isTold(1));
+  static_cast<void>(m_runLoop.runUntil([this] { return m_told.size() > 1; }, foundation::Seconds(0.2)));
+  releaseChord();
+
+  ASSERT_TRUE(isTold(2));
+  EXPECT_EQ(m_told, (Told{{7, Kind::pressed}, {7, Kind::released}}));
+}
+
+TEST_F(X11HotKeys, RefuseAChordThatAnotherProgramHolds) {
+  ASSERT_TRUE(m_user.grab(evdevV, shiftAndSuperState));
+
+  EXPECT_FALSE(m_hotKeys->registerHotKey(7, virtualV, shiftAndCommand));
+}
+
+TEST_F(X11HotKeys, LeaveNothingGrabbedOfARefusedChord) {
+  KeyboardClient other(m_display.name());
+  ASSERT_TRUE(other.grab(evdevV, shiftAndSuperState | XCB_MOD_MASK_LOCK));
+
+  ASSERT_FALSE(m_hotKeys->registerHotKey(7, virtualV, shiftAndCommand));
+
+  EXPECT_TRUE(m_runLoop.runUntil([this] { return m_user.grab(evdevV, shiftAndSuperState); }));
+}
+
+TEST_F(X11HotKeys, GiveTheChordBackWhenItIsUnregistered) {
+  ASSERT_TRUE(m_hotKeys->registerHotKey(7, virtualV, shiftAndCommand));
+  ASSERT_FALSE(m_user.grab(evdevV, shiftAndSuperState));
+
+  m_hotKeys->unregisterHotKey(7);
+
+  EXPECT_TRUE(m_runLoop.runUntil([this] { return m_user.grab(evdevV, shiftAndSuperState); }));
+}
+
+TEST_F(X11HotKeys, RefuseAKeyThatNoKeyboardHas) { EXPECT_FALSE(m_hotKeys->registerHotKey(7, 0xFFFF, shiftAndCommand)); }
+
+TEST_F(X11HotKeys, AreAbsentWithoutAnXServer) {
+  EXPECT_EQ(platform::X11HotKeys::connect(m_runLoop, "/nowhere:0"), nullptr);
+}
+
+}  // namespace

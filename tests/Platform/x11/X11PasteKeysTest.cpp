@@ -1,0 +1,137 @@
+#include "Platform/x11/X11PasteKeys.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <memory>
+#include <vector>
+
+#include "tests/support/PrivateDisplay.h"
+#include "tests/support/RealRunLoop.h"
+#include "tests/support/x11/KeyboardClient.h"
+
+namespace {
+
+using testsupport::KeyboardClient;
+using Key = KeyboardClient::Key;
+
+constexpr std::uint32_t evdevControl = 29;
+constexpr std::uint32_t evdevShift = 42;
+constexpr std::uint32_t evdevV = 47;
+
+class X11PasteKeys : public testing::Test {
+ protected:
+  X11PasteKeys() : m_us(m_display.name()), m_target(m_display.name()) {
+    m_pasteKeys = platform::X11PasteKeys::connect(
+        m_us.window(), [](const std::string& windowClass) { return windowClass == "our-terminal"; }, m_display.name());
+    m_target.showWindow();
+    m_target.focusWindow();
+    m_us.ownClipboard();
+  }
+
+  [[nodiscard]] bool isPasted(std::size_t keys = 4) {
+    return m_runLoop.runUntil([this, keys] { return m_target.receivedKeys().size() >= keys; });
+  }
+  // Long enough for the wait to end in vain, told by the line that it prints then.
+  [[nodiscard]] std::string outputOfAPasteInVain() {
+    testing::internal::CaptureStdout();
+    m_pasteKeys->postPasteKeyEvents();
+    std::string output;
+    static_cast<void>(m_runLoop.runUntil([&output] {
+      std::cout.flush();
+      output += testing::internal::GetCapturedStdout();
+      testing::internal::CaptureStdout();
+      return output.find('\n') != std::string::npos;
+    }));
+    return output + testing::internal::GetCapturedStdout();
+  }
+
+  const std::vector<Key> m_paste{{evdevControl, true, 0},
+                                 {evdevV, true, XCB_MOD_MASK_CONTROL},
+                                 {evdevV, false, XCB_MOD_MASK_CONTROL},
+                                 {evdevControl, false, XCB_MOD_MASK_CONTROL}};
+
+  testsupport::PrivateDisplay m_display;
+  testsupport::RealRunLoop m_runLoop;
+  KeyboardClient m_us;
+  KeyboardClient m_target;
+  std::unique_ptr<platform::X11PasteKeys> m_pasteKeys;
+};
+
+TEST_F(X11PasteKeys, PressControlAndVInTheFocusedWindow) {
+  m_pasteKeys->postPasteKeyEvents();
+
+  ASSERT_TRUE(isPasted());
+  EXPECT_EQ(m_target.receivedKeys(), m_paste);
+}
+
+TEST_F(X11PasteKeys, AddShiftForATerminal) {
+  m_target.setWindowClass("xterm", "XTerm");
+
+  m_pasteKeys->postPasteKeyEvents();
+
+  ASSERT_TRUE(isPasted(6));
+  EXPECT_EQ(m_target.receivedKeys()[1], (Key{evdevShift, true, XCB_MOD_MASK_CONTROL}));
+  EXPECT_EQ(m_target.receivedKeys()[2], (Key{evdevV, true, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_SHIFT}));
+}
+
+TEST_F(X11PasteKeys, AddShiftForWhatTheCallerCallsATerminal) {
+  m_target.setWindowClass("our-terminal", "Whatever");
+
+  m_pasteKeys->postPasteKeyEvents();
+
+  ASSERT_TRUE(isPasted(6));
+  EXPECT_EQ(m_target.receivedKeys()[1].evdev, evdevShift);
+}
+
+TEST_F(X11PasteKeys, WaitUntilTheUserLetsGoOfTheModifiers) {
+  m_us.press(evdevShift);
+  m_pasteKeys->postPasteKeyEvents();
+  ASSERT_TRUE(isPasted(1));  // the user's Shift, which the window sees too
+
+  m_us.release(evdevShift);
+
+  ASSERT_TRUE(isPasted(6));
+  const auto& keys = m_target.receivedKeys();
+  EXPECT_EQ(std::vector<Key>(keys.begin() + 2, keys.end()), m_paste);
+}
+
+TEST_F(X11PasteKeys, WaitUntilAnotherWindowHasTheFocus) {
+  m_us.showWindow();
+  m_us.setWindowProcess(static_cast<std::uint32_t>(getpid()));
+  m_us.focusWindow();
+  m_pasteKeys->postPasteKeyEvents();
+
+  m_target.focusWindow();
+
+  ASSERT_TRUE(isPasted());
+  EXPECT_TRUE(m_us.receivedKeys().empty());
+}
+
+TEST_F(X11PasteKeys, PressNothingWhileAnotherProgramOwnsTheClipboard) {
+  m_target.ownClipboard();
+
+  EXPECT_EQ(outputOfAPasteInVain(), "Paste keys not pressed: the clipboard isn't ours\n");
+
+  EXPECT_TRUE(m_target.receivedKeys().empty());
+}
+
+TEST_F(X11PasteKeys, PressNothingInOurOwnWindow) {
+  m_us.showWindow();
+  m_us.setWindowProcess(static_cast<std::uint32_t>(getpid()));
+  m_us.focusWindow();
+
+  EXPECT_EQ(outputOfAPasteInVain(), "Paste keys not pressed: no other window has the keyboard\n");
+
+  EXPECT_TRUE(m_us.receivedKeys().empty());
+}
+
+TEST_F(X11PasteKeys, PressNothingWhileAModifierStaysHeld) {
+  m_us.press(evdevControl);
+
+  EXPECT_EQ(outputOfAPasteInVain(), "Paste keys not pressed: a modifier key is held\n");
+
+  EXPECT_EQ(m_target.receivedKeys().size(), 1U);
+}
+
+}  // namespace

@@ -1,0 +1,64 @@
+#include "Platform/x11/X11WindowSystem.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <csignal>
+#include <memory>
+
+#include "tests/support/ChildProcess.h"
+#include "tests/support/PrivateDisplay.h"
+#include "tests/support/RealRunLoop.h"
+#include "tests/support/x11/KeyboardClient.h"
+
+namespace {
+
+using testsupport::ChildProcess;
+using testsupport::KeyboardClient;
+
+class X11WindowSystem : public testing::Test {
+ protected:
+  testsupport::PrivateDisplay m_display;
+  testsupport::RealRunLoop m_runLoop;
+  KeyboardClient m_first{m_display.name()};
+  KeyboardClient m_second{m_display.name()};
+  std::unique_ptr<platform::X11WindowSystem> m_system = platform::X11WindowSystem::connect(m_display.name());
+};
+
+TEST_F(X11WindowSystem, BlendsNothingWithoutACompositor) { EXPECT_FALSE(m_system->blendsTransparency()); }
+
+TEST_F(X11WindowSystem, GivesAWindowTheKeyboardWithoutAWindowManager) {
+  m_first.showWindow();
+
+  m_system->bringToFront(m_first.window());
+
+  EXPECT_TRUE(m_runLoop.runUntil([this] { return m_first.focus() == m_first.window(); }));
+}
+
+TEST_F(X11WindowSystem, BringsAWindowToTheFrontPastAWindowManager) {
+  ChildProcess manager({"openbox"}, {m_display.environment()});
+  m_first.showWindow();
+  ASSERT_TRUE(m_runLoop.runUntil([this] { return m_first.focus() == m_first.window(); }));
+  m_second.showWindow();
+  ASSERT_TRUE(m_runLoop.runUntil([this] { return m_second.focus() == m_second.window(); }));
+
+  m_system->bringToFront(m_first.window());
+
+  EXPECT_TRUE(m_runLoop.runUntil([this] { return m_first.focus() == m_first.window(); }));
+  manager.end(SIGTERM);
+}
+
+TEST_F(X11WindowSystem, KeepsAWindowOutOfTheTaskListOnce) {
+  m_system->keepOutOfTaskList(m_first.window());
+  m_system->keepOutOfTaskList(m_first.window());
+
+  auto states = m_first.windowAtoms("_NET_WM_STATE");
+  EXPECT_EQ(std::ranges::count(states, m_first.atom("_NET_WM_STATE_SKIP_TASKBAR")), 1);
+  EXPECT_EQ(std::ranges::count(states, m_first.atom("_NET_WM_STATE_SKIP_PAGER")), 1);
+}
+
+TEST_F(X11WindowSystem, IsAbsentWithoutAnXServer) {
+  EXPECT_EQ(platform::X11WindowSystem::connect("/nowhere:0"), nullptr);
+}
+
+}  // namespace

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <xcb/xcb.h>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace testsupport {
+
+/// Another program on the display, with one window, and the user's hands on the keyboard. Keys are evdev keys. Each
+/// operation returns when the server has done it; the test's thread.
+class KeyboardClient final {
+ public:
+  struct Key {
+    std::uint32_t evdev;
+    bool isDown;
+    /// The modifiers before the event.
+    std::uint16_t state;
+    bool operator==(const Key&) const = default;
+  };
+
+  explicit KeyboardClient(const std::string& display);
+  KeyboardClient(const KeyboardClient&) = delete;
+  KeyboardClient& operator=(const KeyboardClient&) = delete;
+  ~KeyboardClient();
+
+  void press(std::uint32_t evdevKey);
+  void release(std::uint32_t evdevKey);
+  /// Presses and releases a lock key.
+  void tap(std::uint32_t evdevKey);
+
+  /// Whether this program got the chord for itself.
+  [[nodiscard]] bool grab(std::uint32_t evdevKey, std::uint16_t modifiers);
+
+  [[nodiscard]] xcb_window_t window() const { return m_window; }
+  void showWindow();
+  void hideWindow();
+  void focusWindow();
+  void setWindowClass(const std::string& instanceName, const std::string& className);
+  void setWindowProcess(std::uint32_t processId);
+  void ownClipboard();
+  [[nodiscard]] xcb_window_t focus() const;
+  [[nodiscard]] std::vector<std::uint32_t> windowAtoms(const std::string& property) const;
+  [[nodiscard]] std::uint32_t atom(const std::string& name) const;
+
+  /// The keys that the window got since it was made.
+  [[nodiscard]] const std::vector<Key>& receivedKeys();
+
+ private:
+  void send(std::uint8_t type, std::uint32_t evdevKey);
+  void settle() const;
+
+  xcb_connection_t* m_connection;
+  xcb_window_t m_root;
+  xcb_window_t m_window;
+  std::vector<Key> m_received;
+};
+
+}  // namespace testsupport
