@@ -72,8 +72,8 @@ bool X11ClipboardSession::prepare() {
                                         XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE);
   m_isStarting = true;
   askForTime();
-  // Its answer comes when the server watches: whatever is copied from now on is seen.
-  static_cast<void>(selectionOwner(connection, clipboard));
+  // The answer comes when the server watches: whatever is copied after it is seen as a new owner.
+  m_isOwnedAtStart = selectionOwner(connection, clipboard) != XCB_WINDOW_NONE;
   return true;
 }
 
@@ -123,8 +123,7 @@ void X11ClipboardSession::askForTime() {
 void X11ClipboardSession::handleTime(xcb_timestamp_t time) {
   if (std::exchange(m_isStarting, false)) {
     m_manager.take(time);
-    const bool isOwned = selectionOwner(m_thread.connection(), m_atoms.atom("CLIPBOARD")) != XCB_WINDOW_NONE;
-    if (m_succession.latest() == 0 && isOwned) {
+    if (m_succession.latest() == 0 && m_isOwnedAtStart) {
       const Number number = m_succession.begin(time);
       m_succession.complete(number, std::nullopt);
       m_succession.settle(number);

@@ -120,6 +120,7 @@ class X11ClipboardSession final {
   std::uint32_t m_ownSequence = 0;
 
   bool m_isStarting = false;
+  bool m_isOwnedAtStart = false;
   /// What the latest owner offers, once it has been read with at least one byte.
   std::shared_ptr<const quillmonger::PasteboardContent> m_latestContent;
   bool m_isLatestBuilt = false;

@@ -6,8 +6,8 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <optional>
+
+#include "Platform/x11/X11Reply.h"
 
 namespace platform {
 
@@ -85,7 +85,6 @@ void X11Thread::wake() const {
 void X11Thread::loop() {
   while (!m_isEnding) {
     bool didWork = handleEvents();
-    didWork = runTasks() || didWork;
     didWork = fireTimers() || didWork;
     if (m_isEnding) return;
     if (xcb_connection_has_error(m_connection) != 0) {
@@ -96,12 +95,15 @@ void X11Thread::loop() {
   }
 }
 
+// What was asked for before an event came is done before the event is seen.
 bool X11Thread::handleEvents() {
+  bool didWork = false;
   for (int handled = 0; handled < eventsPerTurn; ++handled) {
-    const std::unique_ptr<xcb_generic_event_t, decltype(&std::free)> event(xcb_poll_for_event(m_connection),
-                                                                           &std::free);
-    if (!event) return handled > 0;
+    const X11Reply<xcb_generic_event_t> event(xcb_poll_for_event(m_connection));
+    didWork = runTasks() || didWork;
+    if (!event) return didWork;
     m_onEvent(*event);
+    didWork = true;
   }
   return true;
 }
@@ -129,12 +131,12 @@ bool X11Thread::fireTimers() {
   return didFire;
 }
 
-void X11Thread::sleep() const {
+void X11Thread::sleep() {
   xcb_flush(m_connection);
   // Flushing may have read events into xcb's queue, of which the socket tells nothing any more.
-  if (xcb_generic_event_t* event = xcb_poll_for_queued_event(m_connection); event != nullptr) {
+  if (const X11Reply<xcb_generic_event_t> event(xcb_poll_for_queued_event(m_connection)); event) {
+    runTasks();
     m_onEvent(*event);
-    std::free(event);
     return;
   }
   int timeout = -1;

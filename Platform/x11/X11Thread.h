@@ -63,9 +63,9 @@ class X11Thread final {
   void loop();
   void wake() const;
   [[nodiscard]] bool handleEvents();
-  [[nodiscard]] bool runTasks();
+  bool runTasks();
   [[nodiscard]] bool fireTimers();
-  void sleep() const;
+  void sleep();
 
   xcb_connection_t* m_connection;
   const xcb_screen_t* m_screen;
