@@ -8,6 +8,7 @@
 #include <memory>
 #include <sstream>
 
+#include "Defaults/DefaultsFile.h"
 #include "Platform/freedesktop/CommandSocket.h"
 #include "Quillmonger/shell/client/StartedApplication.h"
 #include "tests/support/TemporaryFolder.h"

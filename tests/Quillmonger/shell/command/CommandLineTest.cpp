@@ -60,7 +60,7 @@ TEST_F(CommandLineTest, KeepsLineEndsAndTerminalCodesOutOfTheLines) {
 
   const auto output = commandLine.run({"list"}).output;
 
-  EXPECT_EQ(output, "2026-01-01T12:00:00Z  11  -  a b [31mc d\n");
+  EXPECT_EQ(output, "2026-01-01T12:00:00Z  12  -  a b [31mc d\n");
 }
 
 TEST_F(CommandLineTest, ListsAsJson) {
