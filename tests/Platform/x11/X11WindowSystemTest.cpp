@@ -37,6 +37,7 @@ TEST_F(X11WindowSystem, GivesAWindowTheKeyboardWithoutAWindowManager) {
 
 TEST_F(X11WindowSystem, BringsAWindowToTheFrontPastAWindowManager) {
   ChildProcess manager({"openbox"}, {m_display.environment()});
+  ASSERT_TRUE(m_runLoop.runUntil([this] { return m_first.isUnderWindowManager(); }));
   m_first.showWindow();
   ASSERT_TRUE(m_runLoop.runUntil([this] { return m_first.focus() == m_first.window(); }));
   m_second.showWindow();
