@@ -40,6 +40,9 @@ QtObject {
     readonly property int keyFontSize: 14
     readonly property int hintFontSize: 11
 
+    // Of the font that a row is set in, whatever other fonts a line needs besides.
+    readonly property FontMetrics rowMetrics: FontMetrics { font.pixelSize: 16 }
+
     // Milliseconds. Long enough to be followed with the eye, too short to be waited for.
     readonly property int rowMotion: 90
     readonly property int fade: 140

@@ -2,6 +2,7 @@
 #include <QDir>
 #include <QGuiApplication>
 #include <QPainter>
+#include <QPainterPath>
 #include <QQuickWindow>
 #include <functional>
 #include <iostream>
@@ -51,7 +52,9 @@ std::vector<ViewStage::Item> strangeTexts(ViewStage& stage) {
       stage.makeItem(std::string("bell \a escape \x1b[31m nul \0 end", 31), text, "Terminal"),
       stage.makeItem("<b>not bold</b> & <font color='red'>not red</font> &amp;", text, "Web"),
       stage.makeItem("tabs\tand\n\n\n   many      blanks \u2028 and line separators", text, "Editor"),
-      stage.makeItem("Z͑ͫ̓ͪ̂ͫ̽͏̴̙̤̞͉͚̯̞̠͍A̴̵̜̰͔ͫ͗͢L̠ͨͧͩ͘G̴̻͈͍͔̹̑͗̎̅͛́Ǫ̵̹̻̝̳͂̌̌͘ "
+      stage.makeItem("Z͑ͫ̓ͪ̂ͫ̽͏̴̙̤̞͉͚̯̞̠͍A̴̵̜̰͔ͫ͗͢L̠ͨͧͩ͘G̴̻͈͍͔̹̑͗̎̅͛́Ǫ̵̹̻̝̳͂̌̌"
+                     "͘"
+                     " "
                      "marks",
                      text, "Chat"),
       stage.makeItem("\u202Eright to left override", text, "Web"),
@@ -117,12 +120,19 @@ const std::vector<Scene>& scenes() {
   return all;
 }
 
-// On a backdrop, as a compositor would show the transparent corners.
+// On a backdrop, as a compositor would show it. The display that isn't there has no transparency.
 void save(const QImage& window, const QString& path) {
-  QImage picture(window.size() + QSize(40, 40) * window.devicePixelRatio(), QImage::Format_RGB32);
-  picture.setDevicePixelRatio(window.devicePixelRatio());
+  const double scale = window.width() / 600.0;
+  QImage picture(window.size() + QSize(40, 40) * scale, QImage::Format_RGB32);
   picture.fill(QColor(0x7f, 0x8f, 0xa6));
-  QPainter(&picture).drawImage(QPointF(20, 20), window);
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.scale(scale, scale);
+  QPainterPath corners;
+  corners.addRoundedRect(QRectF(20, 20, 600, 445), 15, 15);
+  painter.setClipPath(corners);
+  painter.drawImage(QRectF(20, 20, 600, 445), window);
+  painter.end();
   picture.save(path);
 }
 

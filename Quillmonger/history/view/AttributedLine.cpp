@@ -9,9 +9,9 @@ void AttributedLine::setLine(const QVariant& line) {
   emit changed();
 }
 
-void AttributedLine::setDimmedColor(const QColor& color) {
-  if (color == m_dimmedColor) return;
-  m_dimmedColor = color;
+void AttributedLine::setHitColor(const QColor& color) {
+  if (color == m_hitColor) return;
+  m_hitColor = color;
   emit changed();
 }
 
@@ -27,9 +27,9 @@ QString AttributedLine::text() const {
   for (const TextRun& run : present) {
     // Blanks at the edge of a tag would be dropped by the markup.
     const QString escaped = run.text.toHtmlEscaped().replace(u' ', QStringLiteral("&nbsp;"));
-    if (run.style == TextRun::Style::bold) text += QStringLiteral("<b>%1</b>").arg(escaped);
-    if (run.style == TextRun::Style::dimmed)
-      text += QStringLiteral("<font color=\"%1\">%2</font>").arg(m_dimmedColor.name(), escaped);
+    text += run.style == TextRun::Style::bold
+                ? QStringLiteral("<font color=\"%1\"><b>%2</b></font>").arg(m_hitColor.name(), escaped)
+                : escaped;
   }
   return text;
 }

@@ -14,12 +14,13 @@ struct RowLine {
   TextRuns runs;
 };
 
-/// A row's line in the markup that a QML Text understands. Not final, since QML derives from what it makes.
+/// A row's line in the markup that a QML Text understands. What is dimmed has the Text's own colour, so that the
+/// ellipsis of a cut line has it too. Not final, since QML derives from what it makes.
 class AttributedLine : public QObject {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(QVariant line READ line WRITE setLine NOTIFY changed)
-  Q_PROPERTY(QColor dimmedColor READ dimmedColor WRITE setDimmedColor NOTIFY changed)
+  Q_PROPERTY(QColor hitColor READ hitColor WRITE setHitColor NOTIFY changed)
   Q_PROPERTY(QString text READ text NOTIFY changed)
   Q_PROPERTY(bool isPlain READ isPlain NOTIFY changed)
 
@@ -28,8 +29,8 @@ class AttributedLine : public QObject {
 
   [[nodiscard]] QVariant line() const { return m_line; }
   void setLine(const QVariant& line);
-  [[nodiscard]] QColor dimmedColor() const { return m_dimmedColor; }
-  void setDimmedColor(const QColor& color);
+  [[nodiscard]] QColor hitColor() const { return m_hitColor; }
+  void setHitColor(const QColor& color);
 
   /// Whether `text` is to be shown as it is, with no markup in it.
   [[nodiscard]] bool isPlain() const;
@@ -42,7 +43,7 @@ class AttributedLine : public QObject {
   [[nodiscard]] TextRuns runs() const { return m_line.value<RowLine>().runs; }
 
   QVariant m_line;
-  QColor m_dimmedColor;
+  QColor m_hitColor;
 };
 
 }  // namespace quillmonger

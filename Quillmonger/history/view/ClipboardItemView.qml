@@ -22,6 +22,7 @@ Item {
 
     objectName: "ClipboardItem"
     height: theme.rowHeight
+    clip: true
     Accessible.role: Accessible.ListItem
     Accessible.name: isImage && line === "" ? qsTrId("accessibility_picture") : line
     Accessible.selectable: true

@@ -20,11 +20,9 @@ Item {
     ListView {
         id: list
         objectName: "HistoryList"
-        anchors { fill: parent; leftMargin: view.theme.margin; rightMargin: view.theme.margin }
+        anchors { fill: parent; margins: view.theme.margin }
         visible: !view.clipboard.isEmpty
         clip: true
-        topMargin: view.theme.margin
-        bottomMargin: view.theme.margin
         boundsBehavior: Flickable.StopAtBounds
         keyNavigationEnabled: false
         highlightFollowsCurrentItem: false
@@ -55,7 +53,7 @@ Item {
 
     ScrollIndicator {
         objectName: "ScrollIndicator"
-        anchors { top: parent.top; bottom: parent.bottom; right: parent.right; margins: 3; bottomMargin: view.cornerRadius }
+        anchors { top: parent.top; bottom: parent.bottom; right: parent.right; margins: 2; bottomMargin: view.cornerRadius }
         visible: view.settings.showScrollbar && list.visible && list.visibleArea.heightRatio < 1
         list: list
         theme: view.theme

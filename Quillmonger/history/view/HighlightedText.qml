@@ -13,14 +13,14 @@ Text {
 
     readonly property AttributedLine attributed: AttributedLine {
         line: root.attributedLine
-        dimmedColor: root.isSelected ? root.theme.selectedSecondary : root.theme.secondary
+        hitColor: root.isSelected ? root.theme.selectedPrimary : root.theme.primary
     }
 
     text: attributed.text
     textFormat: attributed.isPlain ? Text.PlainText : Text.StyledText
     renderType: Text.NativeRendering
     font.pixelSize: theme.rowFontSize
-    color: isSelected ? theme.selectedPrimary : theme.primary
+    color: attributed.isPlain ? attributed.hitColor : isSelected ? theme.selectedSecondary : theme.secondary
     maximumLineCount: 1
     horizontalAlignment: Text.AlignLeft
     elide: truncationMode === HistorySettings.Head ? Text.ElideLeft

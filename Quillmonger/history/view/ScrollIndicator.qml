@@ -12,7 +12,7 @@ Item {
     readonly property real share: Math.max(list.visibleArea.heightRatio, least)
     readonly property real hidden: Math.max(1 - list.visibleArea.heightRatio, 0.0001)
 
-    width: 5
+    width: 4
     Accessible.role: Accessible.ScrollBar
 
     Rectangle {
@@ -28,8 +28,7 @@ Item {
         anchors { fill: parent; margins: -3 }
         readonly property real travel: Math.max(height * (1 - indicator.share), 1)
         readonly property real place: Math.min(Math.max((mouseY - height * indicator.share / 2) / travel, 0), 1)
-        onPositionChanged: indicator.list.contentY = indicator.list.originY - indicator.list.topMargin
-            + place * (indicator.list.contentHeight + indicator.list.topMargin + indicator.list.bottomMargin
-                       - indicator.list.height)
+        onPositionChanged: indicator.list.contentY = indicator.list.originY
+            + place * (indicator.list.contentHeight - indicator.list.height)
     }
 }

@@ -3,7 +3,7 @@ import Quillmonger.History
 import Quillmonger.Resources
 
 // The text of a row and, while Option is held, what a paste would do to its formatting.
-Column {
+Item {
     id: bar
 
     required property var attributedLine
@@ -13,8 +13,11 @@ Column {
     required property HistorySettings settings
     required property Theme theme
 
+    implicitHeight: theme.rowMetrics.height + (hint.visible ? hint.height : 0)
+
     HighlightedText {
         objectName: "ClipboardItemText"
+        y: bar.theme.rowMetrics.ascent - baselineOffset
         width: parent.width
         attributedLine: bar.attributedLine
         isSelected: bar.isSelected
@@ -23,8 +26,9 @@ Column {
     }
 
     Text {
+        id: hint
         objectName: bar.settings.alwaysPasteWithoutFormatting ? "PasteWithFormattingText" : "PasteWithoutFormattingText"
-        width: parent.width
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
         visible: bar.isOptionPressed && !bar.isFileURL
         renderType: Text.NativeRendering
         elide: Text.ElideRight

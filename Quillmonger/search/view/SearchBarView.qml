@@ -44,6 +44,7 @@ FocusScope {
         Text {
             id: placeholder
             objectName: "SearchPlaceholder"
+            x: 2
             visible: field.text === "" && field.preeditText === ""
             renderType: Text.NativeRendering
             font: field.font

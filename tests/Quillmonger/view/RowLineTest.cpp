@@ -80,12 +80,12 @@ TEST(RowLine, JoinsTheTwoEndsOfALongText) {
 
 TEST(RowMarkup, ShowsTextThatLooksLikeMarkupAsItIs) {
   quillmonger::AttributedLine line;
-  line.setDimmedColor(QColor(1, 2, 3));
+  line.setHitColor(QColor(1, 2, 3));
 
   line.setLine(QVariant::fromValue(quillmonger::RowLine{{dimmed("<i>&"), bold("b")}}));
 
   EXPECT_FALSE(line.isPlain());
-  EXPECT_EQ(line.text(), QStringLiteral("<font color=\"#010203\">&lt;i&gt;&amp;</font><b>b</b>"));
+  EXPECT_EQ(line.text(), QStringLiteral("&lt;i&gt;&amp;<font color=\"#010203\"><b>b</b></font>"));
 }
 
 TEST(RowMarkup, HasNoneForALineWithoutAHit) {

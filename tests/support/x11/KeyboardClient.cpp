@@ -94,6 +94,8 @@ void KeyboardClient::ownClipboard() {
   settle();
 }
 
+bool KeyboardClient::isUnderWindowManager() const { return platform::hasWindowManager(m_connection, m_root); }
+
 std::vector<std::uint32_t> KeyboardClient::windowAtoms(const std::string& property) const {
   return platform::numbersProperty(m_connection, m_window, atom(property), XCB_ATOM_ATOM, 64);
 }

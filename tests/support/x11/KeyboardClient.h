@@ -41,6 +41,7 @@ class KeyboardClient final {
   void setWindowProcess(std::uint32_t processId);
   void ownClipboard();
   [[nodiscard]] xcb_window_t focus() const;
+  [[nodiscard]] bool isUnderWindowManager() const;
   [[nodiscard]] std::vector<std::uint32_t> windowAtoms(const std::string& property) const;
   [[nodiscard]] std::uint32_t atom(const std::string& name) const;
 
