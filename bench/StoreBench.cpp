@@ -10,6 +10,7 @@
 
 #include "Quillmonger/capture/PasteboardTypes.h"
 #include "Quillmonger/capture/SqliteStoreContext.h"
+#include "bench/IdleRunLoop.h"
 
 // Where the store's folders are made says which disk is measured: TMPDIR, else the working folder.
 
@@ -18,15 +19,6 @@ namespace {
 using quillmonger::ClipboardItem;
 using quillmonger::Payload;
 using quillmonger::SqliteStoreContext;
-
-/// Nothing is ever due: the benchmarks save by themselves.
-class IdleRunLoop final : public foundation::RunLoop {
- public:
-  void post(Task /*task*/) override {}
-  foundation::Subscription after(foundation::Seconds /*delay*/, Task /*task*/) override { return {}; }
-  foundation::Subscription every(foundation::Seconds /*interval*/, Task /*task*/) override { return {}; }
-  [[nodiscard]] foundation::Date date() const override { return foundation::Date(); }
-};
 
 class Folder final {
  public:

@@ -55,7 +55,7 @@ class Measured(Desktop):
     def start_to_ready(self):
         begin = time.perf_counter()
         self.app = self.spawn([BUILD / "bin/quillmonger-app"], stdout=subprocess.PIPE)
-        while b"clipboard" not in (line := self.app.stdout.readline()):
+        while not (line := self.app.stdout.readline()).startswith(b"Quillmonger is ready"):
             if not line:
                 raise RuntimeError("the application ended")
         ready = (time.perf_counter() - begin) * 1000

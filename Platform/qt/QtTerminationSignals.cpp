@@ -9,12 +9,12 @@
 namespace platform {
 
 QtTerminationSignals::QtTerminationSignals() {
-  sigset_t signals;
-  sigemptyset(&signals);
+  sigset_t ending;
+  sigemptyset(&ending);
   for (const int signal : {SIGTERM, SIGINT, SIGHUP})
-    sigaddset(&signals, signal);
-  pthread_sigmask(SIG_BLOCK, &signals, nullptr);
-  m_descriptor = signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK);
+    sigaddset(&ending, signal);
+  pthread_sigmask(SIG_BLOCK, &ending, nullptr);
+  m_descriptor = signalfd(-1, &ending, SFD_CLOEXEC | SFD_NONBLOCK);
 }
 
 QtTerminationSignals::~QtTerminationSignals() { close(m_descriptor); }

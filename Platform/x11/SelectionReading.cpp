@@ -56,7 +56,7 @@ void SelectionReading::ask(xcb_atom_t target, IncomingTransfer::Completion compl
   const std::string property = "QUILLMONGER_ANSWER_" + std::to_string(m_silentQuestions);
   const IncomingTransfer::Question question{.requestor = m_window,
                                             .property = m_atoms.atom(property),
-                                            .selection = m_atoms.atom("CLIPBOARD"),
+                                            .selection = m_atoms.clipboard(),
                                             .target = target,
                                             .time = m_time,
                                             .limit = byteLimit - m_byteCount};

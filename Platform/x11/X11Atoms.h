@@ -6,6 +6,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace platform {
@@ -13,7 +14,11 @@ namespace platform {
 /// The server's numbers for names, each asked for once. For the thread that uses the connection.
 class X11Atoms final {
  public:
-  explicit X11Atoms(xcb_connection_t* connection) : m_connection(connection) {}
+  /// `clipboard`: the name of the selection that stands for the clipboard.
+  explicit X11Atoms(xcb_connection_t* connection, std::string clipboard = "CLIPBOARD")
+      : m_connection(connection), m_clipboard(std::move(clipboard)) {}
+
+  [[nodiscard]] xcb_atom_t clipboard() { return atom(m_clipboard); }
 
   /// The number of a name, which the server makes up when it is new; none when the connection is lost.
   [[nodiscard]] xcb_atom_t atom(std::string_view name);
@@ -27,6 +32,7 @@ class X11Atoms final {
   void remember(const std::string& name, xcb_atom_t atom);
 
   xcb_connection_t* m_connection;
+  std::string m_clipboard;
   std::map<std::string, xcb_atom_t, std::less<>> m_atoms;
   std::map<xcb_atom_t, std::string> m_names;
 };

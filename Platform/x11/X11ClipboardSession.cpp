@@ -45,9 +45,10 @@ std::vector<std::string> typesOf(const std::vector<PasteboardItem>& items) {
 
 }  // namespace
 
-X11ClipboardSession::X11ClipboardSession(X11Thread& thread, const quillmonger::TypeFilter& filter, Deliver deliver)
+X11ClipboardSession::X11ClipboardSession(X11Thread& thread, std::string selection,
+                                         const quillmonger::TypeFilter& filter, Deliver deliver)
     : m_thread(thread),
-      m_atoms(thread.connection()),
+      m_atoms(thread.connection(), std::move(selection)),
       m_window(xcb_generate_id(thread.connection())),
       m_filter(filter),
       m_succession(std::move(deliver)),
@@ -65,7 +66,7 @@ bool X11ClipboardSession::prepare() {
   const std::uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
   xcb_create_window(connection, XCB_COPY_FROM_PARENT, m_window, m_thread.screen().root, 0, 0, 1, 1, 0,
                     XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK, &events);
-  const xcb_atom_t clipboard = m_atoms.atom("CLIPBOARD");
+  const xcb_atom_t clipboard = m_atoms.clipboard();
   xcb_xfixes_select_selection_input(connection, m_window, clipboard,
                                     XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER |
                                         XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY |
@@ -140,7 +141,7 @@ void X11ClipboardSession::write(Items items) {
 
 void X11ClipboardSession::take(Items items, xcb_timestamp_t time, Taking taking) {
   auto served = std::make_shared<const ServedTypes>(items);
-  const SelectionTaking taken = takeSelection(m_thread.connection(), m_window, m_atoms.atom("CLIPBOARD"), time);
+  const SelectionTaking taken = takeSelection(m_thread.connection(), m_window, m_atoms.clipboard(), time);
   if (!taken.isConfirmed) return;
   m_ownSequence = taken.sequence;
   m_server.setContent(std::move(served), time);
@@ -318,7 +319,7 @@ void X11ClipboardSession::handleOwnerGone(xcb_timestamp_t time, std::uint32_t se
 }
 
 void X11ClipboardSession::offerOn() {
-  const bool isOwned = selectionOwner(m_thread.connection(), m_atoms.atom("CLIPBOARD")) != XCB_WINDOW_NONE;
+  const bool isOwned = selectionOwner(m_thread.connection(), m_atoms.clipboard()) != XCB_WINDOW_NONE;
   if (m_latestContent && !isOwned) take(m_latestContent->items(), *m_ownerGoneAt, Taking::offeredOn);
 }
 

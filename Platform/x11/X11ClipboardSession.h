@@ -40,7 +40,7 @@ class X11ClipboardSession final {
   static constexpr std::chrono::milliseconds returnToFront{120};
 
   /// `thread` outlives this object. `deliver` gets each content in turn.
-  X11ClipboardSession(X11Thread& thread, const quillmonger::TypeFilter& filter, Deliver deliver);
+  X11ClipboardSession(X11Thread& thread, std::string selection, const quillmonger::TypeFilter& filter, Deliver deliver);
   X11ClipboardSession(const X11ClipboardSession&) = delete;
   X11ClipboardSession& operator=(const X11ClipboardSession&) = delete;
   ~X11ClipboardSession() = default;

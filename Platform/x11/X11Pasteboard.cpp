@@ -11,10 +11,10 @@ using quillmonger::PasteboardItem;
 
 std::unique_ptr<X11Pasteboard> X11Pasteboard::connect(foundation::RunLoop& runLoop,
                                                       const quillmonger::TypeFilter& filter,
-                                                      const std::string& display) {
+                                                      const std::string& display, const std::string& selection) {
   auto thread = X11Thread::connect(display);
   if (!thread) return nullptr;
-  std::unique_ptr<X11Pasteboard> pasteboard(new X11Pasteboard(runLoop, std::move(thread), filter));
+  std::unique_ptr<X11Pasteboard> pasteboard(new X11Pasteboard(runLoop, std::move(thread), selection, filter));
   if (!pasteboard->m_session->prepare()) return nullptr;
   pasteboard->m_thread->start(
       [session = pasteboard->m_session.get()](const xcb_generic_event_t& event) { session->handleEvent(event); },
@@ -23,11 +23,11 @@ std::unique_ptr<X11Pasteboard> X11Pasteboard::connect(foundation::RunLoop& runLo
 }
 
 X11Pasteboard::X11Pasteboard(foundation::RunLoop& runLoop, std::unique_ptr<X11Thread> thread,
-                             const quillmonger::TypeFilter& filter)
+                             const std::string& selection, const quillmonger::TypeFilter& filter)
     : m_runLoop(runLoop),
       m_thread(std::move(thread)),
       m_session(std::make_unique<X11ClipboardSession>(
-          *m_thread, filter, [&runLoop, line = std::weak_ptr(m_line)](ClipboardSnapshot snapshot) {
+          *m_thread, selection, filter, [&runLoop, line = std::weak_ptr(m_line)](ClipboardSnapshot snapshot) {
             runLoop.post([line, snapshot = std::move(snapshot)] {
               if (const auto present = line.lock()) present->push(snapshot);
             });

@@ -24,11 +24,12 @@ namespace platform {
 class X11Pasteboard final : public quillmonger::Pasteboard {
  public:
   /// Watches the clipboard of `display`, or of the one named in the environment when that is empty, from now on.
-  /// `filter` stands until `setTypeFilter`. Null when there is no such display or it can't be watched. `runLoop`
+  /// `filter` stands until `setTypeFilter`; `selection` names another selection to take for the clipboard. Null when there is no such display or it can't be watched. `runLoop`
   /// outlives this object.
   [[nodiscard]] static std::unique_ptr<X11Pasteboard> connect(foundation::RunLoop& runLoop,
                                                               const quillmonger::TypeFilter& filter,
-                                                              const std::string& display = {});
+                                                              const std::string& display = {},
+                                                              const std::string& selection = "CLIPBOARD");
   ~X11Pasteboard() override;
 
   /// The window that was in front when the present content came. For what this program wrote, which it does while its
@@ -50,7 +51,8 @@ class X11Pasteboard final : public quillmonger::Pasteboard {
   void setData(const std::optional<foundation::Data>& data, std::string_view type) override;
 
  private:
-  X11Pasteboard(foundation::RunLoop& runLoop, std::unique_ptr<X11Thread> thread, const quillmonger::TypeFilter& filter);
+  X11Pasteboard(foundation::RunLoop& runLoop, std::unique_ptr<X11Thread> thread, const std::string& selection,
+                const quillmonger::TypeFilter& filter);
   void commit();
 
   foundation::RunLoop& m_runLoop;

@@ -11,14 +11,14 @@
 namespace quillmonger {
 
 /// Gives the text of a key in the user's language.
-using Texts = std::function<std::string(std::string_view key)>;
+using TextLookup = std::function<std::string(std::string_view key)>;
 /// Opens a URL with whatever the user opens such URLs with.
 using UrlOpener = std::function<void(const foundation::Url& url)>;
 
 /// Shows the alert for the failure that the program can't live with. Main thread.
 class DialogManager final : public StoreFailureDialog {
  public:
-  DialogManager(Alert& alert, Texts texts, UrlOpener openUrl, std::string supportAddress);
+  DialogManager(Alert& alert, TextLookup texts, UrlOpener openUrl, std::string supportAddress);
 
   /// Returns when the user has answered.
   void showGenericErrorAlert() override;
@@ -27,7 +27,7 @@ class DialogManager final : public StoreFailureDialog {
   void writeToSupport();
 
   Alert& m_alert;
-  Texts m_texts;
+  TextLookup m_texts;
   UrlOpener m_openUrl;
   std::string m_supportAddress;
 };

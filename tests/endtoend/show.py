@@ -16,7 +16,8 @@ def main(build):
     with Desktop(build, size="1280x800x24") as desktop:
         desktop.run(["xsetroot", "-solid", "#3b4a5a"])
         desktop.start_app()
-        step("Quillmonger runs: " + desktop.log.read_text().splitlines()[0])
+        ready = next(line for line in desktop.log.read_text().splitlines() if line.startswith("Quillmonger is ready"))
+        step(ready)
 
         desktop.copy("The quick brown fox jumps over the lazy dog")
         desktop.wait_for_text("The quick brown fox jumps over the lazy dog")

@@ -7,7 +7,6 @@
 #include "Foundation/Fatal.h"
 #include "Foundation/Output.h"
 #include "Quillmonger/resources/Texts.h"
-#include "Quillmonger/shell/command/CommandSyntax.h"
 
 namespace quillmonger {
 
@@ -19,6 +18,15 @@ template <typename Service>
 std::unique_ptr<Service> required(std::unique_ptr<Service> service, std::string_view what) {
   if (!service) foundation::stopProcess("Quillmonger needs an X11 display that offers " + std::string(what) + ".");
   return service;
+}
+
+bool isUrl(const std::string& word) {
+  const auto url = foundation::Url::parse(word);
+  return url && url->scheme();
+}
+
+std::string selectionName(const std::vector<std::string>& arguments) {
+  return std::string(pasteboardName(arguments).value_or("CLIPBOARD"));
 }
 
 void openUrl(const foundation::Url& url) {
@@ -34,19 +42,19 @@ Composition::Composition(const platform::XdgFolders& folders, const std::vector<
       m_windowSystem(required(platform::X11WindowSystem::connect(), "windows")),
       m_hotKeys(required(platform::X11HotKeys::connect(m_runLoop), "the XKEYBOARD extension")),
       m_pasteboard(required(
-          platform::X11Pasteboard::connect(m_runLoop, TypeFilter(), pasteboardName(arguments).value_or("CLIPBOARD")),
+          platform::X11Pasteboard::connect(m_runLoop, TypeFilter(), {}, selectionName(arguments)),
           "the XFIXES extension")),
       m_pasteKeys(required(
           platform::X11PasteKeys::connect(
               m_pasteboard->selectionWindow(),
-              [this](const std::string& windowClass) { return m_desktopEntries.isTerminal(windowClass); }),
+              [this](const std::string& windowClass) { return isTerminal(windowClass); }),
           "the XTEST extension")),
       m_desktopEntries(folders.dataSearch),
       m_applicationBundles(m_desktopEntries),
-      m_applicationNaming(m_applicationBundles),
+      m_applicationNaming(m_desktopEntries),
       m_bundleProvider([this] { return m_pasteboard->frontmostAtPresentContent(); }, m_desktopEntries),
       m_application(*m_windowSystem),
-      m_views(m_defaults, *m_windowSystem, [this](const std::string& path) { return m_desktopEntries.iconAt(path); }),
+      m_views(m_defaults, *m_windowSystem, [this](const std::string& path) { return iconOf(path); }),
       m_dialogManager(m_views.alert(), localizedText, openUrl, supportAddress),
       m_contextProvider(m_dialogManager, folders.data, m_runLoop),
       m_shortcuts(*m_hotKeys, m_userDefaults, m_notificationCenter),
@@ -60,13 +68,26 @@ Composition::Composition(const platform::XdgFolders& folders, const std::vector<
 
 Composition::~Composition() = default;
 
+bool Composition::isTerminal(const std::string& windowClass) const {
+  const auto entries = m_desktopEntries.present();
+  const auto* entry = platform::matchingEntry(*entries, {0, std::nullopt, windowClass, windowClass}, std::nullopt);
+  return entry != nullptr && std::ranges::find(entry->categories, "TerminalEmulator") != entry->categories.end();
+}
+
+std::optional<std::string> Composition::iconOf(const std::string& path) const {
+  const auto entry = m_desktopEntries.at(foundation::Url::fromFilePath(path));
+  return entry ? std::optional(entry->icon) : std::nullopt;
+}
+
 void Composition::launch(const std::vector<std::string>& arguments) {
   m_root.start();
   std::vector<std::string> urls;
-  std::ranges::copy_if(arguments, std::back_inserter(urls), isUrlWord);
+  std::ranges::copy_if(arguments, std::back_inserter(urls), isUrl);
   m_root.openURLs(urls);
   listenToCommands();
   tellServices();
+  // The first copy asks which application it came from: by then the installed ones have been read.
+  m_backgroundQueue.async([this] { static_cast<void>(m_desktopEntries.present()); });
   // In a later turn: whoever waits for the start need not wait for the window, nor the first chord for its views.
   m_runLoop.post([this] { m_views.appWindow().prepare(); });
 }
@@ -78,7 +99,7 @@ void Composition::saveChanges() {
 
 CommandLine::Operations Composition::commandOperations() {
   return {[this] { m_root.windowManager().toggleAppWindow(); }, [this] { m_root.windowManager().showAppWindow(); },
-          [this] { m_root.quitApp(); }, [this](const std::vector<std::string>& urls) { m_root.openURLs(urls); },
+          [this] { m_root.quitApp(); },
           [this] { return recordsNewestFirst(); }};
 }
 

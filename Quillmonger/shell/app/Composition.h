@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -47,6 +48,8 @@ class Composition final {
   void quit() { m_root.quitApp(); }
 
  private:
+  [[nodiscard]] bool isTerminal(const std::string& windowClass) const;
+  [[nodiscard]] std::optional<std::string> iconOf(const std::string& path) const;
   [[nodiscard]] CommandLine::Operations commandOperations();
   [[nodiscard]] std::vector<std::shared_ptr<ClipboardItem>> recordsNewestFirst();
   void listenToCommands();

@@ -26,13 +26,13 @@ void prepareToolkit() {
 
 int run(int argc, char** argv, const platform::XdgFolders& folders, const std::vector<std::string>& arguments) {
   // Before any thread is started, so that every one of them leaves the signals to it.
-  platform::QtTerminationSignals signals;
+  platform::QtTerminationSignals termination;
   prepareToolkit();
   QGuiApplication application(argc, argv);
   quillmonger::Texts texts;
   QCoreApplication::installTranslator(&texts);
   quillmonger::Composition composition(folders, arguments);
-  signals.onTermination([&composition] { composition.quit(); });
+  termination.onTermination([&composition] { composition.quit(); });
   QObject::connect(&application, &QCoreApplication::aboutToQuit, [&composition] { composition.saveChanges(); });
   composition.launch(arguments);
   return QGuiApplication::exec();
