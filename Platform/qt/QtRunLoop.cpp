@@ -23,7 +23,7 @@ class Timer final : public QObject {
   }
 
   void end() {
-    killTimer(m_id);
+    stop();
     m_task = nullptr;
     deleteLater();
   }
@@ -31,8 +31,12 @@ class Timer final : public QObject {
  private:
   void timerEvent(QTimerEvent* /*event*/) override {
     const auto task = m_task;  // a copy: the task may end its own timer
-    if (m_repeats == Repeats::no) killTimer(m_id);
+    if (m_repeats == Repeats::no) stop();
     if (task) task();
+  }
+
+  void stop() {
+    if (const int running = std::exchange(m_id, 0)) killTimer(running);
   }
 
   foundation::RunLoop::Task m_task;

@@ -142,7 +142,10 @@ void X11ClipboardSession::write(Items items) {
 void X11ClipboardSession::take(Items items, xcb_timestamp_t time, Taking taking) {
   auto served = std::make_shared<const ServedTypes>(items);
   const SelectionTaking taken = takeSelection(m_thread.connection(), m_window, m_atoms.clipboard(), time);
-  if (!taken.isConfirmed) return;
+  if (!taken.isConfirmed) {
+    if (taking == Taking::written) foundation::printLine("another program has taken the clipboard from a write");
+    return;
+  }
   m_ownSequence = taken.sequence;
   m_server.setContent(std::move(served), time);
   m_takings.insert_or_assign(taken.sequence, Taken{.taking = taking, .items = std::move(items)});
