@@ -1,9 +1,12 @@
 #pragma once
 
 #include <algorithm>
+#include <cstddef>
 #include <functional>
+#include <iterator>
 #include <memory>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -60,12 +63,32 @@ class SearchManager final {
     queue.concurrentPerform(slices.count(), [&](std::size_t slice) {
       parts[slice] = foundIn(work, slices.start(slice), slices.end(slice));
     });
-    auto results = std::make_shared<Found>(std::move(parts.front()));
+    Found results = std::move(parts.front());
     for (std::size_t index = 1; index < parts.size(); ++index) {
-      std::move(parts[index].begin(), parts[index].end(), std::back_inserter(*results));
+      std::move(parts[index].begin(), parts[index].end(), std::back_inserter(results));
     }
-    std::stable_sort(results->begin(), results->end(), isBefore);
-    return results;
+    return inOrder(results);
+  }
+
+  // The dates are read once for each result, and not at each comparison: a long history lies all over the memory.
+  static SearchResults<T> inOrder(Found& results) {
+    struct Place {
+      double score;
+      foundation::Date date;
+      std::size_t index;
+    };
+    std::vector<Place> places;
+    places.reserve(results.size());
+    for (const auto& result : results)
+      places.push_back({result.score, result.item->creationDate(), places.size()});
+    std::sort(places.begin(), places.end(), [](const Place& first, const Place& second) {
+      return std::tuple(first.score, second.date, first.index) < std::tuple(second.score, first.date, second.index);
+    });
+    auto ordered = std::make_shared<Found>();
+    ordered->reserve(results.size());
+    for (const auto& place : places)
+      ordered->push_back(std::move(results[place.index]));
+    return ordered;
   }
 
   static Found foundIn(const Work& work, std::size_t start, std::size_t end) {
@@ -89,11 +112,6 @@ class SearchManager final {
   static bool isAppNameFound(const T& item, TextMatcher& matcher) {
     const auto name = item.appName();
     return name && matcher.find(*name);
-  }
-
-  static bool isBefore(const SearchResult<T>& first, const SearchResult<T>& second) {
-    if (first.score != second.score) return first.score < second.score;
-    return first.item->creationDate() > second.item->creationDate();
   }
 
   foundation::BackgroundQueue& m_queue;

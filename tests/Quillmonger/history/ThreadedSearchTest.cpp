@@ -41,9 +41,9 @@ TEST(ThreadedSearch, RunsBesideAHistoryThatChanges) {
   for (int round = 0; round < 20; ++round) {
     viewModel.setSearchTerm(round % 2 == 0 ? "text" : "");
     viewModel.search();
+    clipboard.duplicateItemPublisher().send(context.records().front());
     clipboard.newItemPublisher().send(
         makeRecord("text new " + std::to_string(round), foundation::Seconds(1000 + round)));
-    clipboard.duplicateItemPublisher().send(context.records().front());
     runLoop.runPosted();
     if (const auto item = viewModel.selectedItem().value()) item->paste(ClipboardItemViewModel::Invert::no);
   }
