@@ -41,7 +41,7 @@ class Caller final {
       text.remove_prefix(static_cast<std::size_t>(count));
     }
   }
-  /// Everything until the other side ends the connection, or a second without a byte passes; `meanwhile` runs often.
+  /// Everything until the other side ends the connection, for five seconds at most; `meanwhile` runs often.
   std::string hear(const std::function<void()>& meanwhile) {
     std::string text;
     std::array<char, 65536> buffer{};
