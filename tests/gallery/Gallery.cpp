@@ -52,11 +52,12 @@ std::vector<ViewStage::Item> strangeTexts(ViewStage& stage) {
       stage.makeItem(std::string("bell \a escape \x1b[31m nul \0 end", 31), text, "Terminal"),
       stage.makeItem("<b>not bold</b> & <font color='red'>not red</font> &amp;", text, "Web"),
       stage.makeItem("tabs\tand\n\n\n   many      blanks \u2028 and line separators", text, "Editor"),
-      stage.makeItem("Z͑ͫ̓ͪ̂ͫ̽͏̴̙̤̞͉͚̯̞̠͍A̴̵̜̰͔ͫ͗͢L̠ͨͧͩ͘G̴̻͈͍͔̹̑͗̎̅͛́Ǫ̵̹̻̝̳͂̌̌"
-                     "͘"
-                     " "
-                     "marks",
-                     text, "Chat"),
+      stage.makeItem(
+          "Z͑ͫ̓ͪ̂ͫ̽͏̴̙̤̞͉͚̯̞̠͍A̴̵̜̰͔ͫ͗͢L̠ͨͧͩ͘G̴̻͈͍͔̹̑͗̎̅͛́Ǫ̵̹̻̝̳͂̌̌"
+          "͘"
+          " "
+          "marks",
+          text, "Chat"),
       stage.makeItem("\u202Eright to left override", text, "Web"),
   };
 }

@@ -16,16 +16,12 @@ namespace testsupport {
 
 using quillmonger::ClipboardItemViewModel;
 
-namespace {
-
 void collect(QQuickItem* item, const QString& identifier, std::vector<QQuickItem*>& found) {
   if (!item->isVisible()) return;
   if (item->objectName() == identifier) found.push_back(item);
   for (QQuickItem* child : item->childItems())
     collect(child, identifier, found);
 }
-
-}  // namespace
 
 ViewStage::ViewStage()
     : m_services(std::make_shared<const ClipboardItemViewModel::Services>(

@@ -20,6 +20,9 @@
 
 namespace testsupport {
 
+/// Adds the shown items with this accessibility identifier, from `item` down its tree.
+void collect(QQuickItem* item, const QString& identifier, std::vector<QQuickItem*>& found);
+
 /// The history window's real views on state that the caller sets. Needs the application object.
 class ViewStage final {
  public:
