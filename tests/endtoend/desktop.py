@@ -82,6 +82,9 @@ class Desktop:
             except subprocess.TimeoutExpired:
                 process.kill()
                 process.wait()
+            for stream in (process.stdin, process.stdout, process.stderr):
+                if stream:
+                    stream.close()
         shutil.rmtree(self.home, ignore_errors=True)
 
     def _start_bus(self):

@@ -252,8 +252,7 @@ class WhatIsKept(RoadCase):
 
     def test_the_clipboard_after_its_owner_has_quit(self):
         self.desktop.start_app()
-        owner = self.desktop.spawn(["xclip", "-selection", "clipboard", "-in", "-quiet", "/dev/stdin"],
-                                   stdin=open(self._file("left behind")))
+        owner = self.desktop.spawn(["xclip", "-selection", "clipboard", "-in", "-quiet", self._file("left behind")])
         self.desktop.wait_for_text("left behind")
 
         owner.kill()
@@ -271,7 +270,7 @@ class WhatIsKept(RoadCase):
 class TheStart(RoadCase):
     def test_a_first_start_shows_the_guide_and_captures_nothing_until_it_ends(self):
         self.desktop.start_app(first_launch=True)
-        guide = self.desktop.window("Getting Started")
+        guide = self.desktop.window("Welcome to Quillmonger")
         self.desktop.copy("during the guide")
         wait_until(lambda: self.desktop.clipboard() == b"during the guide", "the copy on the clipboard")
         self.assertEqual(self.desktop.texts(), [])
@@ -319,7 +318,7 @@ class TheStart(RoadCase):
 
         with open(self.desktop.log, "ab") as log:
             app = self.desktop.spawn([self.desktop.build / "bin/quillmonger-app"], stdout=log, stderr=log)
-        alert = self.desktop.window("Quillmonger")
+        alert = self.desktop.window("quillmonger", "--class")
         self.assertIsNone(app.poll())
         self.desktop.focus(alert)
         self.desktop.press("Escape")
