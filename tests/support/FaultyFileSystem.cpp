@@ -2,12 +2,10 @@
 
 #include <sqlite3.h>
 
-#include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <new>
-#include <optional>
+#include <sstream>
 
 namespace testsupport {
 
@@ -24,8 +22,9 @@ struct FaultyFileSystem::State {
 namespace {
 
 std::string contentOf(const std::string& path) {
-  std::ifstream stream(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+  std::ostringstream content;
+  content << std::ifstream(path, std::ios::binary).rdbuf();
+  return std::move(content).str();
 }
 
 // The real file stands behind this head, in the memory that the library gives.

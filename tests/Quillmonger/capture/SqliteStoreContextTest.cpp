@@ -198,12 +198,12 @@ TEST_F(SqliteStoreContextTest, StoresTheBytesOnceWhenTwoRecordsShareThem) {
 }
 
 TEST_F(SqliteStoreContextTest, LeavesNothingOfDeletedContentInItsFiles) {
-  for (int i = 0; i < 600; ++i) {
+  for (int i = 0; i < 240; ++i) {
     const auto number = std::to_string(1000 + i);
     const auto record =
         makeRecord(text("secret-" + number + largeBytes(static_cast<std::size_t>(i % 7) * 900, "x")), i);
     store->insert(record);
-    if (i % 50 == 0) {
+    if (i % 40 == 0) {
       ASSERT_TRUE(store->save());
     }
   }
@@ -219,14 +219,14 @@ TEST_F(SqliteStoreContextTest, LeavesNothingOfDeletedContentInItsFiles) {
   all.clear();
   ASSERT_TRUE(store->save());
   std::set<std::string> expected;
-  for (int i = 0; i < 600; i += 3)
+  for (int i = 0; i < 240; i += 3)
     expected.insert("secret-" + std::to_string(1000 + i));
   EXPECT_EQ(secretsIn(files()), expected);
   for (const auto& record : records())
     store->remove(record);
   ASSERT_TRUE(store->save());
 
-  for (int i = 0; i < 600; ++i)
+  for (int i = 0; i < 240; ++i)
     EXPECT_FALSE(isInFiles("secret-" + std::to_string(1000 + i))) << i;
   EXPECT_FALSE(isInFiles("hidden-large"));
 }

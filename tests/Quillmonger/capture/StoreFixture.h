@@ -6,9 +6,9 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
-#include <iterator>
 #include <map>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <thread>
 
@@ -61,8 +61,9 @@ class StoreFixture : public testing::Test {
     for (const auto& entry : std::filesystem::directory_iterator(folder())) {
       const auto name = entry.path().filename().string();
       if (name == "history.lock" || name == "history.sqlite-shm") continue;
-      std::ifstream stream(entry.path(), std::ios::binary);
-      files[name] = {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+      std::ostringstream content;
+      content << std::ifstream(entry.path(), std::ios::binary).rdbuf();
+      files[name] = std::move(content).str();
     }
     return files;
   }
