@@ -81,6 +81,7 @@ void Quillmonger::startGettingStarted() {
 }
 
 void Quillmonger::startNormally() {
+  m_isStartedNormally = true;
   m_platform.application.setActivationPolicy(Application::ActivationPolicy::accessory);
   m_subscriptions.push_back(
       m_platform.notificationCenter.observe("PasteSucceeded", [this](const auto& /*paste*/) { pasteSucceeded(); }));
@@ -91,10 +92,27 @@ void Quillmonger::startNormally() {
 }
 
 void Quillmonger::finishGettingStarted() {
+  if (m_isStartedNormally) return;
   m_platform.defaults.set(keys::firstLaunch, false);
   m_windowManager.hideGettingStartedWindow();
   start();
   m_windowManager.showAppWindow();
+}
+
+void Quillmonger::show() {
+  if (m_isStartedNormally) {
+    m_windowManager.showAppWindow();
+  } else {
+    m_windowManager.showGettingStartedWindow();
+  }
+}
+
+void Quillmonger::toggle() {
+  if (m_isStartedNormally) {
+    m_windowManager.toggleAppWindow();
+  } else {
+    m_windowManager.showGettingStartedWindow();
+  }
 }
 
 void Quillmonger::applicationDidResignActive() { m_windowManager.applicationDidResignActive(); }

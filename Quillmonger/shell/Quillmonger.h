@@ -66,9 +66,13 @@ class Quillmonger final {
   /// The program has been launched: shows the Getting Started guide while the setting `firstLaunch` is on, and starts
   /// to watch the clipboard otherwise.
   void start();
-  /// The guide's last step: the normal start, and the history on the screen. At most once, and only in a run whose
-  /// `start` showed the guide.
+  /// The guide's last step: the normal start, and the history on the screen. Nothing happens once the normal start has
+  /// taken place.
   void finishGettingStarted();
+  /// The user asks for the program: shows the history, or the guide until the user has been through it.
+  void show();
+  /// The same, but hides the history if it is showing.
+  void toggle();
   /// The program lost the front.
   void applicationDidResignActive();
   /// The program is about to end: brings the store to the disk.
@@ -91,6 +95,7 @@ class Quillmonger final {
   SearchManager<ClipboardItemViewModel> m_searchManager;
   ClipboardViewModel m_clipboardViewModel;
   WindowManager m_windowManager;
+  bool m_isStartedNormally = false;
   std::vector<foundation::Subscription> m_subscriptions;
 };
 

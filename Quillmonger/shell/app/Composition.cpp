@@ -98,8 +98,7 @@ void Composition::saveChanges() {
 }
 
 CommandLine::Operations Composition::commandOperations() {
-  return {[this] { m_root.windowManager().toggleAppWindow(); }, [this] { m_root.windowManager().showAppWindow(); },
-          [this] { m_root.quitApp(); },
+  return {[this] { m_root.toggle(); }, [this] { m_root.show(); }, [this] { m_root.quitApp(); },
           [this] { return recordsNewestFirst(); }};
 }
 

@@ -129,6 +129,46 @@ TEST_F(QuillmongerTest, EndsTheGuideWithTheNormalStartAndTheHistory) {
   EXPECT_TRUE(hotKeys.isRegistered(activateChord));
 }
 
+TEST_F(QuillmongerTest, EndsTheGuideOnce) {
+  settings.defaults.set(keys::firstLaunch, true);
+  start();
+  root->finishGettingStarted();
+  settle();
+  log.clear();
+
+  root->finishGettingStarted();
+  settle();
+
+  EXPECT_EQ(log, Log{});
+}
+
+TEST_F(QuillmongerTest, ShowsTheGuideInsteadOfTheHistoryUntilItIsOver) {
+  settings.defaults.set(keys::firstLaunch, true);
+  start();
+  log.clear();
+
+  root->show();
+  root->toggle();
+  settle();
+
+  EXPECT_EQ(log, (Log{"guide center", "guide makeKeyAndOrderFront", "guide center", "guide makeKeyAndOrderFront"}));
+}
+
+TEST_F(QuillmongerTest, ShowsAndTogglesTheHistoryOnceTheGuideIsOver) {
+  settings.defaults.set(keys::firstLaunch, true);
+  start();
+  root->finishGettingStarted();
+  settle();
+  log.clear();
+
+  root->toggle();
+  root->show();
+  settle();
+
+  EXPECT_EQ(log, (Log{"history orderOut", "application hide", "application activate", "history center",
+                      "history makeKeyAndOrderFront", "ClipboardActivated"}));
+}
+
 TEST_F(QuillmongerTest, CapturesAtTheGuidesEndWhatWasCopiedMeanwhile) {
   settings.defaults.set(keys::firstLaunch, true);
   start();
