@@ -77,6 +77,8 @@ void QtQuickWindow::applyKind() {
   m_view->setColor(Qt::transparent);
 }
 
+void QtQuickWindow::unload() { m_view.reset(); }
+
 bool QtQuickWindow::isVisible() const { return m_view && m_view->isVisible(); }
 
 void QtQuickWindow::center() {

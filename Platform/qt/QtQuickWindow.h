@@ -42,6 +42,8 @@ class QtQuickWindow final : public quillmonger::Window {
   /// Loads and paints the tree, unless that is done. Takes tens of milliseconds: called in an idle turn after the
   /// start, it spares the first show that time. A tree that can't be loaded is a fault of the program and stops it.
   void prepare();
+  /// Takes it off the screen and lets go of the tree, before the objects that it shows go.
+  void unload();
 
   [[nodiscard]] bool isVisible() const override;
   /// On the screen with the pointer.

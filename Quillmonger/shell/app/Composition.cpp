@@ -37,19 +37,17 @@ void openUrl(const foundation::Url& url) {
 
 Composition::Composition(const platform::XdgFolders& folders, const std::vector<std::string>& arguments)
     : m_folders(folders),
+      m_desktopEntries(folders.dataSearch),
       m_userDefaults(folders.config / "settings.json", m_runLoop),
       m_defaults(m_userDefaults),
       m_windowSystem(required(platform::X11WindowSystem::connect(), "windows")),
       m_hotKeys(required(platform::X11HotKeys::connect(m_runLoop), "the XKEYBOARD extension")),
-      m_pasteboard(required(
-          platform::X11Pasteboard::connect(m_runLoop, TypeFilter(), {}, selectionName(arguments)),
-          "the XFIXES extension")),
+      m_pasteboard(required(platform::X11Pasteboard::connect(m_runLoop, TypeFilter(), {}, selectionName(arguments)),
+                            "the XFIXES extension")),
       m_pasteKeys(required(
-          platform::X11PasteKeys::connect(
-              m_pasteboard->selectionWindow(),
-              [this](const std::string& windowClass) { return isTerminal(windowClass); }),
+          platform::X11PasteKeys::connect(m_pasteboard->selectionWindow(),
+                                          [this](const std::string& windowClass) { return isTerminal(windowClass); }),
           "the XTEST extension")),
-      m_desktopEntries(folders.dataSearch),
       m_applicationBundles(m_desktopEntries),
       m_applicationNaming(m_desktopEntries),
       m_bundleProvider([this] { return m_pasteboard->frontmostAtPresentContent(); }, m_desktopEntries),
@@ -66,7 +64,12 @@ Composition::Composition(const platform::XdgFolders& folders, const std::vector<
   m_resigning = m_application.onDidResignActive([this] { m_root.applicationDidResignActive(); });
 }
 
-Composition::~Composition() = default;
+// The views show what the root owns, and the root needs their windows from its first moment on: neither can simply be
+// made after the other.
+Composition::~Composition() {
+  m_resigning.cancel();
+  m_views.close();
+}
 
 bool Composition::isTerminal(const std::string& windowClass) const {
   const auto entries = m_desktopEntries.present();
@@ -111,10 +114,9 @@ std::vector<std::shared_ptr<ClipboardItem>> Composition::recordsNewestFirst() {
 }
 
 void Composition::listenToCommands() {
-  m_commandSocket =
-      platform::CommandSocket::listen(m_folders.runtime / "socket", m_runLoop, [this](const auto& line, const auto& reply) {
-        reply(m_commandLine.answer(line));
-      });
+  m_commandSocket = platform::CommandSocket::listen(
+      m_folders.runtime / "socket", m_runLoop,
+      [this](const auto& line, const auto& reply) { reply(m_commandLine.answer(line)); });
 }
 
 void Composition::tellServices() const {

@@ -56,8 +56,9 @@ class Composition final {
   void tellServices() const;
 
   platform::XdgFolders m_folders;
+  // Before the services whose threads ask it, so that they end first.
+  platform::DesktopEntries m_desktopEntries;
   platform::QtRunLoop m_runLoop;
-  platform::QtBackgroundQueue m_backgroundQueue;
   foundation::NotificationCenter m_notificationCenter;
   defaults::FileUserDefaults m_userDefaults;
   defaults::Defaults m_defaults;
@@ -66,13 +67,14 @@ class Composition final {
   std::unique_ptr<platform::X11HotKeys> m_hotKeys;
   std::unique_ptr<platform::X11Pasteboard> m_pasteboard;
   std::unique_ptr<platform::X11PasteKeys> m_pasteKeys;
-  platform::DesktopEntries m_desktopEntries;
   platform::DesktopApplicationBundles m_applicationBundles;
   platform::DesktopApplicationNaming m_applicationNaming;
   platform::DesktopBundleProvider m_bundleProvider;
   platform::QtLocalEventMonitor m_eventMonitor;
   platform::QtApplication m_application;
   Views m_views;
+  // After all that its work asks, which may still go on when the root has gone.
+  platform::QtBackgroundQueue m_backgroundQueue;
 
   DialogManager m_dialogManager;
   ContextProvider m_contextProvider;

@@ -42,6 +42,14 @@ void Views::feed(Quillmonger& root) {
       std::make_unique<GettingStartedModel>(QStringLiteral("Shift+Super+V"), [&root] { root.finishGettingStarted(); });
 }
 
+void Views::close() {
+  m_appWindow.unload();
+  m_gettingStartedWindow.unload();
+  m_gettingStartedModel.reset();
+  m_clipboardViewAdapter.reset();
+  m_searchBarModel.reset();
+}
+
 QQmlEngine& Views::engine() {
   if (!m_engine) {
     m_engine = std::make_unique<QQmlEngine>();

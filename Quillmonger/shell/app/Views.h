@@ -21,15 +21,17 @@ namespace quillmonger {
 /// their content is made afterwards, from what the logic owns. Main thread.
 class Views final {
  public:
-  /// All outlive the views.
+  /// Both outlive the views.
   Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCache::IconNaming iconNaming);
 
   [[nodiscard]] platform::QtQuickWindow& appWindow() { return m_appWindow; }
   [[nodiscard]] platform::QtQuickWindow& gettingStartedWindow() { return m_gettingStartedWindow; }
   [[nodiscard]] Alert& alert() { return m_alert; }
 
-  /// Before the first window is shown. `root` outlives the views.
+  /// Before the first window is shown. `root` is there until `close`.
   void feed(Quillmonger& root);
+  /// Lets go of everything that `feed` gave. The windows stay, without content, for those that hold them.
+  void close();
 
  private:
   using Content = platform::QtQuickWindow::Content;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QPointer>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
@@ -86,6 +87,16 @@ TEST_F(QtQuickWindowTest, TellsItsContentWhetherTransparencyIsBlended) {
   m_system.isBlending = true;
   m_window.makeKeyAndOrderFront();
   EXPECT_TRUE(m_window.view()->rootObject()->property("blendsTransparency").toBool());
+}
+
+TEST_F(QtQuickWindowTest, LetsGoOfItsTreeWhenItIsUnloaded) {
+  m_window.makeKeyAndOrderFront();
+  const QPointer<QQuickItem> content = m_window.view()->rootObject();
+
+  m_window.unload();
+
+  EXPECT_TRUE(content.isNull());
+  EXPECT_FALSE(m_window.isVisible());
 }
 
 TEST_F(QtQuickWindowTest, StandsInTheMiddleAndALittleAbove) {
