@@ -123,7 +123,8 @@ void X11ClipboardSession::askForTime() {
 
 void X11ClipboardSession::handleTime(xcb_timestamp_t time) {
   if (std::exchange(m_isStarting, false)) {
-    m_manager.take(time);
+    // Programs that quit ask about the desktop's clipboard, of which a watcher of another selection knows nothing.
+    if (m_atoms.clipboard() == m_atoms.atom("CLIPBOARD")) m_manager.take(time);
     if (m_succession.latest() == 0 && m_isOwnedAtStart) {
       const Number number = m_succession.begin(time);
       m_succession.complete(number, std::nullopt);

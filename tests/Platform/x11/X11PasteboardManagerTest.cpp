@@ -129,6 +129,18 @@ TEST_F(X11PasteboardManager, RefusesToSaveARejectedCopy) {
   EXPECT_FALSE(quitting.ask("CLIPBOARD_MANAGER", "SAVE_TARGETS").has_value());
 }
 
+TEST_F(X11PasteboardManager, LeavesThePartAloneWhenItWatchesAnotherSelection) {
+  SelectionClient client(m_display.name());
+  m_pasteboard.reset();
+  ASSERT_TRUE(runUntil([&] { return client.owner("CLIPBOARD_MANAGER") == XCB_WINDOW_NONE; }));
+
+  m_pasteboard = platform::X11Pasteboard::connect(m_runLoop, {}, m_display.name(), "ui-testing");
+  write("words");
+  ASSERT_TRUE(runUntil([&] { return client.owner("ui-testing") == m_pasteboard->selectionWindow(); }));
+
+  EXPECT_EQ(client.owner("CLIPBOARD_MANAGER"), static_cast<xcb_window_t>(XCB_WINDOW_NONE));
+}
+
 TEST_F(X11PasteboardManager, LeavesThePartToAnotherManager) {
   SelectionClient client(m_display.name());
   ASSERT_TRUE(runUntil([&] { return client.owner("CLIPBOARD_MANAGER") == m_pasteboard->selectionWindow(); }));
