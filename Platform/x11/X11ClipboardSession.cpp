@@ -183,6 +183,7 @@ X11ClipboardSession::Number X11ClipboardSession::begin(xcb_timestamp_t time, std
   m_manager.answer(ManagerSelection::Saved::no);
   const Number number = m_succession.begin(time);
   supersede(previous, sequence);
+  forgetDelivered();
   m_contents[number].settling = m_thread.after(Succession::shortestStand, [this, number] {
     m_succession.settle(number);
     forget(number);
@@ -302,6 +303,13 @@ void X11ClipboardSession::forget(Number number) {
   if (content->second.reading && !content->second.reading->isFinished()) return;
   keepForLateAnswer(std::move(content->second.reading));
   m_contents.erase(content);
+}
+
+// A content that waited for a slower one before it is handed on with that one, when none of its own events comes any
+// more.
+void X11ClipboardSession::forgetDelivered() {
+  for (auto content = m_contents.begin(); content != m_contents.end();)
+    forget((content++)->first);
 }
 
 void X11ClipboardSession::keepForLateAnswer(std::unique_ptr<SelectionReading> reading) {

@@ -99,6 +99,7 @@ class X11ClipboardSession final {
   void finishBuilding(Number number, ClipboardSnapshot snapshot);
   void completeIfReady(Number number);
   void forget(Number number);
+  void forgetDelivered();
   void keepForLateAnswer(std::unique_ptr<SelectionReading> reading);
   [[nodiscard]] SelectionReading* readingOf(xcb_window_t window);
 

@@ -2,7 +2,10 @@
 
 #include <chrono>
 #include <memory>
+#include <set>
+#include <string>
 
+#include "Platform/x11/X11Reply.h"
 #include "tests/Platform/x11/X11PasteboardFixture.h"
 
 namespace testsupport {
@@ -30,6 +33,16 @@ class X11PasteboardHostileOwner : public X11PasteboardTest {
       m_pasteboard->advance();
       return presentText() == text;
     }));
+  }
+
+  // Of all programs on the display: each reading has one of its own.
+  [[nodiscard]] std::size_t windowCount() const {
+    const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> connection(
+        xcb_connect(m_display.name().c_str(), nullptr), &xcb_disconnect);
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection.get())).data->root;
+    const platform::X11Reply<xcb_query_tree_reply_t> tree(
+        xcb_query_tree_reply(connection.get(), xcb_query_tree(connection.get(), root), nullptr));
+    return tree ? tree->children_len : 0;
   }
 
   // Lets the content stand for long enough to count.
@@ -231,6 +244,36 @@ TEST_F(X11PasteboardHostileOwner, ThatIsSlowComesAfterTheNewerContent) {
     const auto text = presentText();
     return text && text->size() == 200'000;
   }));
+}
+
+TEST_F(X11PasteboardHostileOwner, ThatIsSlowLeavesNothingBehindOfWhatWaitedForIt) {
+  expectGoodCopy();
+  const std::size_t before = windowCount();
+  for (const std::size_t pieces : {5'000, 5'001, 5'002}) {
+    HostileOwner slow(m_display.name());
+    slow.answer("UTF8_STRING", streamOf(pieces, 40, true));
+    slow.own();
+    ASSERT_TRUE(runUntil([&] { return slow.requestedTargets().size() == 2; }));
+    letStand();
+    HostileOwner waiting(m_display.name());
+    waiting.answer("UTF8_STRING", give("waiting"));
+    waiting.own();
+    ASSERT_TRUE(runUntil([&] { return waiting.requestedTargets().size() == 2; }));
+    letStand();
+    HostileOwner last(m_display.name());
+    last.answer("UTF8_STRING", give("last"));
+    last.own();
+    std::set<std::size_t> sizes;
+    ASSERT_TRUE(runUntil([&] {
+      m_pasteboard->advance();
+      sizes.insert(presentText().value_or("").size());
+      return sizes.contains(4) && sizes.contains(pieces * 40);
+    }));
+  }
+
+  expectGoodCopy();
+
+  EXPECT_TRUE(runUntil([&] { return windowCount() <= before; }, foundation::Seconds(5)));
 }
 
 TEST_F(X11PasteboardHostileOwner, ThatAnswersForItsSuccessorIsNotConfusedWithIt) {
