@@ -174,7 +174,10 @@ bool X11HotKeys::registerHotKey(std::uint32_t identifier, std::uint32_t keyCode,
   const auto isGranted = std::make_shared<std::promise<bool>>();
   auto answer = isGranted->get_future();
   m_thread->run([this, identifier, chord, isGranted] { isGranted->set_value(m_grabs->add(identifier, chord)); });
-  return answer.wait_for(answerTime) == std::future_status::ready && answer.get();
+  if (answer.wait_for(answerTime) == std::future_status::ready) return answer.get();
+  // Granted after all, the chord would be taken from the other programs for nobody.
+  unregisterHotKey(identifier);
+  return false;
 }
 
 void X11HotKeys::unregisterHotKey(std::uint32_t identifier) {
