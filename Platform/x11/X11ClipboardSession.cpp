@@ -132,10 +132,14 @@ void X11ClipboardSession::handleTime(xcb_timestamp_t time) {
       readOwner(number, time);
     }
   }
-  if (auto items = std::exchange(m_writing, std::nullopt)) take(*std::move(items), time, Taking::written);
+  if (auto items = std::exchange(m_writing, std::nullopt)) {
+    take(*std::move(items), time, Taking::written);
+    --m_writesLeft;
+  }
 }
 
 void X11ClipboardSession::write(Items items) {
+  if (m_writing) --m_writesLeft;
   m_writing = std::move(items);
   askForTime();
 }

@@ -3,6 +3,7 @@
 #include <xcb/xcb.h>
 #include <xcb/xfixes.h>
 
+#include <atomic>
 #include <chrono>
 #include <cstdint>
 #include <functional>
@@ -51,8 +52,12 @@ class X11ClipboardSession final {
 
   void handleEvent(const xcb_generic_event_t& event);
   void setFilter(const quillmonger::TypeFilter& filter) { m_filter = filter; }
-  /// Takes the clipboard for these items.
+  /// A `write` will come. Any thread.
+  void announceWrite() { ++m_writesLeft; }
+  /// Takes the clipboard for these items. Announced before.
   void write(std::vector<quillmonger::PasteboardItem> items);
+  /// Whether nothing that was announced is still to be written. Any thread.
+  [[nodiscard]] bool isWritten() const { return m_writesLeft == 0; }
 
   /// The window that owns the clipboard for this program. Any thread.
   [[nodiscard]] xcb_window_t window() const { return m_window; }
@@ -117,6 +122,7 @@ class X11ClipboardSession final {
   SelectionServer m_server;
   ManagerSelection m_manager;
   std::optional<Items> m_writing;
+  std::atomic<unsigned> m_writesLeft = 0;
   std::map<std::uint32_t, Taken> m_takings;
   std::uint32_t m_ownSequence = 0;
 

@@ -44,10 +44,10 @@ std::string lowered(std::string_view text) {
 // One paste at a time: a later one takes the place of one that still waits. On the thread alone.
 class X11PasteKeys::Injector final {
  public:
-  Injector(X11Thread& thread, xcb_window_t selectionWindow, TerminalPredicate isTerminal)
+  Injector(X11Thread& thread, WrittenWindow writtenWindow, TerminalPredicate isTerminal)
       : m_thread(thread),
         m_connection(thread.connection()),
-        m_selectionWindow(selectionWindow),
+        m_writtenWindow(std::move(writtenWindow)),
         m_isTerminal(std::move(isTerminal)),
         m_clipboard(internAtom(m_connection, "CLIPBOARD")),
         m_wmState(internAtom(m_connection, "WM_STATE")),
@@ -79,10 +79,11 @@ class X11PasteKeys::Injector final {
   }
 
   [[nodiscard]] bool ownsClipboard() const {
+    const xcb_window_t window = m_writtenWindow();
     const auto cookie = xcb_get_selection_owner(m_connection, m_clipboard);
     const ReplyPointer<xcb_get_selection_owner_reply_t> reply(
         xcb_get_selection_owner_reply(m_connection, cookie, nullptr));
-    return reply && reply->owner == m_selectionWindow;
+    return window != XCB_NONE && reply && reply->owner == window;
   }
 
   // The window of another program that gets the keys, as its program made it. While a window manager runs it is one
@@ -182,7 +183,7 @@ class X11PasteKeys::Injector final {
 
   X11Thread& m_thread;
   xcb_connection_t* m_connection;
-  xcb_window_t m_selectionWindow;
+  WrittenWindow m_writtenWindow;
   TerminalPredicate m_isTerminal;
   xcb_atom_t m_clipboard;
   xcb_atom_t m_wmState;
@@ -191,13 +192,13 @@ class X11PasteKeys::Injector final {
   foundation::Subscription m_next;
 };
 
-std::unique_ptr<X11PasteKeys> X11PasteKeys::connect(xcb_window_t selectionWindow, TerminalPredicate isTerminal,
+std::unique_ptr<X11PasteKeys> X11PasteKeys::connect(WrittenWindow writtenWindow, TerminalPredicate isTerminal,
                                                     const std::string& display) {
   auto thread = X11Thread::connect(display);
   if (!thread) return nullptr;
   const xcb_query_extension_reply_t* xtest = xcb_get_extension_data(thread->connection(), &xcb_test_id);
   if (xtest == nullptr || xtest->present == 0) return nullptr;
-  auto injector = std::make_unique<Injector>(*thread, selectionWindow, std::move(isTerminal));
+  auto injector = std::make_unique<Injector>(*thread, std::move(writtenWindow), std::move(isTerminal));
   return std::unique_ptr<X11PasteKeys>(new X11PasteKeys(std::move(thread), std::move(injector)));
 }
 

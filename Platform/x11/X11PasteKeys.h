@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -9,18 +10,21 @@
 
 namespace platform {
 
-/// Presses Control and V, with Shift for a terminal, through XTest: once the clipboard is this program's, a window of
-/// another program has the keyboard, and the user holds no modifier. Waits for that on a thread of its own, at most a
-/// second.
+/// Presses Control and V, with Shift for a terminal, through XTest: once the clipboard is what this program wrote last,
+/// a window of another program has the keyboard, and the user holds no modifier. Waits for that on a thread of its own,
+/// at most a second.
 class X11PasteKeys final : public quillmonger::PasteKeyPosting {
  public:
   /// Whether the application of this window class is a terminal, beyond the ones that are known here. Called on the
   /// service's thread.
   using TerminalPredicate = std::function<bool(const std::string& windowClass)>;
 
-  /// Null when there is no X server, or one without XTest. `selectionWindow` is the window that owns CLIPBOARD when
-  /// the program has written it.
-  [[nodiscard]] static std::unique_ptr<X11PasteKeys> connect(xcb_window_t selectionWindow, TerminalPredicate isTerminal,
+  /// The window that owns CLIPBOARD when all that the program has written is on offer; 0 until then. Called on the
+  /// service's thread.
+  using WrittenWindow = std::function<std::uint32_t()>;
+
+  /// Null when there is no X server, or one without XTest.
+  [[nodiscard]] static std::unique_ptr<X11PasteKeys> connect(WrittenWindow writtenWindow, TerminalPredicate isTerminal,
                                                              const std::string& display = {});
   ~X11PasteKeys() override;
 

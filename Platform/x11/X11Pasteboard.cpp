@@ -10,8 +10,8 @@ namespace platform {
 using quillmonger::PasteboardItem;
 
 std::unique_ptr<X11Pasteboard> X11Pasteboard::connect(foundation::RunLoop& runLoop,
-                                                      const quillmonger::TypeFilter& filter,
-                                                      const std::string& display, const std::string& selection) {
+                                                      const quillmonger::TypeFilter& filter, const std::string& display,
+                                                      const std::string& selection) {
   auto thread = X11Thread::connect(display);
   if (!thread) return nullptr;
   std::unique_ptr<X11Pasteboard> pasteboard(new X11Pasteboard(runLoop, std::move(thread), selection, filter));
@@ -43,6 +43,7 @@ void X11Pasteboard::clearContents() {
   const bool isScheduled = m_draft.has_value();
   m_draft.emplace();
   if (isScheduled) return;
+  m_session->announceWrite();
   m_runLoop.post([this, line = std::weak_ptr(m_line)] {
     if (!line.expired()) commit();
   });

@@ -24,8 +24,8 @@ namespace platform {
 class X11Pasteboard final : public quillmonger::Pasteboard {
  public:
   /// Watches the clipboard of `display`, or of the one named in the environment when that is empty, from now on.
-  /// `filter` stands until `setTypeFilter`; `selection` names another selection to take for the clipboard. Null when there is no such display or it can't be watched. `runLoop`
-  /// outlives this object.
+  /// `filter` stands until `setTypeFilter`; `selection` names another selection to take for the clipboard. Null when
+  /// there is no such display or it can't be watched. `runLoop` outlives this object.
   [[nodiscard]] static std::unique_ptr<X11Pasteboard> connect(foundation::RunLoop& runLoop,
                                                               const quillmonger::TypeFilter& filter,
                                                               const std::string& display = {},
@@ -35,9 +35,11 @@ class X11Pasteboard final : public quillmonger::Pasteboard {
   /// The window that was in front when the present content came. For what this program wrote, which it does while its
   /// own window is in front, the one that came to the front then.
   [[nodiscard]] std::optional<WindowIdentity> frontmostAtPresentContent() const { return m_line->present().frontmost; }
-  /// The window that owns the clipboard while the content is this program's: who asks the server for the owner learns
-  /// by it whether a write has arrived.
+  /// The window that owns the clipboard while the content is this program's. Any thread.
   [[nodiscard]] std::uint32_t selectionWindow() const { return m_session->window(); }
+  /// The same once everything written here is on offer, and 0 until then: an earlier write has the same owner. Any
+  /// thread.
+  [[nodiscard]] std::uint32_t writtenWindow() const { return m_session->isWritten() ? selectionWindow() : 0; }
 
   void advance() override { m_line->advance(); }
   [[nodiscard]] std::int64_t changeCount() const override { return m_line->changeCount(); }

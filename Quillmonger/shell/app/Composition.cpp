@@ -45,7 +45,7 @@ Composition::Composition(const platform::XdgFolders& folders, const std::vector<
       m_pasteboard(required(platform::X11Pasteboard::connect(m_runLoop, TypeFilter(), {}, selectionName(arguments)),
                             "the XFIXES extension")),
       m_pasteKeys(required(
-          platform::X11PasteKeys::connect(m_pasteboard->selectionWindow(),
+          platform::X11PasteKeys::connect([this] { return m_pasteboard->writtenWindow(); },
                                           [this](const std::string& windowClass) { return isTerminal(windowClass); }),
           "the XTEST extension")),
       m_applicationBundles(m_desktopEntries),

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <memory>
 #include <vector>
 
@@ -21,9 +22,10 @@ constexpr std::uint32_t evdevV = 47;
 
 class X11PasteKeys : public testing::Test {
  protected:
-  X11PasteKeys() : m_us(m_display.name()), m_target(m_display.name()) {
+  X11PasteKeys() : m_us(m_display.name()), m_target(m_display.name()), m_writtenWindow(m_us.window()) {
     m_pasteKeys = platform::X11PasteKeys::connect(
-        m_us.window(), [](const std::string& windowClass) { return windowClass == "our-terminal"; }, m_display.name());
+        [this] { return m_writtenWindow.load(); },
+        [](const std::string& windowClass) { return windowClass == "our-terminal"; }, m_display.name());
     m_target.showWindow();
     m_target.focusWindow();
     m_us.ownClipboard();
@@ -55,6 +57,7 @@ class X11PasteKeys : public testing::Test {
   testsupport::RealRunLoop m_runLoop;
   KeyboardClient m_us;
   KeyboardClient m_target;
+  std::atomic<std::uint32_t> m_writtenWindow;
   std::unique_ptr<platform::X11PasteKeys> m_pasteKeys;
 };
 
@@ -113,6 +116,13 @@ TEST_F(X11PasteKeys, PressNothingWhileAnotherProgramOwnsTheClipboard) {
 
   EXPECT_EQ(outputOfAPasteInVain(), "Paste keys not pressed: the clipboard isn't ours\n");
 
+  EXPECT_TRUE(m_target.receivedKeys().empty());
+}
+
+TEST_F(X11PasteKeys, PressNothingWhileTheClipboardHoldsAnEarlierWrite) {
+  m_writtenWindow = 0;
+
+  EXPECT_EQ(outputOfAPasteInVain(), "Paste keys not pressed: the clipboard isn't ours\n");
   EXPECT_TRUE(m_target.receivedKeys().empty());
 }
 

@@ -113,6 +113,19 @@ TEST_F(X11PasteboardTest, TakesTheClipboardFromAnOwner) {
   EXPECT_EQ(presentText(), "ours");
 }
 
+TEST_F(X11PasteboardTest, TellsNoWrittenWindowUntilTheLatestWriteIsOnOffer) {
+  const auto isOnOffer = [this] { return m_pasteboard->writtenWindow() == m_pasteboard->selectionWindow(); };
+  ASSERT_TRUE(writeAndOwn("earlier"));
+  ASSERT_TRUE(runUntil(isOnOffer));
+
+  write("overtaken");
+  EXPECT_EQ(m_pasteboard->writtenWindow(), 0U);
+  write("later");
+  ASSERT_TRUE(runUntil(isOnOffer));
+
+  EXPECT_EQ(pasteWithXclip("UTF8_STRING"), "later");
+}
+
 TEST_F(X11PasteboardTest, TellsTheWindowInFrontAfterItsOwnWrite) {
   SelectionClient behind(m_display.name());
   SelectionClient target(m_display.name());
