@@ -358,6 +358,24 @@ TEST_F(ClipboardManagerTest, TakesACopyThatModifiesAnUnknownOneAsNew) {
   EXPECT_EQ(log, (std::vector<std::string>{"new", "ItemCopied"}));
 }
 
+TEST_F(ClipboardManagerTest, KnowsNothingOfTheChangeCountsOfAnEarlierRun) {
+  startListening();
+  copyText("before");
+  const auto count = std::to_string(pasteboard.changeCount());
+  store();
+  ClipboardManager nextRun(
+      {pasteboard, context, bundleProvider, pasteStep, runLoop, notificationCenter, settings.defaults, ignoredApps});
+  std::vector<std::string> told;
+  subscriptions.push_back(nextRun.newItemPublisher().subscribe([&told](const Record&) { told.emplace_back("new"); }));
+  subscriptions.push_back(
+      nextRun.duplicateItemPublisher().subscribe([&told](const Record&) { told.emplace_back("duplicate"); }));
+  nextRun.startListening();
+
+  copy({{plainText, "after"}, {std::string(pasteboardtype::modified), count}});
+
+  EXPECT_EQ(told, std::vector<std::string>{"new"});
+}
+
 TEST_F(ClipboardManagerTest, MergesARecordTwiceThatIsBothDuplicateAndModified) {
   startListening();
   const auto modifiedCount = std::to_string(pasteboard.changeCount() + 1);
