@@ -7,6 +7,7 @@
 #include "Foundation/Fatal.h"
 #include "Foundation/Output.h"
 #include "Quillmonger/resources/Texts.h"
+#include "Quillmonger/shell/command/CommandSyntax.h"
 
 namespace quillmonger {
 
@@ -18,11 +19,6 @@ template <typename Service>
 std::unique_ptr<Service> required(std::unique_ptr<Service> service, std::string_view what) {
   if (!service) foundation::stopProcess("Quillmonger needs an X11 display that offers " + std::string(what) + ".");
   return service;
-}
-
-bool isUrl(const std::string& word) {
-  const auto url = foundation::Url::parse(word);
-  return url && url->scheme();
 }
 
 std::string selectionName(const std::vector<std::string>& arguments) {
@@ -41,13 +37,11 @@ Composition::Composition(const platform::XdgFolders& folders, const std::vector<
       m_defaults(m_userDefaults),
       m_windowSystem(required(platform::X11WindowSystem::connect(), "windows")),
       m_hotKeys(required(platform::X11HotKeys::connect(m_runLoop), "the XKEYBOARD extension")),
-      m_pasteboard(required(
-          platform::X11Pasteboard::connect(m_runLoop, TypeFilter(), {}, selectionName(arguments)),
-          "the XFIXES extension")),
+      m_pasteboard(required(platform::X11Pasteboard::connect(m_runLoop, TypeFilter(), {}, selectionName(arguments)),
+                            "the XFIXES extension")),
       m_pasteKeys(required(
-          platform::X11PasteKeys::connect(
-              m_pasteboard->selectionWindow(),
-              [this](const std::string& windowClass) { return isTerminal(windowClass); }),
+          platform::X11PasteKeys::connect(m_pasteboard->selectionWindow(),
+                                          [this](const std::string& windowClass) { return isTerminal(windowClass); }),
           "the XTEST extension")),
       m_desktopEntries(folders.dataSearch),
       m_applicationBundles(m_desktopEntries),
@@ -82,7 +76,7 @@ std::optional<std::string> Composition::iconOf(const std::string& path) const {
 void Composition::launch(const std::vector<std::string>& arguments) {
   m_root.start();
   std::vector<std::string> urls;
-  std::ranges::copy_if(arguments, std::back_inserter(urls), isUrl);
+  std::ranges::copy_if(arguments, std::back_inserter(urls), isUrlWord);
   m_root.openURLs(urls);
   listenToCommands();
   tellServices();
@@ -99,7 +93,7 @@ void Composition::saveChanges() {
 
 CommandLine::Operations Composition::commandOperations() {
   return {[this] { m_root.windowManager().toggleAppWindow(); }, [this] { m_root.windowManager().showAppWindow(); },
-          [this] { m_root.quitApp(); },
+          [this](const std::vector<std::string>& urls) { m_root.openURLs(urls); }, [this] { m_root.quitApp(); },
           [this] { return recordsNewestFirst(); }};
 }
 
@@ -112,10 +106,9 @@ std::vector<std::shared_ptr<ClipboardItem>> Composition::recordsNewestFirst() {
 }
 
 void Composition::listenToCommands() {
-  m_commandSocket =
-      platform::CommandSocket::listen(m_folders.runtime / "socket", m_runLoop, [this](const auto& line, const auto& reply) {
-        reply(m_commandLine.answer(line));
-      });
+  m_commandSocket = platform::CommandSocket::listen(
+      m_folders.runtime / "socket", m_runLoop,
+      [this](const auto& line, const auto& reply) { reply(m_commandLine.answer(line)); });
 }
 
 void Composition::tellServices() const {
