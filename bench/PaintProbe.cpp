@@ -51,8 +51,7 @@ class Probe final {
     constexpr std::uint16_t side = 24;
     const auto x = static_cast<std::int16_t>(m_screen->width_in_pixels / 2 - side / 2);
     const auto y = static_cast<std::int16_t>(m_screen->height_in_pixels / 2 - side / 2);
-    const auto cookie =
-        xcb_get_image(m_connection, XCB_IMAGE_FORMAT_Z_PIXMAP, m_screen->root, x, y, side, side, ~0U);
+    const auto cookie = xcb_get_image(m_connection, XCB_IMAGE_FORMAT_Z_PIXMAP, m_screen->root, x, y, side, side, ~0U);
     const Reply<xcb_get_image_reply_t> reply(xcb_get_image_reply(m_connection, cookie, nullptr));
     if (!reply) return {};
     const auto* data = xcb_get_image_data(reply.get());
@@ -90,7 +89,9 @@ class Probe final {
     xcb_test_fake_input(m_connection, isDown ? XCB_KEY_PRESS : XCB_KEY_RELEASE, *codes, XCB_CURRENT_TIME,
                         m_screen->root, 0, 0, 0);
   }
-  void sync() { const Reply<void> reply(xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr)); }
+  void sync() {
+    const Reply<void> reply(xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+  }
 
   xcb_connection_t* m_connection;
   xcb_screen_t* m_screen = nullptr;

@@ -69,7 +69,7 @@ class Measured(Desktop):
 
     def quit(self):
         self.quillmonger("quit")
-        wait_until(lambda: self.quillmonger("list", check=False).returncode != 0, "the end")
+        wait_until(lambda: not self.run(["pgrep", "-f", f"^{BUILD}/bin/quillmonger-app"], check=False).stdout, "the end")
         if self.app:
             self.app.wait(10)
             self.app = None

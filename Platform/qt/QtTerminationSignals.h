@@ -6,8 +6,8 @@
 
 namespace platform {
 
-/// SIGTERM, SIGINT and SIGHUP as an ordinary event of the main thread. Made before any other thread is, since those take
-/// over from it that they are not interrupted by them.
+/// SIGTERM, SIGINT and SIGHUP as an ordinary event of the main thread. Made before any other thread is, since those
+/// take over from it that they are not interrupted by them.
 class QtTerminationSignals final {
  public:
   QtTerminationSignals();

@@ -282,12 +282,22 @@ class TheStart(RoadCase):
         self.desktop.wait_for_text("during the guide")
         self.assertEqual(self.desktop.quillmonger("defaults", "read", "firstLaunch").stdout.strip(), "false")
 
-    def test_a_second_start_shows_the_history_of_the_first(self):
+    def test_a_second_start_shows_the_history_of_the_first_and_ends(self):
         self.desktop.start_app()
+
+        second = self.desktop.spawn([self.desktop.build / "bin/quillmonger-app"])
+
+        wait_until(self.desktop.history_window, "the history window")
+        self.assertEqual(second.wait(10), 0)
+        self.assertIsNone(self.desktop.app.poll())
+
+    def test_the_command_starts_what_is_not_running(self):
+        self.desktop.quillmonger("defaults", "write", "firstLaunch", "false")
 
         self.desktop.quillmonger("show")
 
         wait_until(self.desktop.history_window, "the history window")
+        self.desktop.quillmonger("quit")
 
     def test_toggle_shows_and_hides(self):
         self.desktop.start_app()

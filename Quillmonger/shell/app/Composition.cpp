@@ -7,6 +7,7 @@
 #include "Foundation/Fatal.h"
 #include "Foundation/Output.h"
 #include "Quillmonger/resources/Texts.h"
+#include "Quillmonger/shell/command/CommandSyntax.h"
 
 namespace quillmonger {
 
@@ -18,11 +19,6 @@ template <typename Service>
 std::unique_ptr<Service> required(std::unique_ptr<Service> service, std::string_view what) {
   if (!service) foundation::stopProcess("Quillmonger needs an X11 display that offers " + std::string(what) + ".");
   return service;
-}
-
-bool isUrl(const std::string& word) {
-  const auto url = foundation::Url::parse(word);
-  return url && url->scheme();
 }
 
 std::string selectionName(const std::vector<std::string>& arguments) {
@@ -85,7 +81,7 @@ std::optional<std::string> Composition::iconOf(const std::string& path) const {
 void Composition::launch(const std::vector<std::string>& arguments) {
   m_root.start();
   std::vector<std::string> urls;
-  std::ranges::copy_if(arguments, std::back_inserter(urls), isUrl);
+  std::ranges::copy_if(arguments, std::back_inserter(urls), isUrlWord);
   m_root.openURLs(urls);
   listenToCommands();
   tellServices();
@@ -101,7 +97,8 @@ void Composition::saveChanges() {
 }
 
 CommandLine::Operations Composition::commandOperations() {
-  return {[this] { m_root.toggle(); }, [this] { m_root.show(); }, [this] { m_root.quitApp(); },
+  return {[this] { m_root.toggle(); }, [this] { m_root.show(); },
+          [this](const std::vector<std::string>& urls) { m_root.openURLs(urls); }, [this] { m_root.quitApp(); },
           [this] { return recordsNewestFirst(); }};
 }
 

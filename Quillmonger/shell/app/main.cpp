@@ -1,8 +1,13 @@
 #include <QGuiApplication>
 #include <QQuickWindow>
+#include <algorithm>
+#include <chrono>
 #include <cstdlib>
 #include <iostream>
+#include <iterator>
+#include <memory>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "Platform/freedesktop/SingleInstance.h"
@@ -10,6 +15,9 @@
 #include "Platform/qt/QtTerminationSignals.h"
 #include "Quillmonger/resources/Texts.h"
 #include "Quillmonger/shell/app/Composition.h"
+#include "Quillmonger/shell/client/Connection.h"
+#include "Quillmonger/shell/command/CommandMessage.h"
+#include "Quillmonger/shell/command/CommandSyntax.h"
 
 namespace {
 
@@ -38,6 +46,24 @@ int run(int argc, char** argv, const platform::XdgFolders& folders, const std::v
   return QGuiApplication::exec();
 }
 
+// The right to be the one that runs. Null when another one runs, which has got the words then.
+std::unique_ptr<platform::SingleInstance> claimOrHandOver(const platform::XdgFolders& folders,
+                                                          const std::vector<std::string>& arguments) {
+  constexpr auto patience = std::chrono::seconds(5);
+  std::vector<std::string> words;
+  std::ranges::copy_if(arguments, std::back_inserter(words), quillmonger::isUrlWord);
+  if (words.empty()) words.emplace_back("show");
+  const auto deadline = std::chrono::steady_clock::now() + patience;
+  for (;;) {
+    if (auto instance = platform::SingleInstance::claim(folders.runtime)) return instance;
+    auto first = quillmonger::Connection::open(folders.runtime / "socket");
+    if (first && first->request(quillmonger::commandmessage::encode(words), patience)) return nullptr;
+    // It is about to end, or has just begun.
+    if (std::chrono::steady_clock::now() > deadline) return nullptr;
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+  }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -47,10 +73,7 @@ int main(int argc, char** argv) {
     std::cerr << "Quillmonger needs an X11 display: DISPLAY is not set.\n";
     return 1;
   }
-  const auto instance = platform::SingleInstance::claim(folders.runtime);
-  if (!instance) {
-    std::cerr << "Quillmonger is running already; `quillmonger show` shows its history.\n";
-    return 1;
-  }
+  const auto instance = claimOrHandOver(folders, arguments);
+  if (!instance) return 0;
   return run(argc, argv, folders, arguments);
 }

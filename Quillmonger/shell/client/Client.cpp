@@ -19,7 +19,8 @@ using Clock = std::chrono::steady_clock;
 CommandResult failed(std::string_view why) { return {1, {}, std::string(why) + "\n"}; }
 
 bool isStarting(const Command& command) {
-  return command.kind == Command::Kind::toggle || command.kind == Command::Kind::show;
+  return command.kind == Command::Kind::toggle || command.kind == Command::Kind::show ||
+         command.kind == Command::Kind::open;
 }
 
 bool isAboutSettings(const Command& command) {
@@ -36,7 +37,8 @@ CommandResult Client::run(const CommandWords& words) const {
   const auto& command = std::get<Command>(parsed);
   if (isAboutSettings(command)) return runOnFile(command);
   if (!isStarting(command)) return failed("Quillmonger is not running.");
-  return startAndShow();
+  // A freshly started program has nothing that "toggle" should hide.
+  return startAndAsk(command.kind == Command::Kind::open ? words : CommandWords{"show"});
 }
 
 std::optional<CommandResult> Client::askRunning(const CommandWords& words) const {
@@ -47,15 +49,14 @@ std::optional<CommandResult> Client::askRunning(const CommandWords& words) const
   return commandmessage::decodeResult(*reply).value_or(failed("Quillmonger gave no proper answer."));
 }
 
-CommandResult Client::startAndShow() const {
+CommandResult Client::startAndAsk(const CommandWords& words) const {
   if (!m_surroundings.hasDisplay)
     return failed("Quillmonger needs a display: neither DISPLAY nor WAYLAND_DISPLAY is set.");
   if (!m_surroundings.startApplication()) return failed("Quillmonger can't be started: quillmonger-app is missing.");
   const auto deadline = Clock::now() + m_surroundings.startPatience;
   while (Clock::now() < deadline) {
-    // A freshly started program has nothing that "toggle" should hide.
-    if (auto result = askRunning({"show"})) return *std::move(result);
-    poll(nullptr, 0, 10);
+    if (auto result = askRunning(words)) return *std::move(result);
+    poll(nullptr, 0, 2);
   }
   return failed("Quillmonger was started but does not answer.");
 }

@@ -31,7 +31,7 @@ class Client final {
 
  private:
   [[nodiscard]] std::optional<CommandResult> askRunning(const CommandWords& words) const;
-  [[nodiscard]] CommandResult startAndShow() const;
+  [[nodiscard]] CommandResult startAndAsk(const CommandWords& words) const;
   [[nodiscard]] CommandResult runOnFile(const Command& command) const;
 
   Surroundings m_surroundings;

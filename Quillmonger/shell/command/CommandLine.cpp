@@ -53,6 +53,9 @@ CommandResult CommandLine::run(const Command& command) {
     case Command::Kind::show:
       m_operations.show();
       return {};
+    case Command::Kind::open:
+      m_operations.openURLs(command.urls);
+      return {};
     case Command::Kind::quit:
       m_operations.quit();
       return {};

@@ -5,6 +5,8 @@
 #include <optional>
 #include <string_view>
 
+#include "Foundation/Url.h"
+
 namespace quillmonger {
 
 namespace {
@@ -95,8 +97,19 @@ std::variant<Command, CommandResult> apply(const Form& form, CommandWords argume
 
 }  // namespace
 
+bool isUrlWord(const std::string& word) {
+  const auto url = foundation::Url::parse(word);
+  return url && url->scheme();
+}
+
 std::variant<Command, CommandResult> parseCommand(const CommandWords& words) {
   if (words.empty()) return Command{};
+  if (std::ranges::all_of(words, isUrlWord)) {
+    Command command;
+    command.kind = Kind::open;
+    command.urls = words;
+    return command;
+  }
   if (words[0] == "--help" || words[0] == "-h" || words[0] == "help") return CommandResult{0, std::string(usage), {}};
   if (words[0] == "--version") return CommandResult{0, "quillmonger " QUILLMONGER_VERSION "\n", {}};
   for (const auto& form : forms) {

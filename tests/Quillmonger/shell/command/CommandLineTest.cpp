@@ -26,6 +26,7 @@ class CommandLineTest : public testing::Test {
   defaults::UserDefaults store;
   defaults::Defaults settings{store};
   CommandLine commandLine{{[this] { called.emplace_back("toggle"); }, [this] { called.emplace_back("show"); },
+                           [this](const std::vector<std::string>& urls) { called = urls; },
                            [this] { called.emplace_back("quit"); }, [this] { return records; }},
                           settings};
 
@@ -37,6 +38,12 @@ TEST_F(CommandLineTest, CarriesOutTheWindowCommands) {
     EXPECT_EQ(commandLine.run({word}), CommandResult()) << word;
 
   EXPECT_EQ(called, (std::vector<std::string>{"toggle", "show", "quit"}));
+}
+
+TEST_F(CommandLineTest, HandsOnUrls) {
+  EXPECT_EQ(commandLine.run({"quillmonger://a", "https://b"}), CommandResult());
+
+  EXPECT_EQ(called, (std::vector<std::string>{"quillmonger://a", "https://b"}));
 }
 
 TEST_F(CommandLineTest, ShowsWithoutWords) {
