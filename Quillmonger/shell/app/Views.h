@@ -28,8 +28,8 @@ class Views final {
   [[nodiscard]] platform::QtQuickWindow& gettingStartedWindow() { return m_gettingStartedWindow; }
   [[nodiscard]] Alert& alert() { return m_alert; }
 
-  /// Before the first window is shown. `root` outlives the views.
-  void feed(Quillmonger& root);
+  /// Before the first window is shown. Both outlive the views.
+  void feed(Quillmonger& root, const Pasteboard& pasteboard);
 
  private:
   using Content = platform::QtQuickWindow::Content;
