@@ -67,6 +67,11 @@ class Measured(Desktop):
         answer = self.run([BUILD / "bin/paint_probe", BUILD / "bin/quillmonger", "show"])
         return float(answer.stdout.split()[1])
 
+    def dismiss(self):
+        wait_until(lambda: self.focused() == self.history_window(), "the focus")
+        self.press("Escape")
+        self.wait_hidden()
+
     def quit(self):
         self.quillmonger("quit")
         wait_until(lambda: not self.run(["pgrep", "-f", f"^{BUILD}/bin/quillmonger-app"], check=False).stdout, "the end")
@@ -102,8 +107,8 @@ class Measured(Desktop):
         return total
 
     def cpu_seconds(self):
-        fields = Path(f"/proc/{self.process()}/stat").read_text().rsplit(")", 1)[1].split()
-        return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
+        tasks = Path(f"/proc/{self.process()}/task").iterdir()
+        return sum(int((task / "schedstat").read_text().split()[0]) for task in tasks) / 1e9
 
 
 def settle(desktop, seconds=3.0):
@@ -160,11 +165,9 @@ def window():
             by_chord, by_command = [], []
             for _ in range(ROUNDS * 2):
                 by_chord.append(float(desktop.run([BUILD / "bin/paint_probe", "--chord"]).stdout.split()[1]))
-                desktop.press("Escape")
-                desktop.wait_hidden()
+                desktop.dismiss()
                 by_command.append(desktop.start_to_painted())
-                desktop.press("Escape")
-                desktop.wait_hidden()
+                desktop.dismiss()
             tell(f"chord released to painted list, {records} records", *spread(by_chord))
             tell(f"command to painted list, {records} records", *spread(by_command))
 
@@ -190,8 +193,9 @@ def copies():
             data = os.urandom(size) if target else (b"0123456789abcde\n" * (size // 16 + 1))[:size]
             rest_memory = desktop.resident()
             desktop.forget_peak()
-            begin = time.perf_counter()
+            # xclip returns when it owns the clipboard.
             desktop.copy(data, target)
+            begin = time.perf_counter()
 
             def on_disk():
                 return sum(file.stat().st_size for file in desktop.data.iterdir()) >= size

@@ -2,6 +2,8 @@
 
 import os
 import signal
+import subprocess
+import time
 import unittest
 
 from desktop import Desktop, wait_until
@@ -249,6 +251,40 @@ class WhatIsKept(RoadCase):
 
         wait_until(lambda: len(self.desktop.clipboard()) == len(text), "the large copy on the clipboard", 20)
         self.assertEqual(self.desktop.clipboard(), text.encode())
+
+    def test_the_next_copy_while_an_owner_hangs_and_the_program_never_with_it(self):
+        self.desktop.start_app()
+        self.desktop.open_history()
+        self.desktop.press("Escape")
+        self.desktop.wait_hidden()
+        hanging = ("import ctypes, time; x = ctypes.CDLL('libX11.so.6'); x.XOpenDisplay.restype = ctypes.c_void_p; "
+                   "d = ctypes.c_void_p(x.XOpenDisplay(None)); "
+                   "w = x.XCreateSimpleWindow(d, x.XDefaultRootWindow(d), 0, 0, 1, 1, 0, 0, 0); "
+                   "x.XSetSelectionOwner(d, x.XInternAtom(d, b'CLIPBOARD', 0), w, 0); x.XSync(d, 0); "
+                   "print('owned', flush=True); time.sleep(600)")
+        owner = self.desktop.spawn(["python3", "-c", hanging], stdout=subprocess.PIPE, text=True)
+        self.assertEqual(owner.stdout.readline(), "owned\n")
+
+        begin = time.monotonic()
+        self.desktop.quillmonger("list")
+        self.assertLess(time.monotonic() - begin, 1)
+        self.desktop.copy("after the hanging one")
+        self.desktop.wait_for_text("after the hanging one", 1)
+
+    def test_a_paste_into_the_search_field_searches_for_it(self):
+        self.desktop.start_app()
+        for text in ("apple tree", "plum", "tree"):
+            self.desktop.copy(text)
+            self.desktop.wait_for_text(text)
+        file, _ = self.open_gtk_editor()
+
+        self.desktop.open_history()
+        self.desktop.press("ctrl+v")
+        time.sleep(0.5)
+        self.desktop.press("Down", "Return")
+        self.desktop.wait_hidden()
+
+        self.save_until(file, "apple tree")
 
     def test_the_clipboard_after_its_owner_has_quit(self):
         self.desktop.start_app()

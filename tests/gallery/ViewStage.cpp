@@ -36,8 +36,8 @@ ViewStage::ViewStage()
   m_adapter = std::make_unique<quillmonger::ClipboardViewAdapter>(quillmonger::ClipboardViewAdapter::History{
       m_rows, m_selectedItem, m_isOptionPressed, [this] { return m_items.empty(); },
       [this](const Item& item) { m_selectedItem.set(item); }});
-  m_searchBar = std::make_unique<quillmonger::SearchBarModel>(m_searchTerm, m_defaults.defaults,
-                                                              [this] { ++m_previewToggleCount; });
+  m_searchBar = std::make_unique<quillmonger::SearchBarModel>(
+      m_searchTerm, m_defaults.defaults, [this] { return m_clipboardText; }, [this] { ++m_previewToggleCount; });
 }
 
 ViewStage::~ViewStage() = default;

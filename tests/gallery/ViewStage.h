@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "Foundation/Published.h"
@@ -44,6 +45,7 @@ class ViewStage final {
   foundation::Published<std::string>& searchTerm() { return m_searchTerm; }
   foundation::Published<bool>& isOptionPressed() { return m_isOptionPressed; }
   FakeClipboard& clipboard() { return m_clipboard; }
+  void setClipboardText(std::string text) { m_clipboardText = std::move(text); }
   [[nodiscard]] int previewToggleCount() const { return m_previewToggleCount; }
   quillmonger::ClipboardViewAdapter& adapter() { return *m_adapter; }
 
@@ -68,6 +70,7 @@ class ViewStage final {
   foundation::Published<Item> m_selectedItem;
   foundation::Published<bool> m_isOptionPressed{false};
   foundation::Published<std::string> m_searchTerm;
+  std::string m_clipboardText;
   int m_previewToggleCount = 0;
   quillmonger::Appearance m_appearance;
   quillmonger::HistorySettings m_settings;

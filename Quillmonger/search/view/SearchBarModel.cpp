@@ -7,8 +7,9 @@
 namespace quillmonger {
 
 SearchBarModel::SearchBarModel(foundation::Published<std::string>& searchTerm, defaults::Defaults& defaults,
-                               std::function<void()> togglePreview)
+                               std::function<std::string()> clipboardText, std::function<void()> togglePreview)
     : m_searchTerm(searchTerm),
+      m_clipboardText(std::move(clipboardText)),
       m_togglePreview(std::move(togglePreview)),
       m_termSubscription(searchTerm.subscribe([this](const std::string&) { emit searchTermChanged(); })) {
   m_incognitoSubscription =
@@ -23,6 +24,11 @@ QString SearchBarModel::searchTerm() const { return QString::fromStdString(m_sea
 // The field writes what it was just told, too.
 void SearchBarModel::setSearchTerm(const QString& term) {
   if (term != searchTerm()) m_searchTerm.set(term.toStdString());
+}
+
+QString SearchBarModel::clipboardText() const {
+  constexpr qsizetype longestTerm = 1000;
+  return QString::fromStdString(m_clipboardText()).simplified().left(longestTerm);
 }
 
 }  // namespace quillmonger

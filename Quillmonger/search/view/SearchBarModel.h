@@ -21,15 +21,18 @@ class SearchBarModel final : public QObject {
   Q_PROPERTY(bool canTogglePreview READ canTogglePreview CONSTANT)
 
  public:
-  /// Both outlive this object. Without `togglePreview` there is no button for it.
+  /// Both outlive this object. `clipboardText` gives what a paste into the field pastes, and waits for nobody. Without
+  /// `togglePreview` there is no button for it.
   SearchBarModel(foundation::Published<std::string>& searchTerm, defaults::Defaults& defaults,
-                 std::function<void()> togglePreview);
+                 std::function<std::string()> clipboardText, std::function<void()> togglePreview);
 
   [[nodiscard]] QString searchTerm() const;
   void setSearchTerm(const QString& term);
   [[nodiscard]] bool isIncognitoMode() const { return m_isIncognitoMode; }
   [[nodiscard]] bool canTogglePreview() const { return static_cast<bool>(m_togglePreview); }
 
+  /// The clipboard's text on one line, cut to what anybody would search for.
+  Q_INVOKABLE [[nodiscard]] QString clipboardText() const;
   Q_INVOKABLE void togglePreview() { m_togglePreview(); }
 
  signals:
@@ -38,6 +41,7 @@ class SearchBarModel final : public QObject {
 
  private:
   foundation::Published<std::string>& m_searchTerm;
+  std::function<std::string()> m_clipboardText;
   std::function<void()> m_togglePreview;
   bool m_isIncognitoMode = false;
   foundation::Subscription m_termSubscription;

@@ -37,9 +37,25 @@ FocusScope {
         selectedTextColor: bar.theme.selectedPrimary
         text: bar.model.searchTerm
         onTextEdited: bar.model.searchTerm = text
+        // The toolkit's own paste would wait for the clipboard's owner, however long that takes.
+        Keys.onPressed: event => {
+            if (event.matches(StandardKey.Paste)) {
+                remove(selectionStart, selectionEnd)
+                insert(cursorPosition, bar.model.clipboardText())
+                bar.model.searchTerm = text
+                event.accepted = true
+            }
+        }
         Accessible.role: Accessible.EditableText
         Accessible.name: placeholder.text
         Accessible.searchEdit: true
+
+        MouseArea {
+            objectName: "NoMiddleClickPaste"
+            anchors.fill: parent
+            acceptedButtons: Qt.MiddleButton
+            cursorShape: Qt.IBeamCursor
+        }
 
         Text {
             id: placeholder

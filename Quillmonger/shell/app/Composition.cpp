@@ -56,7 +56,7 @@ Composition::Composition(const platform::XdgFolders& folders, const std::vector<
               *m_pasteboard, m_bundleProvider, m_applicationBundles, m_applicationNaming, *m_pasteKeys, m_eventMonitor,
               m_application, m_views.gettingStartedWindow(), m_views.appWindow()}),
       m_commandLine(commandOperations(), m_defaults) {
-  m_views.feed(m_root);
+  m_views.feed(m_root, *m_pasteboard);
   m_resigning = m_application.onDidResignActive([this] { m_root.applicationDidResignActive(); });
 }
 

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "Quillmonger/capture/PasteboardTypes.h"
 #include "Quillmonger/guide/view/QmlModule.h"
 #include "Quillmonger/history/view/QmlModule.h"
 #include "Quillmonger/resources/QmlModule.h"
@@ -15,6 +16,15 @@ namespace {
 
 constexpr QSize appWindowSize(600, 445);
 constexpr QSize gettingStartedWindowSize(550, 640);
+
+// The beginning of the text that the clipboard holds, as far as it has been read.
+std::string presentText(const Pasteboard& pasteboard) {
+  constexpr std::size_t enough = 4096;
+  const auto content = pasteboard.pasteboardItems();
+  if (!content) return {};
+  const auto text = content->payload().find(pasteboardtype::NSPasteboardTypeString);
+  return text != content->payload().end() && text->second ? text->second->part(0, enough) : std::string();
+}
 
 }  // namespace
 
@@ -32,9 +42,10 @@ Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCach
                               [this] { return gettingStartedContent(); }, [this]() -> QQmlEngine& { return engine(); }},
                              windowSystem) {}
 
-void Views::feed(Quillmonger& root) {
+void Views::feed(Quillmonger& root, const Pasteboard& pasteboard) {
   ClipboardViewModel& history = root.clipboardViewModel();
-  m_searchBarModel = std::make_unique<SearchBarModel>(root.searchViewModel().searchTerm(), m_defaults, nullptr);
+  m_searchBarModel = std::make_unique<SearchBarModel>(
+      root.searchViewModel().searchTerm(), m_defaults, [&pasteboard] { return presentText(pasteboard); }, nullptr);
   m_clipboardViewAdapter = std::make_unique<ClipboardViewAdapter>(ClipboardViewAdapter::History{
       history.filteredItems(), history.selectedItem(), history.isOptionPressed(),
       [&history] { return history.items().empty(); }, [&history](const auto& item) { history.select(item); }});

@@ -28,8 +28,8 @@ class Views final {
   [[nodiscard]] platform::QtQuickWindow& gettingStartedWindow() { return m_gettingStartedWindow; }
   [[nodiscard]] Alert& alert() { return m_alert; }
 
-  /// Before the first window is shown. `root` is there until `close`.
-  void feed(Quillmonger& root);
+  /// Before the first window is shown. Both are there until `close`.
+  void feed(Quillmonger& root, const Pasteboard& pasteboard);
   /// Lets go of everything that `feed` gave. The windows stay, without content, for those that hold them.
   void close();
 

@@ -1,3 +1,4 @@
+#include <QClipboard>
 #include <QGuiApplication>
 #include <QQuickWindow>
 #include <algorithm>
@@ -37,6 +38,9 @@ int run(int argc, char** argv, const platform::XdgFolders& folders, const std::v
   platform::QtTerminationSignals termination;
   prepareToolkit();
   QGuiApplication application(argc, argv);
+  // The toolkit's clipboard must never be asked: it waits for the owner in this thread, five seconds if that one hangs.
+  // Its text fields ask at each change that they hear of.
+  QGuiApplication::clipboard()->blockSignals(true);
   quillmonger::Texts texts;
   QCoreApplication::installTranslator(&texts);
   quillmonger::Composition composition(folders, arguments);
