@@ -1,31 +1,54 @@
 #include "Platform/qt/QtTerminationSignals.h"
 
 #include <signal.h>
-#include <sys/signalfd.h>
+#include <sys/eventfd.h>
 #include <unistd.h>
 
+#include <cstdint>
 #include <utility>
 
 namespace platform {
 
-QtTerminationSignals::QtTerminationSignals() {
-  sigset_t ending;
-  sigemptyset(&ending);
-  for (const int signal : {SIGTERM, SIGINT, SIGHUP})
-    sigaddset(&ending, signal);
-  pthread_sigmask(SIG_BLOCK, &ending, nullptr);
-  m_descriptor = signalfd(-1, &ending, SFD_CLOEXEC | SFD_NONBLOCK);
+namespace {
+
+constexpr int endingSignals[] = {SIGTERM, SIGINT, SIGHUP};
+
+// Known to the handler, which may do little more than write to it.
+int wakeUp = -1;
+
+void handle(int /*signal*/) {
+  const std::uint64_t one = 1;
+  [[maybe_unused]] const auto written = write(wakeUp, &one, sizeof one);
 }
 
-QtTerminationSignals::~QtTerminationSignals() { close(m_descriptor); }
+// A handler rather than a blocked signal: programs that are started from here must not inherit it.
+void setHandler(void (*handler)(int)) {
+  struct sigaction action {};
+  action.sa_handler = handler;
+  action.sa_flags = SA_RESTART;
+  for (const int signal : endingSignals)
+    sigaction(signal, &action, nullptr);
+}
 
-void QtTerminationSignals::onTermination(std::function<void()> receiver) {
-  m_notifier.emplace(m_descriptor, QSocketNotifier::Read);
-  QObject::connect(&*m_notifier, &QSocketNotifier::activated, [this, receiver = std::move(receiver)] {
-    signalfd_siginfo signal;
-    while (read(m_descriptor, &signal, sizeof signal) == sizeof signal)
-      receiver();
+int openWakeUp() {
+  wakeUp = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
+  return wakeUp;
+}
+
+}  // namespace
+
+QtTerminationSignals::QtTerminationSignals(std::function<void()> receiver)
+    : m_notifier(openWakeUp(), QSocketNotifier::Read) {
+  QObject::connect(&m_notifier, &QSocketNotifier::activated, [receiver = std::move(receiver)] {
+    std::uint64_t count = 0;
+    if (read(wakeUp, &count, sizeof count) == sizeof count) receiver();
   });
+  setHandler(handle);
+}
+
+QtTerminationSignals::~QtTerminationSignals() {
+  setHandler(SIG_DFL);
+  close(wakeUp);
 }
 
 }  // namespace platform

@@ -2,25 +2,20 @@
 
 #include <QSocketNotifier>
 #include <functional>
-#include <optional>
 
 namespace platform {
 
-/// SIGTERM, SIGINT and SIGHUP as an ordinary event of the main thread. Made before any other thread is, since those
-/// take over from it that they are not interrupted by them.
+/// SIGTERM, SIGINT and SIGHUP as an ordinary event of the main thread, as long as this object lives. Before and after
+/// it they end the process at once. One at a time; made after the application object.
 class QtTerminationSignals final {
  public:
-  QtTerminationSignals();
+  explicit QtTerminationSignals(std::function<void()> receiver);
   QtTerminationSignals(const QtTerminationSignals&) = delete;
   QtTerminationSignals& operator=(const QtTerminationSignals&) = delete;
   ~QtTerminationSignals();
 
-  /// Calls `receiver` for each signal, also for one that came before. After the application object is made.
-  void onTermination(std::function<void()> receiver);
-
  private:
-  int m_descriptor;
-  std::optional<QSocketNotifier> m_notifier;
+  QSocketNotifier m_notifier;
 };
 
 }  // namespace platform

@@ -3,6 +3,7 @@
 #include <QQuickWindow>
 #include <algorithm>
 #include <chrono>
+#include <csignal>
 #include <cstdlib>
 #include <iostream>
 #include <iterator>
@@ -34,8 +35,6 @@ void prepareToolkit() {
 }
 
 int run(int argc, char** argv, const platform::XdgFolders& folders, const std::vector<std::string>& arguments) {
-  // Before any thread is started, so that every one of them leaves the signals to it.
-  platform::QtTerminationSignals termination;
   prepareToolkit();
   QGuiApplication application(argc, argv);
   // The toolkit's clipboard must never be asked: it waits for the owner in this thread, five seconds if that one hangs.
@@ -44,7 +43,7 @@ int run(int argc, char** argv, const platform::XdgFolders& folders, const std::v
   quillmonger::Texts texts;
   QCoreApplication::installTranslator(&texts);
   quillmonger::Composition composition(folders, arguments);
-  termination.onTermination([&composition] { composition.quit(); });
+  const platform::QtTerminationSignals termination([&composition] { composition.quit(); });
   QObject::connect(&application, &QCoreApplication::aboutToQuit, [&composition] { composition.saveChanges(); });
   composition.launch(arguments);
   return QGuiApplication::exec();
@@ -71,6 +70,8 @@ std::unique_ptr<platform::SingleInstance> claimOrHandOver(const platform::XdgFol
 }  // namespace
 
 int main(int argc, char** argv) {
+  // Whoever reads the diagnostic lines may go away.
+  std::signal(SIGPIPE, SIG_IGN);
   const std::vector<std::string> arguments(argv + 1, argv + argc);
   const auto folders = platform::XdgFolders::present();
   if (std::getenv("DISPLAY") == nullptr) {

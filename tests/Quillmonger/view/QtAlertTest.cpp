@@ -43,7 +43,7 @@ class QtAlert : public testing::Test {
   testsupport::TestDefaults m_defaults;
   quillmonger::Appearance m_appearance{m_defaults.defaults};
   QQmlEngine m_engine;
-  quillmonger::QtAlert m_alert{m_engine, m_appearance};
+  quillmonger::QtAlert m_alert{[this]() -> QQmlEngine& { return m_engine; }, m_appearance};
 };
 
 TEST_F(QtAlert, GivesTheFirstAnswerForReturn) {
