@@ -15,8 +15,8 @@ struct Error {
 template <typename T>
 class [[nodiscard]] Result final {
  public:
-  Result(T value) : m_content(std::move(value)) {}          // NOLINT(google-explicit-constructor): reads as the value
-  Result(Error error) : m_content(std::move(error)) {}      // NOLINT(google-explicit-constructor): reads as the error
+  Result(T value) : m_content(std::move(value)) {}      // NOLINT(google-explicit-constructor): reads as the value
+  Result(Error error) : m_content(std::move(error)) {}  // NOLINT(google-explicit-constructor): reads as the error
 
   [[nodiscard]] bool hasValue() const { return m_content.index() == 0; }
   explicit operator bool() const { return hasValue(); }

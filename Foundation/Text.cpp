@@ -15,7 +15,8 @@ constexpr UChar32 zeroWidthSpace = 0x200B;
 // The character that ends at `end`, and where it starts; negative for an ill-formed sequence.
 UChar32 characterBefore(const std::uint8_t* bytes, std::size_t start, std::size_t& end) {
   std::size_t lead = end - 1;
-  while (lead > start && end - lead < U8_MAX_LENGTH && U8_IS_TRAIL(bytes[lead])) --lead;
+  while (lead > start && end - lead < U8_MAX_LENGTH && U8_IS_TRAIL(bytes[lead]))
+    --lead;
   std::size_t next = lead;
   UChar32 character = 0;
   U8_NEXT(bytes, next, end, character);

@@ -11,7 +11,7 @@ pkg_check_modules(NETTLE REQUIRED IMPORTED_TARGET nettle)
 pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb xcb-xfixes xcb-xtest xcb-xkb xcb-keysyms)
 pkg_check_modules(GLIB REQUIRED IMPORTED_TARGET glib-2.0)
 
-set(QUILLMONGER_OUTSIDE_posix_INCLUDES "^(sys/.*|arpa/.*|netinet/.*|dirent|errno|fcntl|poll|pwd|signal|spawn|time|unistd)(\\.h)?$")
+set(QUILLMONGER_OUTSIDE_posix_INCLUDES "^(sys/.*|arpa/.*|netinet/.*|dirent|errno|fcntl|poll|pwd|sched|signal|spawn|time|unistd)(\\.h)?$")
 set(QUILLMONGER_OUTSIDE_posix_LINKS Threads::Threads)
 set(QUILLMONGER_OUTSIDE_icu_INCLUDES "^unicode/.*\\.h$")
 set(QUILLMONGER_OUTSIDE_icu_LINKS ICU::uc ICU::i18n)

@@ -1,6 +1,7 @@
 #include "Platform/freedesktop/ProcessFacts.h"
 
 #include <gtest/gtest.h>
+#include <sched.h>
 #include <signal.h>
 #include <spawn.h>
 #include <sys/stat.h>
@@ -29,6 +30,10 @@ class RunningProgram final {
     std::string seconds = "60";
     const std::array<char*, 3> arguments{name.data(), seconds.data(), nullptr};
     if (posix_spawn(&m_process, path.c_str(), nullptr, nullptr, arguments.data(), environ) != 0) m_process = 0;
+    // The system shows the new program a moment before it shows its arguments.
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+    while (m_process != 0 && !isShown() && std::chrono::steady_clock::now() < deadline)
+      sched_yield();
   }
   RunningProgram(const RunningProgram&) = delete;
   RunningProgram& operator=(const RunningProgram&) = delete;
@@ -43,6 +48,11 @@ class RunningProgram final {
   [[nodiscard]] pid_t process() const { return m_process; }
 
  private:
+  [[nodiscard]] bool isShown() const {
+    const auto facts = ProcessFacts::read(m_process);
+    return facts.has_value() && !facts->arguments.empty();
+  }
+
   pid_t m_process = 0;
 };
 
