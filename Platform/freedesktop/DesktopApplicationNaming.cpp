@@ -13,7 +13,7 @@ std::optional<std::string> DesktopApplicationNaming::displayName(const foundatio
 }
 
 void DesktopApplicationNaming::forgetIfChanged() const {
-  const auto now = Clock::now();
+  const auto now = m_now();
   if (now < m_nextLook) return;
   m_nextLook = now + std::chrono::seconds(2);
   auto list = m_entries.present();

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "Platform/freedesktop/DesktopEntries.h"
 #include "Quillmonger/history/ApplicationNaming.h"
@@ -16,16 +18,20 @@ namespace platform {
 /// application was installed or removed is looked at no more than once in two seconds. Any thread.
 class DesktopApplicationNaming final : public quillmonger::ApplicationNaming {
  public:
+  using Clock = std::chrono::steady_clock;
+  using Now = std::function<Clock::time_point()>;
+
   /// `entries` outlives this object.
-  explicit DesktopApplicationNaming(const DesktopEntries& entries) : m_entries(entries) {}
+  explicit DesktopApplicationNaming(const DesktopEntries& entries, Now now = Clock::now)
+      : m_entries(entries), m_now(std::move(now)) {}
 
   [[nodiscard]] std::optional<std::string> displayName(const foundation::Url& bundleUrl) const override;
 
  private:
-  using Clock = std::chrono::steady_clock;
   void forgetIfChanged() const;
 
   const DesktopEntries& m_entries;
+  Now m_now;
   mutable std::mutex m_mutex;
   mutable Clock::time_point m_nextLook;
   mutable std::shared_ptr<const DesktopEntries::List> m_list;
