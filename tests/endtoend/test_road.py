@@ -142,6 +142,30 @@ class TheWholeRoad(RoadCase):
 
         self.save_until(file, "second")
 
+    def test_control_and_a_digit_paste_that_row(self):
+        self.desktop.start_app()
+        for text in ("first", "second", "third"):
+            self.desktop.copy(text)
+            self.desktop.wait_for_text(text)
+        file, _ = self.open_gtk_editor()
+
+        self.desktop.open_history()
+        self.desktop.press("ctrl+3")
+        self.desktop.wait_hidden()
+
+        self.save_until(file, "first")
+
+    def test_control_and_backspace_delete_the_chosen_row(self):
+        self.desktop.start_app()
+        for text in ("first", "second", "third"):
+            self.desktop.copy(text)
+            self.desktop.wait_for_text(text)
+
+        self.desktop.open_history()
+        self.desktop.press("Down", "ctrl+BackSpace")
+
+        wait_until(lambda: self.desktop.texts() == ["third", "first"], "the row to go")
+
     def test_the_chord_shows_and_hides(self):
         self.desktop.start_app()
         self.desktop.open_history()
