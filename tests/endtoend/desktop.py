@@ -36,7 +36,7 @@ class Desktop:
     """Use it as a context manager; everything that was started in it ends with it."""
 
     def __init__(self, build, size="1280x800x24", window_manager="openbox", scale=None, dark=False):
-        self.build = Path(build)
+        self.build = Path(build).resolve()
         self.size = size
         self.window_manager = window_manager
         self.scale = scale
