@@ -143,6 +143,14 @@ class Desktop:
     def press(self, *chords):
         self.run(["xdotool", "key", "--clearmodifiers", *chords])
 
+    def use_layout(self, name):
+        """Gives the keyboard a layout that has the letters to be typed.
+
+        For others `type` changes the layout behind the programs' backs and back again, and a program that is slow to
+        hear of it loses the letter.
+        """
+        self.run(["setxkbmap", name])
+
     def type(self, text):
         self.run(["xdotool", "type", "--delay", "5", text])
 

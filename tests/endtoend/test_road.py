@@ -79,6 +79,7 @@ class TheWholeRoad(RoadCase):
         self.desktop.copy("something newer")
         self.desktop.wait_for_text("something newer")
         file, _ = self.open_qt_editor()
+        self.desktop.use_layout("de")
 
         self.paste_from_history("GRÜSS")
 
