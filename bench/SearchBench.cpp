@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <condition_variable>
+#include <deque>
 #include <iostream>
 #include <memory>
 #include <mutex>
@@ -31,7 +32,7 @@ class WaitingRunLoop final : public foundation::RunLoop {
  public:
   void post(Task task) override {
     const std::lock_guard lock(m_mutex);
-    m_task = std::move(task);
+    m_tasks.push_back(std::move(task));
     m_posted.notify_one();
   }
   foundation::Subscription after(foundation::Seconds /*delay*/, Task /*task*/) override { return {}; }
@@ -40,8 +41,9 @@ class WaitingRunLoop final : public foundation::RunLoop {
 
   void runNext() {
     std::unique_lock lock(m_mutex);
-    m_posted.wait(lock, [this] { return m_task != nullptr; });
-    const Task task = std::exchange(m_task, nullptr);
+    m_posted.wait(lock, [this] { return !m_tasks.empty(); });
+    const Task task = std::move(m_tasks.front());
+    m_tasks.pop_front();
     lock.unlock();
     task();
   }
@@ -49,7 +51,7 @@ class WaitingRunLoop final : public foundation::RunLoop {
  private:
   std::mutex m_mutex;
   std::condition_variable m_posted;
-  Task m_task;
+  std::deque<Task> m_tasks;
 };
 
 class NoClipboard final : public ClipboardManaging {
@@ -90,23 +92,23 @@ class History final {
   History(std::size_t count, std::size_t size) {
     std::mt19937 random(1);
     const auto application = foundation::Url::fromFilePath("/usr/share/applications/org.example.Editor.desktop");
-    auto items = std::make_shared<std::vector<std::shared_ptr<ClipboardItemViewModel>>>();
+    std::vector<std::shared_ptr<ClipboardItemViewModel>> items;
     for (std::size_t number = 0; number < count; ++number) {
       std::string text = randomText(random, size);
       all += text;
       Payload payload{{std::string(pasteboardtype::NSPasteboardTypeString), foundation::Data(std::move(text))}};
       auto record = std::make_shared<ClipboardItem>(std::move(payload), "org.example.Editor", application,
                                                     foundation::Date(std::chrono::seconds(number)));
-      items->push_back(std::make_shared<ClipboardItemViewModel>(std::move(record), m_services));
+      items.push_back(std::make_shared<ClipboardItemViewModel>(std::move(record), m_services));
     }
-    m_items = std::move(items);
+    m_items = Items(items);
   }
 
   std::size_t search(const std::string& term) {
-    std::size_t found = 0;
-    m_manager.search(m_items, term, [&found](const auto& results) { found = results->size(); });
-    m_runLoop.runNext();
-    return found;
+    m_manager.search(m_items, term, [this](const auto& results) { m_results = results; });
+    m_runLoop.runNext();  // the completion
+    m_runLoop.runNext();  // the end of the work
+    return m_results->size();
   }
 
   std::string all;
@@ -124,6 +126,7 @@ class History final {
           ClipboardItemViewModel::Services{m_clipboard, defaults, m_naming});
   SearchManager<ClipboardItemViewModel> m_manager{m_queue, m_runLoop, defaults};
   Items m_items;
+  SearchResults<ClipboardItemViewModel> m_results;
 };
 
 // Letters that the texts have, in an order that they don't: the whole of each text is read.
@@ -158,6 +161,9 @@ BENCHMARK(plainScan)->Apply(sizes);
 BENCHMARK_CAPTURE(search, literal, Kind::literal, term)->Apply(sizes);
 BENCHMARK_CAPTURE(search, caseSensitive, Kind::caseSensitive, term)->Apply(sizes);
 BENCHMARK_CAPTURE(search, everyItem, Kind::literal, " ")->Apply(sizes);
-BENCHMARK_CAPTURE(search, expression, Kind::expression, "q[u-z]+artz")->Args({10'000, 200})->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(search, expression, Kind::expression, "q[u-z]+artz")
+    ->Args({10'000, 200})
+    ->UseRealTime()
+    ->Unit(benchmark::kMillisecond);
 
 }  // namespace

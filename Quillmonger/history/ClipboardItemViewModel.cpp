@@ -62,6 +62,20 @@ SharedText ClipboardItemViewModel::text() const {
   return {bytes, foundation::trimmed(*bytes)};
 }
 
+std::optional<SharedText> ClipboardItemViewModel::shortText(std::size_t limit) const {
+  if (!fileURL()) {
+    const auto data = m_item->data(pasteboardtype::NSPasteboardTypeString);
+    if (data && data->size() > limit) return std::nullopt;
+  }
+  auto whole = text();
+  return whole.view.size() <= limit ? std::optional(std::move(whole)) : std::nullopt;
+}
+
+std::string ClipboardItemViewModel::appKey() const {
+  const auto& url = m_item->sourceAppBundleURL();
+  return url ? url->absoluteString() : std::string();
+}
+
 RowText ClipboardItemViewModel::rowText(std::size_t limit) const {
   if (auto location = decodedFileURL()) return {*std::move(location), {}};
   const auto data = m_item->data(pasteboardtype::NSPasteboardTypeString);

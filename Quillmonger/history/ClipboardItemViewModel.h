@@ -27,7 +27,7 @@ struct RowText {
 
 /// One record of the history, as the list, the search and the preview see it. There is one for each record for as long
 /// as the record is in the history. Main thread, except for what `Searchable` promises.
-class ClipboardItemViewModel final : public Searchable {
+class ClipboardItemViewModel final : public Searchable, public std::enable_shared_from_this<ClipboardItemViewModel> {
  public:
   /// What all items share. All outlive the items.
   struct Services {
@@ -47,6 +47,8 @@ class ClipboardItemViewModel final : public Searchable {
 
   /// The decoded location of a file, else the trimmed plain text, else empty: what is shown, searched and examined.
   [[nodiscard]] SharedText text() const override;
+  [[nodiscard]] std::optional<SharedText> shortText(std::size_t limit) const override;
+  [[nodiscard]] std::string appKey() const override;
   /// The source application's display name.
   [[nodiscard]] std::optional<std::string> appName() const override;
   [[nodiscard]] foundation::Date creationDate() const override { return m_item->creationDate(); }

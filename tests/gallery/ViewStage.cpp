@@ -69,16 +69,17 @@ void ViewStage::show(const std::vector<Item>& items) {
   m_items = items;
   std::vector<Row> rows;
   for (const Item& item : items)
-    rows.push_back({item, 0.0, std::nullopt});
+    rows.push_back({item.get(), 0.0, std::nullopt});
   showRows(std::move(rows));
 }
 
 void ViewStage::showRows(std::vector<Row> rows) {
-  m_rows.set(std::make_shared<const std::vector<Row>>(std::move(rows)));
-  m_selectedItem.set(m_rows.value()->empty() ? nullptr : m_rows.value()->front().item);
+  m_rows.set(std::make_shared<const quillmonger::SearchResultList<ClipboardItemViewModel>>(
+      std::move(rows), quillmonger::SearchItems(m_items)));
+  m_selectedItem.set(m_rows.value()->empty() ? nullptr : m_rows.value()->front().item->shared_from_this());
 }
 
-void ViewStage::select(std::size_t row) { m_selectedItem.set(m_rows.value()->at(row).item); }
+void ViewStage::select(std::size_t row) { m_selectedItem.set(m_rows.value()->at(row).item->shared_from_this()); }
 
 QQuickView& ViewStage::view() {
   if (!m_view) {

@@ -66,7 +66,8 @@ class ViewStage final {
   FakeApplicationNaming m_naming;
   std::shared_ptr<const quillmonger::ClipboardItemViewModel::Services> m_services;
   std::vector<Item> m_items;
-  foundation::Published<quillmonger::HistoryListModel::Rows> m_rows{std::make_shared<const std::vector<Row>>()};
+  foundation::Published<quillmonger::HistoryListModel::Rows> m_rows{
+      std::make_shared<const quillmonger::SearchResultList<quillmonger::ClipboardItemViewModel>>()};
   foundation::Published<Item> m_selectedItem;
   foundation::Published<bool> m_isOptionPressed{false};
   foundation::Published<std::string> m_searchTerm;

@@ -77,9 +77,7 @@ HistoryListModel::Change HistoryListModel::setRows(const Rows& rows) {
   }
   if (removed > 0) {
     beginRemoveRows({}, first, first + static_cast<int>(removed) - 1);
-    auto rest = std::make_shared<std::vector<Row>>(before->begin(), starts.in1);
-    rest->insert(rest->end(), oldEnd, before->end());
-    m_rows = std::move(rest);
+    m_rows = before->without(starts.in1 - before->begin(), oldEnd - before->begin());
     endRemoveRows();
   }
   const Rows between = m_rows;
@@ -92,6 +90,7 @@ HistoryListModel::Change HistoryListModel::setRows(const Rows& rows) {
 
 // A longer term leaves most rows where they are, with another hit.
 void HistoryListModel::updateMatches(const Rows& before) {
+  if (!before->hasMatches() && !m_rows->hasMatches()) return;
   const auto added = m_rows->size() - before->size();
   std::size_t shift = 0;
   for (std::size_t row = 0; row < before->size(); ++row) {
@@ -103,7 +102,7 @@ void HistoryListModel::updateMatches(const Rows& before) {
 }
 
 int HistoryListModel::rowOf(const std::shared_ptr<ClipboardItemViewModel>& item) const {
-  const auto found = std::ranges::find(*m_rows, item, &Row::item);
+  const auto found = std::ranges::find(*m_rows, item.get(), &Row::item);
   return item == nullptr || found == m_rows->end() ? -1 : static_cast<int>(found - m_rows->begin());
 }
 

@@ -41,7 +41,7 @@ class HistoryListModel : public QAbstractListModel {
  private:
   void updateMatches(const Rows& before);
 
-  Rows m_rows = std::make_shared<const std::vector<SearchResult<ClipboardItemViewModel>>>();
+  Rows m_rows = std::make_shared<const SearchResultList<ClipboardItemViewModel>>();
 };
 
 }  // namespace quillmonger

@@ -104,8 +104,7 @@ CommandLine::Operations Composition::commandOperations() {
 
 std::vector<std::shared_ptr<ClipboardItem>> Composition::recordsNewestFirst() {
   std::vector<std::shared_ptr<ClipboardItem>> records;
-  for (const auto& item : m_root.clipboardViewModel().items())
-    records.push_back(item->item());
+  m_root.clipboardViewModel().items().forEach([&records](const auto& item) { records.push_back(item->item()); });
   std::ranges::stable_sort(records, std::greater(), [](const auto& record) { return record->creationDate(); });
   return records;
 }

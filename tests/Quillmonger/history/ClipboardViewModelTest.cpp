@@ -77,12 +77,12 @@ class ClipboardViewModelTest : public testing::Test {
   Texts rows() {
     Texts texts;
     for (const auto& row : *viewModel->filteredItems().value())
-      texts.push_back(textOf(row.item));
+      texts.emplace_back(row.item->text().view);
     return texts;
   }
   Texts items() {
     Texts texts;
-    for (const auto& item : viewModel->items())
+    for (const auto& item : viewModel->items().all())
       texts.push_back(textOf(item));
     return texts;
   }
@@ -93,7 +93,9 @@ class ClipboardViewModelTest : public testing::Test {
     return texts;
   }
   std::string selected() { return textOf(viewModel->selectedItem().value()); }
-  void select(std::size_t row) { viewModel->select(viewModel->filteredItems().value()->at(row).item); }
+  void select(std::size_t row) {
+    viewModel->select(viewModel->filteredItems().value()->at(row).item->shared_from_this());
+  }
 
   testsupport::VirtualRunLoop runLoop;
   testsupport::InlineBackgroundQueue queue;
@@ -480,7 +482,7 @@ TEST_F(ClipboardViewModelTest, DeletesNothingWhenTheStoreCantBeReadAndSaysWhy) {
 
 TEST_F(ClipboardViewModelTest, SelectsNoItemThatHasLeftTheHistory) {
   startWith({"a", "b"});
-  const auto gone = viewModel->filteredItems().value()->at(1).item;
+  const auto gone = viewModel->filteredItems().value()->at(1).item->shared_from_this();
   select(1);
   press(deleteKey, commandFlag);
 

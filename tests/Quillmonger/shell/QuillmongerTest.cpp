@@ -272,7 +272,7 @@ TEST_F(QuillmongerTest, SelectsTheTopRowOfTheOldListAtOnce) {
   start();
   copy("one");
   copy("two");
-  root->clipboardViewModel().select(root->clipboardViewModel().filteredItems().value()->at(1).item);
+  root->clipboardViewModel().select(root->clipboardViewModel().filteredItems().value()->at(1).item->shared_from_this());
 
   root->windowManager().showAppWindow();
   runLoop.runPosted();

@@ -213,7 +213,7 @@ TEST_F(AppView, ShowsAHitInBoldAndTheRestDimmed) {
   const auto item = m_stage.makeItem("xabcy");
   m_stage.show({item});
 
-  m_stage.showRows({{item, 0.0, CharacterRange{1, 3}}});
+  m_stage.showRows({{item.get(), 0.0, CharacterRange{1, 3}}});
 
   EXPECT_NE(textOf(m_stage.find("ClipboardItemText")).find("<b>abc</b>"), std::string::npos);
 }
