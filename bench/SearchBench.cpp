@@ -2,11 +2,7 @@
 #include <cstring>
 
 #include <chrono>
-#include <condition_variable>
-#include <deque>
-#include <iostream>
 #include <memory>
-#include <mutex>
 #include <random>
 #include <string>
 #include <vector>
@@ -18,6 +14,9 @@
 #include "Quillmonger/history/ClipboardItemViewModel.h"
 #include "Quillmonger/search/SearchManager.h"
 #include "Quillmonger/settings/SettingsKeys.h"
+#include "bench/BenchRunLoop.h"
+#include "bench/BenchServices.h"
+#include "bench/Silence.h"
 
 // A whole search as the history runs it, from the call to the completion, over texts of random words; and the same
 // bytes searched with memmem, as one piece, for the measure of what a search costs at least.
@@ -26,54 +25,6 @@ namespace {
 
 using namespace quillmonger;
 using Items = SearchItems<ClipboardItemViewModel>;
-
-/// Runs what was posted on the thread that waits for it.
-class WaitingRunLoop final : public foundation::RunLoop {
- public:
-  void post(Task task) override {
-    const std::lock_guard lock(m_mutex);
-    m_tasks.push_back(std::move(task));
-    m_posted.notify_one();
-  }
-  foundation::Subscription after(foundation::Seconds /*delay*/, Task /*task*/) override { return {}; }
-  foundation::Subscription every(foundation::Seconds /*interval*/, Task /*task*/) override { return {}; }
-  [[nodiscard]] foundation::Date date() const override { return {}; }
-
-  void runNext() {
-    std::unique_lock lock(m_mutex);
-    m_posted.wait(lock, [this] { return !m_tasks.empty(); });
-    const Task task = std::move(m_tasks.front());
-    m_tasks.pop_front();
-    lock.unlock();
-    task();
-  }
-
- private:
-  std::mutex m_mutex;
-  std::condition_variable m_posted;
-  std::deque<Task> m_tasks;
-};
-
-class NoClipboard final : public ClipboardManaging {
- public:
-  foundation::Stream<Record>& newItemPublisher() override { return m_none; }
-  foundation::Stream<Record>& duplicateItemPublisher() override { return m_none; }
-  void startListening() override {}
-  void writeToPasteboard(const ClipboardItem& /*item*/, RemoveFormatting /*removeFormatting*/) override {}
-  void pasteIntoFrontmostApplication() override {}
-
- private:
-  foundation::Stream<Record> m_none;
-};
-
-/// Keeps the farewell lines of thousands of items out of the figures.
-class Silence final {
- public:
-  Silence() { std::cout.setstate(std::ios::failbit); }
-  Silence(const Silence&) = delete;
-  Silence& operator=(const Silence&) = delete;
-  ~Silence() { std::cout.clear(); }
-};
 
 std::string randomText(std::mt19937& random, std::size_t size) {
   std::string text;
@@ -117,8 +68,8 @@ class History final {
 
  private:
   platform::QtBackgroundQueue m_queue;
-  WaitingRunLoop m_runLoop;
-  NoClipboard m_clipboard;
+  BenchRunLoop m_runLoop;
+  BenchClipboard m_clipboard;
   platform::DesktopEntries m_entries{std::vector<std::filesystem::path>{}};
   platform::DesktopApplicationNaming m_naming{m_entries};
   std::shared_ptr<const ClipboardItemViewModel::Services> m_services =

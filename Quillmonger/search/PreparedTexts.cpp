@@ -14,7 +14,7 @@ constexpr char closingByte = '\xFF';
 // A carriage return may be one character with the line feed behind it; and "I" may fold to a letter beyond ASCII.
 bool isPlain(std::string_view text) {
   return isAscii(text) && text.find('\r') == std::string_view::npos &&
-      !(hasTurkicCase() && text.find('I') != std::string_view::npos);
+         !(hasTurkicCase() && text.find('I') != std::string_view::npos);
 }
 
 }  // namespace

@@ -62,7 +62,8 @@ class SearchItems final {
     for (std::size_t start = 0; start < front.size(); start += chunkSize) {
       const auto first = front.begin() + static_cast<std::ptrdiff_t>(start);
       const auto size = std::min(chunkSize, front.size() - start);
-      chunks.push_back(std::make_shared<const Chunk>(std::vector<Item>(first, first + static_cast<std::ptrdiff_t>(size))));
+      chunks.push_back(
+          std::make_shared<const Chunk>(std::vector<Item>(first, first + static_cast<std::ptrdiff_t>(size))));
     }
     chunks.insert(chunks.end(), after, m_chunks.end());
     m_chunks = std::move(chunks);

@@ -33,10 +33,10 @@ namespace keys = quillmonger::keys;
 
 // What folds, composes, joins or looks alike in some script.
 constexpr std::array<const char*, 40> pieces{
-    "a",  "A",      "b",      "s",      "S",      "\u00DF", "\u1E9E",     "\u017F",     "i",      "I",
-    "ı",  "İ",      "Σ",      "σ",      "ς",      "e",      "\u0301",     "é",          "É",      "k",
+    "a",      "A",  "b",      "s",      "S",      "\u00DF", "\u1E9E",     "\u017F",     "i",      "I",
+    "ı",      "İ",  "Σ",      "σ",      "ς",      "e",      "\u0301",     "é",          "É",      "k",
     "\u212A", "f",  "\uFB01", "\uFB03", " ",      "\n",     "\r",         "\r\n",       "\u1112", "\u1161",
-    "\u11AB", "한", "👍",     "🏽",     "\u200D", "👩",     "\U0001F1E9", "\U0001F1EA", "क",      "ि"};
+    "\u11AB", "한", "👍",      "🏽",   "\u200D", "👩",      "\U0001F1E9", "\U0001F1EA", "क",      "ि"};
 
 std::string randomText(std::mt19937& random, std::size_t pieceCount) {
   std::string text;
