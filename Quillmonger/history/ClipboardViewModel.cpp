@@ -193,10 +193,7 @@ ClipboardViewModel::Item ClipboardViewModel::itemAt(std::size_t row) const {
 }
 
 std::optional<std::size_t> ClipboardViewModel::rowOf(const Item& item) const {
-  const auto& rows = *m_filteredItems.value();
-  const auto found = std::find_if(rows.begin(), rows.end(), [&item](const Row& row) { return row.item == item.get(); });
-  if (found == rows.end()) return std::nullopt;
-  return static_cast<std::size_t>(found - rows.begin());
+  return m_filteredItems.value()->rowOf(item.get());
 }
 
 void ClipboardViewModel::removeRow(std::size_t row) {

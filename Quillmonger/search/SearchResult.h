@@ -25,39 +25,69 @@ struct SearchResult {
 };
 
 /// What a search found, in order. Immutable. It keeps the searched items as a whole rather than each one that was
-/// found, since counting a hundred thousand in and out would hold up the main thread.
+/// found, and what is the same for every row not at all: counting or comparing a hundred thousand rows one by one would
+/// hold up the main thread.
 template <typename T>
 class SearchResultList final {
  public:
   using Row = SearchResult<T>;
 
   SearchResultList() = default;
-  SearchResultList(std::vector<Row> rows, SearchItems<T> items) : m_rows(std::move(rows)), m_items(std::move(items)) {
-    m_hasMatches = std::any_of(m_rows.begin(), m_rows.end(), [](const Row& row) { return row.match.has_value(); });
+  /// `items` hold the rows' items.
+  SearchResultList(const std::vector<Row>& rows, SearchItems<T> items) : m_items(std::move(items)) {
+    m_found.reserve(rows.size());
+    for (const Row& row : rows)
+      m_found.push_back(row.item);
+    const auto isPlain = [](const Row& row) { return row.score == 0.0 && !row.match; };
+    if (std::all_of(rows.begin(), rows.end(), isPlain)) return;
+    m_hits.reserve(rows.size());
+    for (const Row& row : rows)
+      m_hits.push_back({row.score, row.match});
   }
 
-  [[nodiscard]] std::size_t size() const { return m_rows.size(); }
-  [[nodiscard]] bool empty() const { return m_rows.empty(); }
-  [[nodiscard]] auto begin() const { return m_rows.begin(); }
-  [[nodiscard]] auto end() const { return m_rows.end(); }
-  [[nodiscard]] const Row& front() const { return m_rows.front(); }
-  [[nodiscard]] const Row& at(std::size_t row) const { return m_rows.at(row); }
-  /// Whether any row has something to highlight.
-  [[nodiscard]] bool hasMatches() const { return m_hasMatches; }
+  [[nodiscard]] std::size_t size() const { return m_found.size(); }
+  [[nodiscard]] bool empty() const { return m_found.empty(); }
+  [[nodiscard]] Row front() const { return at(0); }
+  [[nodiscard]] Row at(std::size_t row) const {
+    return m_hits.empty() ? Row{m_found.at(row), 0.0, std::nullopt}
+                          : Row{m_found.at(row), m_hits[row].score, m_hits[row].match};
+  }
+  /// The rows' items.
+  [[nodiscard]] const std::vector<T*>& found() const { return m_found; }
+  /// Whether a row may have something to highlight.
+  [[nodiscard]] bool mayHaveMatches() const { return !m_hits.empty(); }
+  [[nodiscard]] std::optional<std::size_t> rowOf(const T* item) const {
+    const auto at = std::find(m_found.begin(), m_found.end(), item);
+    return at == m_found.end() ? std::nullopt : std::optional(static_cast<std::size_t>(at - m_found.begin()));
+  }
 
   /// This list without the rows from `first` to `last`, `last` excluded.
   [[nodiscard]] std::shared_ptr<const SearchResultList> without(std::size_t first, std::size_t last) const {
-    std::vector<Row> rest;
-    rest.reserve(m_rows.size() - (last - first));
-    rest.insert(rest.end(), m_rows.begin(), m_rows.begin() + static_cast<std::ptrdiff_t>(first));
-    rest.insert(rest.end(), m_rows.begin() + static_cast<std::ptrdiff_t>(last), m_rows.end());
-    return std::make_shared<const SearchResultList>(std::move(rest), m_items);
+    auto rest = std::make_shared<SearchResultList>();
+    rest->m_found = rowsWithout(m_found, first, last);
+    if (!m_hits.empty()) rest->m_hits = rowsWithout(m_hits, first, last);
+    rest->m_items = m_items;
+    return rest;
   }
 
  private:
-  std::vector<Row> m_rows;
+  struct Hit {
+    double score;
+    std::optional<CharacterRange> match;
+  };
+
+  template <typename Rows>
+  static Rows rowsWithout(const Rows& rows, std::size_t first, std::size_t last) {
+    Rows rest;
+    rest.reserve(rows.size() - (last - first));
+    rest.insert(rest.end(), rows.begin(), rows.begin() + static_cast<std::ptrdiff_t>(first));
+    rest.insert(rest.end(), rows.begin() + static_cast<std::ptrdiff_t>(last), rows.end());
+    return rest;
+  }
+
+  std::vector<T*> m_found;
+  std::vector<Hit> m_hits;  // one for each row, or none when all are {0.0, absent}
   SearchItems<T> m_items;
-  bool m_hasMatches = false;
 };
 
 /// Shared: handing one on costs nothing. Let go of on the main thread.

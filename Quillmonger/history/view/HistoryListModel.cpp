@@ -14,10 +14,6 @@ constexpr std::size_t rowTextLimit = 1024;
 // Above this many rows that come and go, a view that starts anew is faster, and as much as an eye can follow.
 constexpr std::ptrdiff_t gradualLimit = 16;
 
-using Row = SearchResult<ClipboardItemViewModel>;
-
-bool isSameItem(const Row& first, const Row& second) { return first.item == second.item; }
-
 QString iconPath(const ClipboardItemViewModel& item) {
   const auto& url = item.item()->sourceAppBundleURL();
   return url ? QString::fromStdString(url->filePath().value_or(std::string())) : QString();
@@ -31,7 +27,7 @@ int HistoryListModel::rowCount(const QModelIndex& parent) const {
 
 QVariant HistoryListModel::data(const QModelIndex& index, int role) const {
   if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid)) return {};
-  const Row& row = m_rows->at(static_cast<std::size_t>(index.row()));
+  const auto row = m_rows->at(static_cast<std::size_t>(index.row()));
   switch (role) {
     case lineRole:
       return plainText(rowLine(row.item->rowText(rowTextLimit), row.match));
@@ -59,11 +55,13 @@ QHash<int, QByteArray> HistoryListModel::roleNames() const {
 // What stays at both ends is left alone; what lies between goes, and what lies between in the new rows comes.
 HistoryListModel::Change HistoryListModel::setRows(const Rows& rows) {
   const Rows before = m_rows;
-  const auto starts = std::ranges::mismatch(*before, *rows, isSameItem);
-  const auto first = static_cast<int>(starts.in1 - before->begin());
-  auto oldEnd = before->end();
-  auto newEnd = rows->end();
-  while (oldEnd != starts.in1 && newEnd != starts.in2 && isSameItem(*(oldEnd - 1), *(newEnd - 1))) {
+  const auto& oldItems = before->found();
+  const auto& newItems = rows->found();
+  const auto starts = std::ranges::mismatch(oldItems, newItems);
+  const auto first = static_cast<int>(starts.in1 - oldItems.begin());
+  auto oldEnd = oldItems.end();
+  auto newEnd = newItems.end();
+  while (oldEnd != starts.in1 && newEnd != starts.in2 && *(oldEnd - 1) == *(newEnd - 1)) {
     --oldEnd;
     --newEnd;
   }
@@ -77,7 +75,7 @@ HistoryListModel::Change HistoryListModel::setRows(const Rows& rows) {
   }
   if (removed > 0) {
     beginRemoveRows({}, first, first + static_cast<int>(removed) - 1);
-    m_rows = before->without(starts.in1 - before->begin(), oldEnd - before->begin());
+    m_rows = before->without(static_cast<std::size_t>(first), static_cast<std::size_t>(first + removed));
     endRemoveRows();
   }
   const Rows between = m_rows;
@@ -90,11 +88,11 @@ HistoryListModel::Change HistoryListModel::setRows(const Rows& rows) {
 
 // A longer term leaves most rows where they are, with another hit.
 void HistoryListModel::updateMatches(const Rows& before) {
-  if (!before->hasMatches() && !m_rows->hasMatches()) return;
+  if (!before->mayHaveMatches() && !m_rows->mayHaveMatches()) return;
   const auto added = m_rows->size() - before->size();
   std::size_t shift = 0;
   for (std::size_t row = 0; row < before->size(); ++row) {
-    if (shift == 0 && added > 0 && !isSameItem(before->at(row), m_rows->at(row))) shift = added;
+    if (shift == 0 && added > 0 && before->found()[row] != m_rows->found()[row]) shift = added;
     if (before->at(row).match == m_rows->at(row + shift).match) continue;
     const QModelIndex changed = index(static_cast<int>(row + shift));
     emit dataChanged(changed, changed, {lineRole, attributedLineRole});
@@ -102,8 +100,8 @@ void HistoryListModel::updateMatches(const Rows& before) {
 }
 
 int HistoryListModel::rowOf(const std::shared_ptr<ClipboardItemViewModel>& item) const {
-  const auto found = std::ranges::find(*m_rows, item.get(), &Row::item);
-  return item == nullptr || found == m_rows->end() ? -1 : static_cast<int>(found - m_rows->begin());
+  const auto row = m_rows->rowOf(item.get());
+  return row ? static_cast<int>(*row) : -1;
 }
 
 }  // namespace quillmonger

@@ -76,8 +76,8 @@ class ClipboardViewModelTest : public testing::Test {
   }
   Texts rows() {
     Texts texts;
-    for (const auto& row : *viewModel->filteredItems().value())
-      texts.emplace_back(row.item->text().view);
+    for (const auto* item : viewModel->filteredItems().value()->found())
+      texts.emplace_back(item->text().view);
     return texts;
   }
   Texts items() {

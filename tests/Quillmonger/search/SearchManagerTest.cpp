@@ -35,8 +35,8 @@ class SearchManagerTest : public testing::Test {
     queue.run();
     runLoop.runPosted();
     std::vector<std::string> texts;
-    for (const auto& result : *results)
-      texts.emplace_back(result.item->text().view);
+    for (const auto* note : results->found())
+      texts.emplace_back(note->text().view);
     return texts;
   }
   void add(std::string text, std::chrono::seconds age, std::optional<std::string> appName = {}) {

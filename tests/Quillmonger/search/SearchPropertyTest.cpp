@@ -98,8 +98,8 @@ class SearchProperty : public testing::TestWithParam<const char*> {
                                                             const std::string& term) {
     std::map<const Note*, std::optional<CharacterRange>> found;
     m_manager.search(SearchItems<Note>(notes), term, [&found](const auto& results) {
-      for (const auto& row : *results)
-        found[row.item] = row.match;
+      for (std::size_t row = 0; row < results->size(); ++row)
+        found[results->at(row).item] = results->at(row).match;
     });
     m_queue.run();
     m_runLoop.runPosted();
