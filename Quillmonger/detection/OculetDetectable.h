@@ -1,0 +1,23 @@
+#pragma once
+
+#include <memory>
+#include <string_view>
+
+#include "Quillmonger/detection/OculetDetectionResult.h"
+
+namespace quillmonger {
+
+/// Recognises one kind of structured value in a text. Stateless once made: any thread, several at once.
+class OculetDetectable {
+ public:
+  OculetDetectable() = default;
+  OculetDetectable(const OculetDetectable&) = delete;
+  OculetDetectable& operator=(const OculetDetectable&) = delete;
+  virtual ~OculetDetectable() = default;
+
+  /// Null for a text that is no such value. `text` is valid UTF-8 of any length, and most texts are no such value:
+  /// a detector says so at a glance.
+  [[nodiscard]] virtual std::unique_ptr<const OculetDetectionResult> detect(std::string_view text) const = 0;
+};
+
+}  // namespace quillmonger
