@@ -1,7 +1,8 @@
 #pragma once
 
 #include <cstdint>
-#include <utility>
+#include <string>
+#include <string_view>
 
 #include "KeyboardShortcuts/HotKeyService.h"
 #include "Quillmonger/capture/ClipboardManaging.h"
@@ -34,3 +35,5 @@ class NoKeyEvents final : public quillmonger::LocalEventMonitoring {
  public:
   foundation::Subscription addLocalMonitor(Handler /*handler*/) override { return {}; }
 };
+
+inline std::string noText(std::string_view key) { return std::string(key); }

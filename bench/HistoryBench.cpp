@@ -8,6 +8,7 @@
 #include "Defaults/Defaults.h"
 #include "Platform/freedesktop/DesktopApplicationNaming.h"
 #include "Platform/qt/QtBackgroundQueue.h"
+#include "Platform/qt/QtPictureReading.h"
 #include "Quillmonger/capture/PasteboardTypes.h"
 #include "Quillmonger/capture/SqliteStoreContext.h"
 #include "Quillmonger/history/ClipboardViewModel.h"
@@ -80,6 +81,8 @@ class History final {
   platform::QtBackgroundQueue m_queue;
   platform::DesktopEntries m_entries{std::vector<std::filesystem::path>{}};
   platform::DesktopApplicationNaming m_naming{m_entries};
+  std::shared_ptr<const OculetManager> m_oculetManager = makeOculetManager();
+  platform::QtPictureReading m_pictures;
   NoKeyEvents m_keyEvents;
   NoHotKeys m_hotKeys;
   foundation::NotificationCenter m_notificationCenter;

@@ -10,6 +10,7 @@
 #include "Defaults/Defaults.h"
 #include "Platform/freedesktop/DesktopApplicationNaming.h"
 #include "Platform/qt/QtBackgroundQueue.h"
+#include "Platform/qt/QtPictureReading.h"
 #include "Quillmonger/capture/PasteboardTypes.h"
 #include "Quillmonger/history/ClipboardItemViewModel.h"
 #include "Quillmonger/search/SearchManager.h"
@@ -72,9 +73,11 @@ class History final {
   BenchClipboard m_clipboard;
   platform::DesktopEntries m_entries{std::vector<std::filesystem::path>{}};
   platform::DesktopApplicationNaming m_naming{m_entries};
+  std::shared_ptr<const OculetManager> m_oculetManager = makeOculetManager();
+  platform::QtPictureReading m_pictures;
   std::shared_ptr<const ClipboardItemViewModel::Services> m_services =
       std::make_shared<const ClipboardItemViewModel::Services>(
-          ClipboardItemViewModel::Services{m_clipboard, defaults, m_naming});
+          ClipboardItemViewModel::Services{m_clipboard, defaults, m_naming, *m_oculetManager, m_pictures, noText});
   SearchManager<ClipboardItemViewModel> m_manager{m_queue, m_runLoop, defaults};
   Items m_items;
   SearchResults<ClipboardItemViewModel> m_results;

@@ -97,13 +97,15 @@ bool startsLikeHex(std::string_view text) {
 }
 
 // A call of a function of three letters; the second of hsl may be the two bytes of U+017F, whose upper case is S.
-bool looksLikeCall(std::string_view text) {
+bool startsLikeCall(std::string_view text) {
   constexpr std::string_view initials = "rRhH";
-  if (initials.find(text.front()) == std::string_view::npos) return false;
-  const std::size_t parenthesis = text.substr(0, 5).find('(');
+  return initials.find(text.front()) != std::string_view::npos && text.substr(0, 5).find('(') != std::string_view::npos;
+}
+
+bool looksLikeCall(std::string_view text) {
   // A line end may follow the closing parenthesis.
   const bool endsInAscii = text.back() > ' ';
-  return parenthesis != std::string_view::npos && (text.back() == ')' || !endsInAscii);
+  return startsLikeCall(text) && (text.back() == ')' || !endsInAscii);
 }
 
 }  // namespace
@@ -117,6 +119,8 @@ struct ColorDetector::Expressions {
 
 ColorDetector::ColorDetector() : m_expressions(std::make_unique<const Expressions>()) {}
 ColorDetector::~ColorDetector() = default;
+
+bool ColorDetector::mayDetect(std::string_view start) const { return !start.empty() && startsLikeCall(start); }
 
 std::unique_ptr<const OculetDetectionResult> ColorDetector::detect(std::string_view text) const {
   // Nearly all texts end here, so that a long one is converted only if an expression may match it.

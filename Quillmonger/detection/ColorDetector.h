@@ -24,6 +24,7 @@ class ColorDetector final : public OculetDetectable {
   /// A component of rgb() that is no 64-bit integer, and a component that rounding takes out of 0 to 1, stop the
   /// process.
   [[nodiscard]] std::unique_ptr<const OculetDetectionResult> detect(std::string_view text) const override;
+  [[nodiscard]] bool mayDetect(std::string_view start) const override;
 
  private:
   struct Expressions;

@@ -23,6 +23,8 @@ class DateDetector final : public OculetDetectable {
   using DetectionResult = DateResult;
 
   [[nodiscard]] std::unique_ptr<const OculetDetectionResult> detect(std::string_view text) const override;
+  /// Dates are short.
+  [[nodiscard]] bool mayDetect(std::string_view /*start*/) const override { return false; }
 };
 
 }  // namespace quillmonger

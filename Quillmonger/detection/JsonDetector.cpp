@@ -55,6 +55,10 @@ std::optional<std::string> reformat(std::string_view json, JsonStyle style, std:
 
 }  // namespace
 
+bool JsonDetector::mayDetect(std::string_view start) const {
+  return startsWithCharacter(start, '{') || startsWithCharacter(start, '[');
+}
+
 std::unique_ptr<const OculetDetectionResult> JsonDetector::detect(std::string_view text) const {
   if (!isBetween(text, '{', '}') && !isBetween(text, '[', ']')) return nullptr;
   if (const auto error = checkJson(text)) {

@@ -26,6 +26,7 @@ class JsonDetector final : public OculetDetectable {
   using DetectionResult = JsonResult;
 
   [[nodiscard]] std::unique_ptr<const OculetDetectionResult> detect(std::string_view text) const override;
+  [[nodiscard]] bool mayDetect(std::string_view start) const override;
 };
 
 }  // namespace quillmonger

@@ -18,6 +18,9 @@ class OculetDetectable {
   /// Null for a text that is no such value. `text` is valid UTF-8 of any length, and most texts are no such value:
   /// a detector says so at a glance.
   [[nodiscard]] virtual std::unique_ptr<const OculetDetectionResult> detect(std::string_view text) const = 0;
+  /// Whether a text of many thousand bytes may be such a value, as far as its start tells. `start` has some hundred
+  /// bytes, cut between characters.
+  [[nodiscard]] virtual bool mayDetect(std::string_view start) const = 0;
 };
 
 }  // namespace quillmonger

@@ -1,5 +1,6 @@
 #include "Quillmonger/detection/OculetManager.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "Quillmonger/detection/ColorDetector.h"
@@ -14,6 +15,11 @@ OculetResults OculetManager::detect(std::string_view text) const {
     if (auto result = detector->detect(text)) results.push_back(std::move(result));
   }
   return results;
+}
+
+bool OculetManager::mayDetect(std::string_view start) const {
+  return std::any_of(m_detectors.begin(), m_detectors.end(),
+                     [start](const auto& detector) { return detector->mayDetect(start); });
 }
 
 std::shared_ptr<const OculetManager> makeOculetManager() {

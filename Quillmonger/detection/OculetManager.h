@@ -18,6 +18,8 @@ class OculetManager final {
 
   /// What the detectors have recognised, at most one result each, in their order. `text` is valid UTF-8.
   [[nodiscard]] OculetResults detect(std::string_view text) const;
+  /// Whether a text of many thousand bytes with this start may have a result: if not, the rest needn't be read.
+  [[nodiscard]] bool mayDetect(std::string_view start) const;
 
  private:
   const Detectors m_detectors;

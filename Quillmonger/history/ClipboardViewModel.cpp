@@ -20,7 +20,8 @@ ClipboardViewModel::ClipboardViewModel(const Collaborators& collaborators)
     : BaseEventManager(collaborators.eventMonitoring),
       m_with(collaborators),
       m_itemServices(std::make_shared<const ClipboardItemViewModel::Services>(ClipboardItemViewModel::Services{
-          collaborators.clipboard, collaborators.defaults, collaborators.applicationNaming})),
+          collaborators.clipboard, collaborators.defaults, collaborators.applicationNaming, collaborators.oculetManager,
+          collaborators.pictureReading, collaborators.texts})),
       m_filteredItems(std::make_shared<const SearchResultList<ClipboardItemViewModel>>()) {
   bindPipelines();
   bindQuickPaste();

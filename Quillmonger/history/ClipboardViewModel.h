@@ -37,6 +37,9 @@ class ClipboardViewModel final : public BaseEventManager {
     SearchViewModel& searchViewModel;
     SearchManager<ClipboardItemViewModel>& searchManager;
     const ApplicationNaming& applicationNaming;
+    const OculetManager& oculetManager;
+    const PictureReading& pictureReading;
+    foundation::TextLookup texts;
     LocalEventMonitoring& eventMonitoring;
     keyboardshortcuts::KeyboardShortcuts& shortcuts;
     foundation::RunLoop& runLoop;

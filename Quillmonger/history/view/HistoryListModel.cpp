@@ -1,5 +1,6 @@
 #include "Quillmonger/history/view/HistoryListModel.h"
 
+#include <QColor>
 #include <algorithm>
 
 #include "Quillmonger/history/view/AttributedLine.h"
@@ -17,6 +18,16 @@ constexpr std::ptrdiff_t gradualLimit = 16;
 QString iconPath(const ClipboardItemViewModel& item) {
   const auto& url = item.item()->sourceAppBundleURL();
   return url ? QString::fromStdString(url->filePath().value_or(std::string())) : QString();
+}
+
+QVariant textColor(const ClipboardItemViewModel& item) {
+  if (!item.hasOculetResults()) return {};
+  const auto results = item.oculetResults();
+  const auto* const color = colorResult(*results);
+  if (color == nullptr) return {};
+  const auto rgb = colorComponents(*color, ColorSpace::genericRGB);
+  return QColor::fromRgbF(static_cast<float>(rgb.red()), static_cast<float>(rgb.green()),
+                          static_cast<float>(rgb.blue()));
 }
 
 }  // namespace
@@ -37,6 +48,10 @@ QVariant HistoryListModel::data(const QModelIndex& index, int role) const {
       return iconPath(*row.item);
     case appNameRole:
       return QString::fromStdString(row.item->appName().value_or(std::string()));
+    case hasOculetResultsRole:
+      return row.item->hasOculetResults();
+    case textColorRole:
+      return textColor(*row.item);
     case isImageRole:
       return row.item->isImage();
     case isFileURLRole:
@@ -47,9 +62,14 @@ QVariant HistoryListModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> HistoryListModel::roleNames() const {
-  return {{lineRole, "line"},         {attributedLineRole, "attributedLine"},
-          {iconPathRole, "iconPath"}, {appNameRole, "appName"},
-          {isImageRole, "isImage"},   {isFileURLRole, "isFileURL"}};
+  return {{lineRole, "line"},
+          {attributedLineRole, "attributedLine"},
+          {iconPathRole, "iconPath"},
+          {appNameRole, "appName"},
+          {hasOculetResultsRole, "hasOculetResults"},
+          {textColorRole, "textColor"},
+          {isImageRole, "isImage"},
+          {isFileURLRole, "isFileURL"}};
 }
 
 // What stays at both ends is left alone; what lies between goes, and what lies between in the new rows comes.

@@ -19,6 +19,7 @@
 #include "Platform/qt/QtApplication.h"
 #include "Platform/qt/QtBackgroundQueue.h"
 #include "Platform/qt/QtLocalEventMonitor.h"
+#include "Platform/qt/QtPictureReading.h"
 #include "Platform/qt/QtRunLoop.h"
 #include "Platform/x11/X11HotKeys.h"
 #include "Platform/x11/X11PasteKeys.h"
@@ -69,6 +70,7 @@ class Composition final {
   std::unique_ptr<platform::X11PasteKeys> m_pasteKeys;
   platform::DesktopApplicationBundles m_applicationBundles;
   platform::DesktopApplicationNaming m_applicationNaming;
+  platform::QtPictureReading m_pictureReading;
   platform::DesktopBundleProvider m_bundleProvider;
   platform::QtLocalEventMonitor m_eventMonitor;
   platform::QtApplication m_application;

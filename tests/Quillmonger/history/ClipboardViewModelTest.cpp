@@ -8,14 +8,12 @@
 #include <vector>
 
 #include "Quillmonger/settings/SettingsKeys.h"
-#include "tests/support/FakeApplicationNaming.h"
-#include "tests/support/FakeClipboard.h"
 #include "tests/support/FakeHotKeyService.h"
 #include "tests/support/FakeLocalEventMonitor.h"
 #include "tests/support/FakeStoreContext.h"
 #include "tests/support/InlineBackgroundQueue.h"
+#include "tests/support/ItemServices.h"
 #include "tests/support/Records.h"
-#include "tests/support/TestDefaults.h"
 #include "tests/support/VirtualRunLoop.h"
 
 namespace {
@@ -34,14 +32,14 @@ constexpr std::uint16_t deleteKey = 51;
 constexpr std::uint16_t leftOptionKey = 58;
 constexpr std::uint16_t rightOptionKey = 61;
 
-class ClipboardViewModelTest : public testing::Test {
+class ClipboardViewModelTest : public testing::Test, protected testsupport::ItemServices {
  protected:
   ClipboardViewModelTest() { settings.defaults.set(keys::historySize, 1000); }
 
   void makeViewModel() {
-    viewModel.emplace(ClipboardViewModel::Collaborators{clipboard, context, searchViewModel, searchManager, naming,
-                                                        eventMonitor, shortcuts, runLoop, notificationCenter,
-                                                        settings.defaults});
+    viewModel.emplace(ClipboardViewModel::Collaborators{
+        clipboard, context, searchViewModel, searchManager, naming, *oculetManager, pictures, testsupport::englishText,
+        eventMonitor, shortcuts, runLoop, notificationCenter, settings.defaults});
     settle();
   }
   // The records stand in the store when the view model is made, oldest first.
@@ -99,10 +97,7 @@ class ClipboardViewModelTest : public testing::Test {
 
   testsupport::VirtualRunLoop runLoop;
   testsupport::InlineBackgroundQueue queue;
-  testsupport::TestDefaults settings;
-  testsupport::FakeClipboard clipboard;
   testsupport::FakeStoreContext context;
-  testsupport::FakeApplicationNaming naming;
   testsupport::FakeLocalEventMonitor eventMonitor;
   testsupport::FakeHotKeyService hotKeys;
   foundation::NotificationCenter notificationCenter;

@@ -5,28 +5,20 @@
 #include <string>
 #include <vector>
 
-#include "tests/support/FakeApplicationNaming.h"
-#include "tests/support/FakeClipboard.h"
+#include "tests/support/ItemServices.h"
 #include "tests/support/Records.h"
-#include "tests/support/TestDefaults.h"
 
 namespace {
 
 using namespace quillmonger;
 using testsupport::makeRecord;
 
-class ItemListTest : public testing::Test {
+class ItemListTest : public testing::Test, protected testsupport::ItemServices {
  protected:
   ItemList::Item itemOf(const std::string& text) {
     return std::make_shared<ClipboardItemViewModel>(makeRecord(text), services);
   }
 
-  testsupport::FakeClipboard clipboard;
-  testsupport::TestDefaults settings;
-  testsupport::FakeApplicationNaming naming;
-  std::shared_ptr<const ClipboardItemViewModel::Services> services =
-      std::make_shared<const ClipboardItemViewModel::Services>(
-          ClipboardItemViewModel::Services{clipboard, settings.defaults, naming});
   ItemList list;
   using Items = std::vector<ItemList::Item>;
 };

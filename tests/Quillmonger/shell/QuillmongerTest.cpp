@@ -19,6 +19,7 @@
 #include "tests/support/FakeStoreContext.h"
 #include "tests/support/FakeWindow.h"
 #include "tests/support/InlineBackgroundQueue.h"
+#include "tests/support/ItemServices.h"
 #include "tests/support/Records.h"
 #include "tests/support/TestDefaults.h"
 #include "tests/support/VirtualRunLoop.h"
@@ -47,7 +48,8 @@ class QuillmongerTest : public testing::Test {
   quillmonger::Quillmonger& makeRoot() {
     root = std::make_unique<quillmonger::Quillmonger>(quillmonger::Quillmonger::Platform{
         runLoop, queue, notificationCenter, settings.defaults, shortcuts, context, pasteboard, bundleProvider, bundles,
-        naming, pasteKeys, eventMonitor, application, gettingStartedWindow, appWindow});
+        naming, pictures, testsupport::englishText, pasteKeys, eventMonitor, application, gettingStartedWindow,
+        appWindow});
     settle();
     return *root;
   }
@@ -94,6 +96,7 @@ class QuillmongerTest : public testing::Test {
   testsupport::FakeBundleProvider bundleProvider;
   testsupport::FakeApplicationBundles bundles;
   testsupport::FakeApplicationNaming naming;
+  testsupport::FakePictureReading pictures;
   testsupport::FakePasteKeys pasteKeys;
   testsupport::FakeLocalEventMonitor eventMonitor;
   testsupport::FakeApplication application{log};
