@@ -12,8 +12,8 @@ namespace quillmonger {
 
 /// The parts of the line that tells of an item's size, in the user's language and its way to write numbers.
 
-/// As files are counted: in units of 1,000, with no fraction of a kilobyte, one decimal of a megabyte and two of what is
-/// larger. `byteCount`: not negative.
+/// As files are counted: in units of 1,000, with no fraction of a kilobyte, one decimal of a megabyte and two of what
+/// is larger. `byteCount`: not negative.
 [[nodiscard]] std::string byteCountText(std::int64_t byteCount, const foundation::TextLookup& texts);
 /// "1,920×1,080".
 [[nodiscard]] std::string pictureSizeText(const PictureSize& size);

@@ -79,8 +79,6 @@ TEST(LineCount, CountsNoLineInAnEmptyTextAndNoneForAClosingLineEnd) {
   EXPECT_EQ(lineCount("a\n\nb\n"), 3U);
 }
 
-TEST(LineCount, KnowsTheLineEndsOfEverySystem) {
-  EXPECT_EQ(lineCount("a\r\nb\rc\u0085d\u2028e\u2029f"), 6U);
-}
+TEST(LineCount, KnowsTheLineEndsOfEverySystem) { EXPECT_EQ(lineCount("a\r\nb\rc\u0085d\u2028e\u2029f"), 6U); }
 
 }  // namespace
