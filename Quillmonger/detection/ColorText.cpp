@@ -4,7 +4,6 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <cstdlib>
 
 namespace quillmonger {
 
@@ -12,20 +11,25 @@ namespace {
 
 constexpr double byteMaximum = 255;
 
-bool isAscii(char byte) { return static_cast<signed char>(byte) >= 0; }
-
 std::string_view withoutBlanks(std::string_view text) {
   constexpr std::string_view blanks = " \t";
   const std::size_t start = std::min(text.find_first_not_of(blanks), text.size());
   return text.substr(start, text.find_last_not_of(blanks) + 1 - start);
 }
 
-double hexComponent(char high, char low) {
-  const char digits[] = {high, low, '\0'};
-  return static_cast<double>(std::strtoul(digits, nullptr, 16)) / byteMaximum;
+unsigned byteOf(double component) { return static_cast<unsigned>(std::ceil(component * byteMaximum)); }
+
+char* writeNumber(char* at, unsigned number) {
+  if (number >= 10) at = writeNumber(at, number / 10);
+  *at = static_cast<char>('0' + number % 10);
+  return at + 1;
 }
 
-unsigned byteOf(double component) { return static_cast<unsigned>(std::ceil(component * byteMaximum)); }
+char* writeGap(char* at) {
+  at[0] = ',';
+  at[1] = ' ';
+  return at + 2;
+}
 
 // "%.1f" in any locale, without ".0".
 std::string shortNumber(double number) {
@@ -45,31 +49,34 @@ std::optional<RGBColor> parseHex(std::string_view text) {
   } else if (digits.starts_with("0x")) {
     digits.remove_prefix(2);
   }
-  if ((digits.size() != 3 && digits.size() != 6) || !std::all_of(digits.begin(), digits.end(), isAscii)) {
-    return std::nullopt;
-  }
-  const auto component = [digits](std::size_t number) {
-    const bool isShort = digits.size() == 3;
-    const char high = digits[isShort ? number : 2 * number];
-    return hexComponent(high, isShort ? high : digits[2 * number + 1]);
-  };
-  return RGBColor(component(0), component(1), component(2));
+  const bool isShort = digits.size() == 3;
+  if (!isShort && digits.size() != 6) return std::nullopt;
+  std::array<char, 6> six{};
+  for (std::size_t i = 0; i < six.size(); ++i)
+    six[i] = digits[isShort ? i / 2 : i];
+  unsigned number = 0;
+  if (std::from_chars(six.begin(), six.end(), number, 16).ptr != six.end()) return std::nullopt;
+  return RGBColor((number >> 16U) / byteMaximum, (number >> 8U & 0xFFU) / byteMaximum, (number & 0xFFU) / byteMaximum);
 }
 
 std::string hexString(const RGBColor& color) {
   constexpr std::string_view digits = "0123456789ABCDEF";
-  std::string text = "#";
-  for (const double component : {color.red(), color.green(), color.blue()}) {
-    const unsigned byte = byteOf(component);
-    text += digits[byte / 16];
-    text += digits[byte % 16];
+  std::array<char, 7> text{'#'};
+  char* at = text.data() + 1;
+  for (const unsigned byte : {byteOf(color.red()), byteOf(color.green()), byteOf(color.blue())}) {
+    *at++ = digits[byte / 16];
+    *at++ = digits[byte % 16];
   }
-  return text;
+  return {text.data(), text.size()};
 }
 
 std::string rgbString(const RGBColor& color) {
-  return "rgb(" + std::to_string(byteOf(color.red())) + ", " + std::to_string(byteOf(color.green())) + ", " +
-         std::to_string(byteOf(color.blue())) + ")";
+  std::array<char, 18> text{'r', 'g', 'b', '('};
+  char* end = writeNumber(text.data() + 4, byteOf(color.red()));
+  end = writeNumber(writeGap(end), byteOf(color.green()));
+  end = writeNumber(writeGap(end), byteOf(color.blue()));
+  *end++ = ')';
+  return {text.data(), end};
 }
 
 std::string hslString(const HSLColor& color) {

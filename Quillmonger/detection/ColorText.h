@@ -12,7 +12,7 @@ namespace quillmonger {
 /// How colours are written. Any thread.
 
 /// The colour of three or six hexadecimal digits, after "#" or "0x" or neither, between spaces and tabs. Nothing for
-/// another length, for a prefix "0X", or for a text that isn't ASCII.
+/// another length, for a prefix "0X", and for what is no such digit.
 [[nodiscard]] std::optional<RGBColor> parseHex(std::string_view text);
 
 /// "#FF8000". What lies between two integers is rounded up, here and in `rgbString`.

@@ -31,10 +31,10 @@ bool isNumeral(UChar32 character) {
   return u_getNumericValue(character) != U_NO_NUMERIC_VALUE;
 }
 
+// White space, and what has no width: the formatters skip some of both.
 bool isBlank(UChar32 character) {
-  return isAscii(character)
-             ? character <= ' '
-             : u_isUWhiteSpace(character) != 0 || u_hasBinaryProperty(character, UCHAR_PATTERN_WHITE_SPACE);
+  if (isAscii(character)) return character <= ' ';
+  return u_isUWhiteSpace(character) != 0 || u_hasBinaryProperty(character, UCHAR_DEFAULT_IGNORABLE_CODE_POINT) != 0;
 }
 
 bool startsWithNumeral(std::string_view text) {

@@ -15,6 +15,8 @@ namespace quillmonger {
 
 namespace {
 
+constexpr std::size_t longestResult = 256U << 20U;
+
 std::int32_t breakClass(UChar32 character) { return u_getIntPropertyValue(character, UCHAR_GRAPHEME_CLUSTER_BREAK); }
 
 // A bracket with a mark on it is another character than the bracket.
@@ -45,7 +47,7 @@ bool isBetween(std::string_view text, char opening, char closing) {
 }
 
 std::optional<std::string> reformat(std::string_view json, JsonStyle style, std::string_view errorPrefix) {
-  JsonWriter writer(style);
+  JsonWriter writer(style, longestResult);
   if (const auto error = rewriteJson(json, writer)) {
     foundation::printLine(errorPrefix, *error);
     return std::nullopt;

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace quillmonger {
 
@@ -15,7 +16,8 @@ enum class JsonStyle : std::uint8_t {
 /// Writes one JSON document from what a reader hands over, in the reader's order. One thread at a time.
 class JsonWriter final {
  public:
-  explicit JsonWriter(JsonStyle style) : m_style(style) {}
+  /// `limit` is in bytes.
+  JsonWriter(JsonStyle style, std::size_t limit) : m_style(style), m_limit(limit) {}
 
   /// `bracket` is '{' or '['.
   void open(char bracket);
@@ -27,19 +29,18 @@ class JsonWriter final {
   /// A number, "true", "false" or "null", as it is to stand.
   void addWord(std::string_view text);
 
-  /// A short document that is nested deeply can have a very long pretty form: more than 256 MiB is too long.
-  [[nodiscard]] bool isTooLong() const { return m_text.size() > longest; }
+  /// Whether the limit is passed. A short document that is nested deeply can have a very long pretty form.
+  [[nodiscard]] bool isTooLong() const { return m_text.size() > m_limit; }
   /// The document. The writer is empty then.
   [[nodiscard]] std::string take() { return std::move(m_text); }
 
  private:
-  static constexpr std::size_t longest = 256U << 20U;
-
   void startValue();
   void startLine();
   void quote(std::string_view text);
 
   JsonStyle m_style;
+  std::size_t m_limit;
   std::string m_text;
   std::size_t m_depth = 0;
   bool m_isFirst = true;      // in its object or array

@@ -108,6 +108,15 @@ TEST(ColorDetectorDeathTest, StopsAtAComponentOfRgbThatIsNoIntegerOf64Bits) {
   EXPECT_DEATH(detect("rgb(\u0661,0,0)"), "component of rgb");
 }
 
+TEST(ColorDetectorTest, ReadsBackWhatItsPanelShows) {
+  for (unsigned number = 0; number < 1U << 24U; number += 997) {
+    const RGBColor color((number >> 16U) / 255.0, (number >> 8U & 0xFFU) / 255.0, (number & 0xFFU) / 255.0);
+    ASSERT_EQ(detect(hexString(color)), color) << number;
+    ASSERT_EQ(detect(rgbString(color)), color) << number;
+    ASSERT_TRUE(detect(hslString(hslFromRGB(color)))) << number;
+  }
+}
+
 // Whether `expression` matches and its groups, if it has three, are numbers up to `maxima`.
 bool isMatched(const char16_t* expression, const std::string& text, const std::vector<double>& maxima) {
   const auto units = icu::UnicodeString::fromUTF8(text);

@@ -100,14 +100,18 @@ TEST_F(DateDetectorTest, TheIsoFormIsUtcUnlessItHasAnOffset) {
   EXPECT_EQ(detect("2024-02-29T00:00:00Z"), 1709164800);
 }
 
-TEST_F(DateDetectorTest, TheIsoFormHasEveryDigitAndNoFraction) {
+TEST_F(DateDetectorTest, AFormBesideThePatternsIsNoDate) {
   for (const auto* const text :
-       {"2024-05-01T12:30:45", "2024-05-01 12:30:45Z", "2024-05-01t12:30:45Z", "2024-05-01T12:30:45z",
-        "2024-05-01T12:30Z", "2024-05-01T12:30:45.123Z", "2024-5-1T12:30:45Z", "20240501T123045Z",
-        "2024-05-01T12:30:45Z ", "2024-05-01T12:30:45ZZ", "2024-05-01T12:30:45+1", "2024-05-01T",
-        "2024-05-01T12:30:45+02:0a"}) {
+       {"2024-05-01T12:30:45", "2024-05-01 12:30:45Z", "2024-05-01t12:30:45Z", "2024-05-01T12:30Z",
+        "2024-05-01T12:30:45.123Z", "2024-5-1T12:30:45Z", "20240501T123045Z", "2024-05-01T12:30:45Z ",
+        "2024-05-01T12:30:45ZZ", "2024-05-01T", "2024-05-01T12:30:45+02:0a", "2024-5-1", "1/2/2024", "01.05.2024"}) {
     EXPECT_EQ(detect(text), std::nullopt) << text;
   }
+}
+
+TEST_F(DateDetectorTest, ThePatternReadsOffsetsThatTheIsoFormDoesNotHave) {
+  EXPECT_EQ(detect("2024-05-01T13:30:45+1"), noon2024May1);
+  EXPECT_EQ(detect("2024-05-01T13:30:45GMT+1"), noon2024May1);
 }
 
 TEST_F(DateDetectorTest, AMomentThatDoesNotExistIsNoDate) {

@@ -39,10 +39,8 @@ TEST_F(DateShapeTest, LetsEveryDateOfEveryLocaleThrough) {
   RandomText random(1);
   for (std::int32_t i = 0; i < count; ++i) {
     setLocale(locales[i].getName());
-    for (const char16_t* const pattern : {patterns[0], patterns[1]}) {
-      const std::string text = written(pattern, random.fraction());
-      EXPECT_TRUE(isShapedLikeDatePattern(text)) << locales[i].getName() << ": " << text;
-    }
+    const std::string text = written(patterns[random.below(2)], random.fraction());
+    EXPECT_TRUE(isShapedLikeDatePattern(text)) << locales[i].getName() << ": " << text;
   }
 }
 
@@ -68,7 +66,7 @@ TEST_F(DateShapeTest, NeverChangesWhatThePatternsRead) {
   for (const auto* const locale : {"en_US", "en_GB", "de_DE", "fr_FR", "ar_EG", "fa_IR", "ja_JP", "th_TH", "tr_TR",
                                    "ru_RU", "he_IL", "zh_CN@numbers=hanidec"}) {
     setLocale(locale);
-    for (int i = 0; i < 250; ++i) {
+    for (int i = 0; i < 150; ++i) {
       std::string text = written(random.oneOf(patterns), random.fraction());
       for (std::size_t changes = random.below(3); changes > 0; --changes)
         text = random.mutated(text, pieces);
@@ -77,7 +75,7 @@ TEST_F(DateShapeTest, NeverChangesWhatThePatternsRead) {
       dates += isDate ? 1 : 0;
     }
   }
-  EXPECT_GT(dates, 800);
+  EXPECT_GT(dates, 500);
 }
 
 TEST_F(DateShapeTest, SparesTheFormattersOrdinaryTexts) {

@@ -191,17 +191,17 @@ TEST(JsonResultTest, ATextThatIsNoJsonIsNotRewritten) {
             "Error compacting JSON to one line: Invalid value. At byte 3.\n");
 }
 
-TEST(JsonResultTest, ADocumentThatWouldBecomeEnormousIsNotBeautified) {
-  std::string text = std::string(deepestJson, '[') + "1";
-  for (int i = 0; i < 300'000; ++i)
-    text += ",1";  // each on a line of a kilobyte
-  text += std::string(deepestJson, ']');
-  const JsonResult result(text);
-  EXPECT_EQ(result.minified(), text);
+TEST(JsonReaderTest, StopsWhenTheResultPassesItsLimit) {
+  // Each number stands on a line of a kilobyte.
+  const std::string text = std::string(deepestJson, '[') + "1,1,1,1" + std::string(deepestJson, ']');
+  const auto errorWithin = [&text](JsonStyle style, std::size_t limit) {
+    JsonWriter writer(style, limit);
+    return rewriteJson(text, writer).value_or("none");
+  };
 
-  testing::internal::CaptureStdout();
-  EXPECT_EQ(result.beautified(), std::nullopt);
-  EXPECT_NE(testing::internal::GetCapturedStdout().find("The result would be too long."), std::string::npos);
+  EXPECT_EQ(errorWithin(JsonStyle::oneLine, text.size()), "none");
+  EXPECT_EQ(errorWithin(JsonStyle::prettyPrinted, 1'000'000), "none");
+  EXPECT_EQ(errorWithin(JsonStyle::prettyPrinted, 100'000), "The result would be too long. At byte 316.");
 }
 
 }  // namespace

@@ -18,10 +18,12 @@ class Always final : public OculetDetectable {
   std::unique_ptr<const OculetDetectionResult> detect(std::string_view /*text*/) const override {
     return std::make_unique<const Result>();
   }
+  bool mayDetect(std::string_view /*start*/) const override { return true; }
 };
 
 class Never final : public OculetDetectable {
   std::unique_ptr<const OculetDetectionResult> detect(std::string_view /*text*/) const override { return nullptr; }
+  bool mayDetect(std::string_view /*start*/) const override { return false; }
 };
 
 OculetResults detect(std::string_view text) { return makeOculetManager()->detect(text); }
