@@ -45,12 +45,14 @@ void IgnoreAppsViewModel::removeApp(const SystemApp& app) {
   auto apps = m_apps.value();
   const auto listed = std::ranges::find(apps, app);
   if (listed == apps.end()) return;
+  // A copy: the caller may have handed in a row or the selected application itself.
+  const SystemApp removed = *listed;
   const auto index = static_cast<std::size_t>(listed - apps.begin());
   apps.erase(listed);
   m_apps.set(apps);
-  if (m_selectedApp.value() == app && !apps.empty()) m_selectedApp.set(apps[std::min(index, apps.size() - 1)]);
+  if (m_selectedApp.value() == removed && !apps.empty()) m_selectedApp.set(apps[std::min(index, apps.size() - 1)]);
   auto stored = m_ignoredApps.apps();
-  const auto entry = std::ranges::find(stored, app);
+  const auto entry = std::ranges::find(stored, removed);
   if (entry == stored.end()) return;
   stored.erase(entry);
   store(stored);

@@ -177,6 +177,15 @@ TEST_F(IgnoreAppsViewModelTest, LeavesTheSelectionAloneWhenAnotherRowIsRemoved) 
   EXPECT_EQ(stored(), Strings{urlOf("editor")});
 }
 
+TEST_F(IgnoreAppsViewModelTest, RemovesTheSelectedApplicationWhenItIsHandedThatItself) {
+  modelOf({"mail", "editor"});
+  model().selectedApp().set(app("editor"));
+
+  model().removeApp(*model().selectedApp().value());
+
+  EXPECT_EQ(stored(), Strings{urlOf("mail")});
+}
+
 TEST_F(IgnoreAppsViewModelTest, RemovesNothingThatIsNotListed) {
   modelOf({"mail"});
 
