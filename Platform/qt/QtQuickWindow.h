@@ -29,6 +29,7 @@ class QtQuickWindow final : public quillmonger::Window {
   };
   struct Description {
     Kind kind = Kind::palette;
+    /// Empty: as large as the content wants to be.
     QSize size;
     QString title;
     /// Asked once, when the tree is loaded. The objects that it names outlive the window.
@@ -57,6 +58,7 @@ class QtQuickWindow final : public quillmonger::Window {
  private:
   class View;
   void applyKind();
+  void applySize();
 
   Description m_description;
   quillmonger::WindowSystem& m_windowSystem;
