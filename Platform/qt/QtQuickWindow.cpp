@@ -57,7 +57,7 @@ void QtQuickWindow::prepare() {
   m_view->setInitialProperties(content.initialProperties);
   m_view->setSource(content.source);
   if (m_view->rootObject() == nullptr) foundation::stopProcess("A window's content could not be loaded.");
-  applySize();
+  followSize();
   m_view->create();
   // Painting once while hidden loads fonts and pictures, which the first show would wait for.
   m_view->grabWindow();
@@ -75,12 +75,19 @@ void QtQuickWindow::applyKind() {
   m_view->setColor(Qt::transparent);
 }
 
-void QtQuickWindow::applySize() {
-  QSize size = m_description.size;
-  if (size.isEmpty()) {
-    const QQuickItem& content = *m_view->rootObject();
-    size = QSizeF(content.implicitWidth(), content.implicitHeight()).toSize();
-  }
+// What the content wants is known when it has been laid out, and can change.
+void QtQuickWindow::followSize() {
+  const QQuickItem* content = m_view->rootObject();
+  const auto apply = [this, content] {
+    const QSizeF wanted(content->implicitWidth(), content->implicitHeight());
+    applySize(m_description.size.isEmpty() ? wanted.toSize() : m_description.size);
+  };
+  apply();
+  QObject::connect(content, &QQuickItem::implicitWidthChanged, m_view.get(), apply);
+  QObject::connect(content, &QQuickItem::implicitHeightChanged, m_view.get(), apply);
+}
+
+void QtQuickWindow::applySize(const QSize& size) {
   m_view->resize(size);
   if (m_description.kind != Kind::dialog) return;
   m_view->setMinimumSize(size);

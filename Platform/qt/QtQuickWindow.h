@@ -58,7 +58,8 @@ class QtQuickWindow final : public quillmonger::Window {
  private:
   class View;
   void applyKind();
-  void applySize();
+  void followSize();
+  void applySize(const QSize& size);
 
   Description m_description;
   quillmonger::WindowSystem& m_windowSystem;

@@ -23,7 +23,7 @@ int AppPickerModel::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant AppPickerModel::data(const QModelIndex& index, int role) const {
-  if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid)) return {};
+  if (!index.isValid() || index.row() >= rowCount()) return {};
   const auto& application = *m_applications.at(static_cast<std::size_t>(index.row()));
   switch (role) {
     case nameRole:

@@ -26,7 +26,7 @@ Item {
     Accessible.onPressAction: picker.select(index)
 
     Rectangle {
-        anchors { fill: parent; leftMargin: 4; rightMargin: 4 }
+        anchors { fill: parent; leftMargin: 8; rightMargin: 8 }
         visible: row.isSelected
         radius: row.theme.rowRadius
         antialiasing: true
@@ -35,7 +35,7 @@ Item {
 
     ApplicationIcon {
         id: icon
-        anchors { left: parent.left; leftMargin: 12; verticalCenter: parent.verticalCenter }
+        anchors { left: parent.left; leftMargin: 16; verticalCenter: parent.verticalCenter }
         path: row.path
         size: row.theme.iconSize
     }

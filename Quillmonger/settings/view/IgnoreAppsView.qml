@@ -10,15 +10,15 @@ Rectangle {
     required property ContextMenu menu
     required property Theme theme
 
-    height: list.height + bar.height + 1
+    height: keyboard.height + bar.height + 1
     radius: theme.fieldRadius
     antialiasing: true
     color: theme.field
     border { width: 1; color: theme.border }
 
     Text {
-        anchors { centerIn: list }
-        width: list.width - 40
+        anchors { centerIn: keyboard }
+        width: keyboard.width - 40
         visible: list.count === 0
         wrapMode: Text.Wrap
         horizontalAlignment: Text.AlignHCenter
@@ -28,41 +28,48 @@ Rectangle {
         text: qsTrId("settings_ignore_apps_empty")
     }
 
-    ListView {
-        id: list
+    // Has the keyboard instead of the list, which would hand it on to its rows.
+    Item {
+        id: keyboard
         objectName: "IgnoredAppsList"
-        // Keys that stay with this list in every window.
+        // Keys that stay with this control in every window.
         readonly property var ownKeys: [Qt.Key_Up, Qt.Key_Down]
         anchors { left: parent.left; right: parent.right; top: parent.top; leftMargin: 1; rightMargin: 1 }
         height: 200
-        topMargin: 4
-        bottomMargin: 4
-        clip: true
         activeFocusOnTab: true
-        boundsBehavior: Flickable.StopAtBounds
-        keyNavigationEnabled: false
-        highlightFollowsCurrentItem: false
-        currentIndex: view.apps.selectedRow
-        model: view.apps
         Accessible.role: Accessible.List
         Accessible.name: qsTrId("settings_ignore_apps_title")
         Accessible.focusable: true
         Keys.onUpPressed: view.apps.select(Math.max(view.apps.selectedRow - 1, 0))
-        Keys.onDownPressed: view.apps.select(Math.min(view.apps.selectedRow + 1, count - 1))
+        Keys.onDownPressed: view.apps.select(Math.min(view.apps.selectedRow + 1, list.count - 1))
         Keys.onDeletePressed: view.apps.remove(view.apps.selectedRow)
-        Keys.onMenuPressed: if (currentItem) currentItem.showMenu(currentItem.width / 2, currentItem.height)
-        onCurrentIndexChanged: positionViewAtIndex(currentIndex, ListView.Contain)
+        Keys.onMenuPressed: if (list.currentItem) list.currentItem.showMenu(width / 2, list.currentItem.height)
 
-        delegate: IgnoredAppRow {
-            width: ListView.view.width
-            apps: view.apps
-            menu: view.menu
-            theme: view.theme
+        ListView {
+            id: list
+            anchors.fill: parent
+            topMargin: 4
+            bottomMargin: 4
+            clip: true
+            boundsBehavior: Flickable.StopAtBounds
+            keyNavigationEnabled: false
+            highlightFollowsCurrentItem: false
+            currentIndex: view.apps.selectedRow
+            model: view.apps
+            onCurrentIndexChanged: positionViewAtIndex(currentIndex, ListView.Contain)
+
+            delegate: IgnoredAppRow {
+                width: ListView.view.width
+                apps: view.apps
+                focusHolder: keyboard
+                menu: view.menu
+                theme: view.theme
+            }
         }
     }
 
     ScrollIndicator {
-        anchors { top: list.top; bottom: list.bottom; right: list.right; margins: 2; topMargin: 6; bottomMargin: 6 }
+        anchors { top: keyboard.top; bottom: keyboard.bottom; right: keyboard.right; margins: 2; topMargin: 6; bottomMargin: 6 }
         visible: list.visibleArea.heightRatio < 1
         list: list
         theme: view.theme
@@ -70,7 +77,7 @@ Rectangle {
 
     Rectangle {
         id: separator
-        anchors { left: parent.left; right: parent.right; top: list.bottom; leftMargin: 1; rightMargin: 1 }
+        anchors { left: parent.left; right: parent.right; top: keyboard.bottom; leftMargin: 1; rightMargin: 1 }
         height: 1
         color: view.theme.separator
     }
@@ -104,7 +111,7 @@ Rectangle {
     FocusRing {
         anchors.margins: 0
         radius: view.radius
-        control: list
+        control: keyboard
         theme: view.theme
     }
 }

@@ -11,18 +11,20 @@ Item {
     required property string path
 
     required property IgnoredAppsModel apps
+    // The item that has the keyboard while the list has it.
+    required property Item focusHolder
     required property ContextMenu menu
     required property Theme theme
 
     readonly property bool isSelected: apps.selectedRow === index
-    readonly property bool isHighlighted: isSelected && ListView.view.activeFocus
+    readonly property bool isHighlighted: isSelected && focusHolder.activeFocus
 
     // `x` and `y` of this row.
     function showMenu(x: real, y: real) { row.menu.open(row, x, y, () => row.apps.remove(row.index)) }
 
     function takeFocus() {
         row.apps.select(row.index)
-        row.ListView.view.forceActiveFocus(Qt.MouseFocusReason)
+        row.focusHolder.forceActiveFocus(Qt.MouseFocusReason)
     }
 
     objectName: "IgnoredApp"
@@ -34,7 +36,7 @@ Item {
     Accessible.onPressAction: apps.select(index)
 
     Rectangle {
-        anchors { fill: parent; leftMargin: 4; rightMargin: 4 }
+        anchors { fill: parent; leftMargin: 8; rightMargin: 8 }
         visible: row.isSelected
         radius: row.theme.rowRadius
         antialiasing: true
@@ -43,7 +45,7 @@ Item {
 
     ApplicationIcon {
         id: icon
-        anchors { left: parent.left; leftMargin: 12; verticalCenter: parent.verticalCenter }
+        anchors { left: parent.left; leftMargin: 16; verticalCenter: parent.verticalCenter }
         path: row.path
         size: 24
     }

@@ -16,7 +16,7 @@ int IgnoredAppsModel::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant IgnoredAppsModel::data(const QModelIndex& index, int role) const {
-  if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid)) return {};
+  if (!isRow(index.row())) return {};
   const SystemApp& app = m_apps.at(static_cast<std::size_t>(index.row()));
   if (role == nameRole) return QString::fromStdString(shownName(app));
   if (role == pathRole) return QString::fromStdString(app.relativePath);

@@ -19,6 +19,8 @@ Item {
         anchors { left: parent.left; right: control.left; rightMargin: 16 }
         spacing: 3
 
+        TapHandler { onTapped: setting.toggled() }
+
         Text {
             width: parent.width
             wrapMode: Text.Wrap
@@ -42,8 +44,6 @@ Item {
             Accessible.ignored: true
         }
     }
-
-    TapHandler { onTapped: setting.toggled() }
 
     Switch {
         id: control

@@ -121,7 +121,9 @@ TEST_F(QtQuickWindowTest, GoesWhenTheApplicationHides) {
 TEST_F(QtQuickWindowTest, IsAsLargeAsItsContentWantsToBeWhenNoSizeIsGiven) {
   QTemporaryFile file(QStringLiteral("XXXXXX.qml"));
   file.open();
-  file.write("import QtQuick\nItem { implicitWidth: 480; implicitHeight: width / 2 }");
+  file.write(
+      "import QtQuick\nItem { implicitWidth: 480; implicitHeight: rows.height; Column { id: rows; Item { width: 9; "
+      "height: 240 } } }");
   file.close();
   QtQuickWindow window({QtQuickWindow::Kind::dialog, QSize(), QStringLiteral("Title"),
                         [&file] {
