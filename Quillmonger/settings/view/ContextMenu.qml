@@ -48,7 +48,8 @@ FocusScope {
     MouseArea {
         anchors.fill: parent
         acceptedButtons: Qt.AllButtons
-        onPressed: menu.close()
+        // Not at the press, which would then reach what lies below.
+        onReleased: menu.close()
     }
 
     Rectangle {
