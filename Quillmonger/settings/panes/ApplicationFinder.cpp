@@ -52,6 +52,17 @@ void sortByName(std::vector<InstalledApplication>& applications) {
   applications = std::move(sorted);
 }
 
+bool isAscii(char byte) { return static_cast<unsigned char>(byte) < 0x80; }
+
+// The usual case, a hundred times faster than what other letters need.
+std::string lowered(std::string_view asciiText) {
+  std::string text(asciiText);
+  for (char& letter : text) {
+    if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
+  }
+  return text;
+}
+
 enum Rank : std::size_t { nameBegins, wordBegins, nameHolds, restHolds, rankCount };
 
 }  // namespace
@@ -67,6 +78,7 @@ class ApplicationFinder::Spelling final {
   }
 
   [[nodiscard]] std::string of(std::string_view text) const {
+    if (std::ranges::all_of(text, isAscii)) return lowered(text);
     icu::UnicodeString spelled = wide(text);
     if (m_transliterator) m_transliterator->transliterate(spelled);
     spelled.foldCase();

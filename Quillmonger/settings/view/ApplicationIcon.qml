@@ -10,5 +10,6 @@ Image {
     height: size
     sourceSize: Qt.size(size * Screen.devicePixelRatio, size * Screen.devicePixelRatio)
     source: "image://appicon/" + encodeURIComponent(path)
+    fillMode: Image.PreserveAspectFit
     Accessible.ignored: true
 }
