@@ -75,12 +75,15 @@ void QtQuickWindow::applyKind() {
   m_view->setColor(Qt::transparent);
 }
 
-// What the content wants is known when it has been laid out, and can change.
 void QtQuickWindow::followSize() {
+  if (!m_description.size.isEmpty()) {
+    applySize(m_description.size);
+    return;
+  }
+  // What the content wants is known when it has been laid out, and can change.
   const QQuickItem* content = m_view->rootObject();
   const auto apply = [this, content] {
-    const QSizeF wanted(content->implicitWidth(), content->implicitHeight());
-    applySize(m_description.size.isEmpty() ? wanted.toSize() : m_description.size);
+    applySize(QSizeF(content->implicitWidth(), content->implicitHeight()).toSize());
   };
   apply();
   QObject::connect(content, &QQuickItem::implicitWidthChanged, m_view.get(), apply);
