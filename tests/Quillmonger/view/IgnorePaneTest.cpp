@@ -4,6 +4,7 @@
 #include <QAccessible>
 #include <QGuiApplication>
 #include <QTest>
+#include <ostream>
 
 #include "Quillmonger/settings/SettingsKeys.h"
 #include "tests/gallery/SettingsStage.h"
@@ -208,6 +209,8 @@ struct Spoken {
   QAccessible::Role role;
   const char* name;
 };
+void PrintTo(const Spoken& spoken, std::ostream* out) { *out << spoken.item; }
+
 class IgnorePaneSays : public IgnorePane, public testing::WithParamInterface<Spoken> {};
 
 TEST_P(IgnorePaneSays, WhatAControlIs) {
