@@ -4,6 +4,7 @@
 #include <unicode/utf8.h>
 
 #include <cstdint>
+#include <cstring>
 
 namespace foundation {
 
@@ -29,6 +30,18 @@ bool isSpace(UChar32 character) { return character == zeroWidthSpace || u_isUWhi
 
 const std::uint8_t* unsignedBytes(std::string_view text) { return reinterpret_cast<const std::uint8_t*>(text.data()); }
 
+// The first byte beyond ASCII from `at` on, or the end. Most text is ASCII, and long: many bytes at a time.
+std::size_t asciiEnd(std::string_view text, std::size_t at) {
+  std::uint64_t word = 0;
+  for (; text.size() - at >= sizeof word; at += sizeof word) {
+    std::memcpy(&word, text.data() + at, sizeof word);
+    if ((word & 0x8080808080808080U) != 0) break;
+  }
+  while (at < text.size() && static_cast<unsigned char>(text[at]) < 0x80)
+    ++at;
+  return at;
+}
+
 }  // namespace
 
 bool isValidUtf8(std::string_view text) {
@@ -36,10 +49,8 @@ bool isValidUtf8(std::string_view text) {
   const std::size_t size = text.size();
   std::size_t at = 0;
   while (at < size) {
-    if (bytes[at] < 0x80) {
-      ++at;
-      continue;
-    }
+    at = asciiEnd(text, at);
+    if (at == size) break;
     UChar32 character = 0;
     U8_NEXT(bytes, at, size, character);
     if (character < 0) return false;

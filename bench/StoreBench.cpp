@@ -1,49 +1,20 @@
 #include <benchmark/benchmark.h>
-#include <unistd.h>
 
 #include <chrono>
-#include <cstdlib>
-#include <filesystem>
-#include <iostream>
 #include <memory>
 #include <string>
 
 #include "Quillmonger/capture/PasteboardTypes.h"
 #include "Quillmonger/capture/SqliteStoreContext.h"
+#include "bench/BenchFolder.h"
 #include "bench/IdleRunLoop.h"
-
-// Where the store's folders are made says which disk is measured: TMPDIR, else the working folder.
+#include "bench/Silence.h"
 
 namespace {
 
 using quillmonger::ClipboardItem;
 using quillmonger::Payload;
 using quillmonger::SqliteStoreContext;
-
-class Folder final {
- public:
-  Folder() {
-    const char* const place = std::getenv("TMPDIR");
-    m_path = std::filesystem::path(place != nullptr ? place : ".") / ("store-bench-" + std::to_string(getpid()));
-    std::filesystem::remove_all(m_path);
-  }
-  Folder(const Folder&) = delete;
-  Folder& operator=(const Folder&) = delete;
-  ~Folder() { std::filesystem::remove_all(m_path); }
-  [[nodiscard]] const std::filesystem::path& path() const { return m_path; }
-
- private:
-  std::filesystem::path m_path;
-};
-
-/// Keeps the farewell lines of thousands of records out of the figures.
-class Silence final {
- public:
-  Silence() { std::cout.setstate(std::ios::failbit); }
-  Silence(const Silence&) = delete;
-  Silence& operator=(const Silence&) = delete;
-  ~Silence() { std::cout.clear(); }
-};
 
 Payload textPayload(std::int64_t number, std::size_t size) {
   std::string text = std::to_string(number) + " ";
@@ -66,7 +37,7 @@ void digest(benchmark::State& state) {
 
 void insertAndSave(benchmark::State& state) {
   const Silence silence;
-  const Folder folder;
+  const BenchFolder folder;
   IdleRunLoop loop;
   auto store = std::move(SqliteStoreContext::open(folder.path(), loop).value());
   std::int64_t number = 0;
@@ -79,7 +50,7 @@ void insertAndSave(benchmark::State& state) {
 
 void openAndFetchAll(benchmark::State& state) {
   const Silence silence;
-  const Folder folder;
+  const BenchFolder folder;
   IdleRunLoop loop;
   {
     auto store = std::move(SqliteStoreContext::open(folder.path(), loop).value());

@@ -7,8 +7,8 @@
 
 namespace platform {
 
-/// The entries of a text/uri-list (RFC 2483), in its order and without its comments, and those alone that are URLs.
-/// Any thread.
+/// The entries of a text/uri-list (RFC 2483), in its order and without its comments, and those alone that have a
+/// scheme; not every owner escapes the rest of a URL as it should. Any thread.
 struct UriList {
   struct Entry {
     std::string url;

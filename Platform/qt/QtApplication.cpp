@@ -5,9 +5,24 @@
 #include <QAbstractNativeEventFilter>
 #include <QGuiApplication>
 #include <QWindow>
+#include <algorithm>
 #include <utility>
 
+#include "Platform/qt/QtQuickWindow.h"
+
 namespace platform {
+
+namespace {
+
+// Between two windows of ours, the one that goes and the one that comes, the keyboard is nobody's for a moment.
+bool isFrontAwaited() {
+  const auto windows = QGuiApplication::topLevelWindows();
+  return std::ranges::any_of(windows, [](const QWindow* window) {
+    return window->isVisible() && window->property(awaitsFrontProperty).toBool();
+  });
+}
+
+}  // namespace
 
 // While a chord or a menu holds the keyboard, X11 says that the focus went out and in again, though it stays where it
 // is. Qt would take that for the loss of the front.
@@ -30,7 +45,7 @@ QtApplication::QtApplication(quillmonger::WindowSystem& windowSystem)
   QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, &m_connections,
                    [this](Qt::ApplicationState state) {
                      const bool wasActive = std::exchange(m_isActive, state == Qt::ApplicationActive);
-                     if (wasActive && !m_isActive) m_didResignActive.send(0);
+                     if (wasActive && !m_isActive && !isFrontAwaited()) m_didResignActive.send(0);
                    });
 }
 

@@ -27,6 +27,7 @@ class QtQuickWindow::View final : public QQuickView {
   // The window manager must know the window before it is asked for the front.
   void showInFront() {
     m_comesToFront = !isExposed();
+    if (!isActive()) setProperty(awaitsFrontProperty, true);
     show();
     raise();
     if (isExposed()) m_windowSystem.bringToFront(winId());
@@ -36,6 +37,16 @@ class QtQuickWindow::View final : public QQuickView {
   void exposeEvent(QExposeEvent* event) override {
     QQuickView::exposeEvent(event);
     if (isExposed() && std::exchange(m_comesToFront, false)) m_windowSystem.bringToFront(winId());
+  }
+
+  void focusInEvent(QFocusEvent* event) override {
+    setProperty(awaitsFrontProperty, false);
+    QQuickView::focusInEvent(event);
+  }
+
+  void hideEvent(QHideEvent* event) override {
+    setProperty(awaitsFrontProperty, false);
+    QQuickView::hideEvent(event);
   }
 
   quillmonger::WindowSystem& m_windowSystem;

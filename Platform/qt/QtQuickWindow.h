@@ -15,6 +15,9 @@ class QQuickView;
 
 namespace platform {
 
+/// The property of a `QWindow` that has asked for the front and hasn't come there yet.
+inline constexpr auto awaitsFrontProperty = "awaitsFront";
+
 /// A window whose content is a Qt Quick view tree. The tree is loaded when it is first needed, or earlier by
 /// `prepare`, and stays painted while the window is hidden, so that showing it is instant.
 class QtQuickWindow final : public quillmonger::Window {

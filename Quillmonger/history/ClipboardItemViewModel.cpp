@@ -8,6 +8,7 @@
 #include "Foundation/Output.h"
 #include "Foundation/Text.h"
 #include "Quillmonger/capture/PasteboardTypes.h"
+#include "Quillmonger/history/ItemDetails.h"
 #include "Quillmonger/settings/SettingsKeys.h"
 
 namespace quillmonger {
@@ -15,6 +16,11 @@ namespace quillmonger {
 namespace {
 
 using RemoveFormatting = ClipboardManaging::RemoveFormatting;
+
+constexpr PictureSize imageBox{332, 445};
+// The results of longer texts, in bytes, are forgotten with their last user, since they may hold the text.
+constexpr std::size_t longestKept = 1U << 14U;
+constexpr std::size_t headLength = 256;
 
 // No location is longer; what is longer needn't be read.
 constexpr std::size_t longestUrl = 1U << 16U;
@@ -46,6 +52,16 @@ std::string trimmedCopy(std::string_view text) {
 
 }  // namespace
 
+struct ClipboardItemViewModel::Answers {
+  std::optional<bool> isImage;
+  std::optional<bool> isFileURL;
+  std::optional<std::optional<ScaledPicture>> image;
+  std::optional<std::optional<RGBColor>> imageColor;
+  std::optional<bool> hasOculetResults;
+  std::weak_ptr<const OculetResults> oculetResults;
+  std::shared_ptr<const OculetResults> keptResults;
+};
+
 ClipboardItemViewModel::ClipboardItemViewModel(std::shared_ptr<ClipboardItem> item,
                                                std::shared_ptr<const Services> services)
     : m_item(std::move(item)), m_services(std::move(services)) {}
@@ -62,6 +78,20 @@ SharedText ClipboardItemViewModel::text() const {
   return {bytes, foundation::trimmed(*bytes)};
 }
 
+std::optional<SharedText> ClipboardItemViewModel::shortText(std::size_t limit) const {
+  if (!fileURL()) {
+    const auto data = m_item->data(pasteboardtype::NSPasteboardTypeString);
+    if (data && data->size() > limit) return std::nullopt;
+  }
+  auto whole = text();
+  return whole.view.size() <= limit ? std::optional(std::move(whole)) : std::nullopt;
+}
+
+std::string ClipboardItemViewModel::appKey() const {
+  const auto& url = m_item->sourceAppBundleURL();
+  return url ? url->absoluteString() : std::string();
+}
+
 RowText ClipboardItemViewModel::rowText(std::size_t limit) const {
   if (auto location = decodedFileURL()) return {*std::move(location), {}};
   const auto data = m_item->data(pasteboardtype::NSPasteboardTypeString);
@@ -76,18 +106,91 @@ std::optional<std::string> ClipboardItemViewModel::appName() const {
   return url ? m_services->applicationNaming.displayName(*url) : std::nullopt;
 }
 
+std::string ClipboardItemViewModel::details() const {
+  auto line = byteCountText(m_item->dataSize(), m_services->texts) + " • ";
+  const auto picture = m_item->image();
+  const auto size = picture ? m_services->pictureReading.size(*picture) : std::nullopt;
+  return line + (size ? pictureSizeText(*size) : lineCountText(lineCount(text().view), m_services->texts));
+}
+
+ClipboardItemViewModel::Answers& ClipboardItemViewModel::answers() const {
+  if (!m_answers) m_answers = std::make_unique<Answers>();
+  return *m_answers;
+}
+
 bool ClipboardItemViewModel::isImage() const {
-  if (!m_isImage) {
+  auto& answer = answers().isImage;
+  if (!answer) {
     const auto isImageType = [](const auto& entry) { return imageTypes().contains(entry.first); };
     const auto& data = m_item->data();
-    m_isImage = !m_item->isExcelTable() && std::any_of(data.begin(), data.end(), isImageType);
+    answer = !m_item->isExcelTable() && std::any_of(data.begin(), data.end(), isImageType);
   }
-  return *m_isImage;
+  return *answer;
+}
+
+std::optional<ScaledPicture> ClipboardItemViewModel::image() const {
+  auto& answer = answers().image;
+  if (!answer) answer = scaledPicture();
+  return *answer;
+}
+
+std::optional<ScaledPicture> ClipboardItemViewModel::scaledPicture() const {
+  const auto picture = m_item->image();
+  const auto size = picture ? m_services->pictureReading.size(*picture) : std::nullopt;
+  if (!size) return std::nullopt;
+  const double scaleX = imageBox.width / size->width;
+  const double scaleY = imageBox.height / size->height;
+  if (scaleX < scaleY) return ScaledPicture{*picture, {imageBox.width, size->height * scaleX}};
+  return ScaledPicture{*picture, {size->width * scaleY, imageBox.height}};
+}
+
+std::optional<RGBColor> ClipboardItemViewModel::imageColor() const {
+  auto& answer = answers().imageColor;
+  if (!answer) answer = averageColor();
+  return *answer;
+}
+
+std::optional<RGBColor> ClipboardItemViewModel::averageColor() const {
+  constexpr int edge = 20;
+  const auto picture = image();
+  const auto pixels = picture ? m_services->pictureReading.pixels(picture->picture, edge) : std::nullopt;
+  if (!pixels) return std::nullopt;
+  const auto average = [&pixels](unsigned shift) {
+    std::uint32_t sum = 0;
+    for (const std::uint32_t pixel : *pixels)
+      sum += (pixel >> shift) & 0xFFU;
+    return static_cast<double>(sum) / (edge * edge) / 255;
+  };
+  return RGBColor(average(16), average(8), average(0));
 }
 
 bool ClipboardItemViewModel::isFileURL() const {
-  if (!m_isFileURL) m_isFileURL = fileURL().has_value();
-  return *m_isFileURL;
+  auto& answer = answers().isFileURL;
+  if (!answer) answer = fileURL().has_value();
+  return *answer;
+}
+
+std::shared_ptr<const OculetResults> ClipboardItemViewModel::oculetResults() const {
+  if (auto known = answers().oculetResults.lock()) return known;
+  auto results = detect();
+  answers().oculetResults = results;
+  answers().hasOculetResults = !results->empty();
+  if (shortText(longestKept)) answers().keptResults = results;
+  return results;
+}
+
+bool ClipboardItemViewModel::hasOculetResults() const {
+  auto& answer = answers().hasOculetResults;
+  return answer ? *answer : !oculetResults()->empty();
+}
+
+std::shared_ptr<const OculetResults> ClipboardItemViewModel::detect() const {
+  const bool isLong = !shortText(longestKept);
+  // Of a long text the start is enough to tell that nothing is in it, as in nearly all.
+  if (isLong && !m_services->oculetManager.mayDetect(rowText(headLength).head)) {
+    return std::make_shared<const OculetResults>();
+  }
+  return std::make_shared<const OculetResults>(m_services->oculetManager.detect(text().view));
 }
 
 // Reads nothing that the object keeps, since the search comes here beside the main thread.
@@ -113,3 +216,10 @@ void ClipboardItemViewModel::paste(Invert invert) {
 }
 
 }  // namespace quillmonger
+
+std::size_t std::hash<quillmonger::ClipboardItemViewModel>::operator()(
+    const quillmonger::ClipboardItemViewModel& item) const {
+  const auto first = std::hash<std::string>()(item.id().toString());
+  const auto second = std::hash<std::string_view>()(item.text().view);
+  return first ^ (second + 0x9E3779B97F4A7C15U + (first << 6U) + (first >> 2U));
+}

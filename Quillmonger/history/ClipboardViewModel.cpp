@@ -20,8 +20,9 @@ ClipboardViewModel::ClipboardViewModel(const Collaborators& collaborators)
     : BaseEventManager(collaborators.eventMonitoring),
       m_with(collaborators),
       m_itemServices(std::make_shared<const ClipboardItemViewModel::Services>(ClipboardItemViewModel::Services{
-          collaborators.clipboard, collaborators.defaults, collaborators.applicationNaming})),
-      m_filteredItems(std::make_shared<const std::vector<Row>>()) {
+          collaborators.clipboard, collaborators.defaults, collaborators.applicationNaming, collaborators.oculetManager,
+          collaborators.pictureReading, collaborators.texts})),
+      m_filteredItems(std::make_shared<const SearchResultList<ClipboardItemViewModel>>()) {
   bindPipelines();
   bindQuickPaste();
   fetchItems();
@@ -117,7 +118,7 @@ void ClipboardViewModel::search() {
   // Whoever holds an earlier one has lost its turn.
   const auto latest = std::make_shared<const bool>(true);
   m_latestSearch = latest;
-  m_with.searchManager.search(m_items.snapshot(), m_searchTerm,
+  m_with.searchManager.search(m_items.items(), m_searchTerm,
                               [this, isLatest = std::weak_ptr(latest)](const Rows& rows) {
                                 if (!isLatest.expired()) applySearchResults(rows);
                               });
@@ -125,7 +126,7 @@ void ClipboardViewModel::search() {
 
 void ClipboardViewModel::applySearchResults(const Rows& rows) {
   m_filteredItems.set(rows);
-  const auto first = rows->empty() ? nullptr : rows->front().item;
+  const auto first = itemAt(0);
   if (m_selectedItem.value() != first) m_selectedItem.set(first);
 }
 
@@ -133,11 +134,8 @@ void ClipboardViewModel::cleanUpHistory() {
   const auto limit = std::max<std::int64_t>(0, m_with.defaults[keys::historySize]);
   const auto count = static_cast<std::int64_t>(m_items.count());
   if (count <= limit) return;
-  const auto& items = m_items.items();
-  for (auto index = static_cast<std::size_t>(limit); index < items.size(); ++index) {
-    m_with.context.remove(items[index]->item());
-  }
-  m_items.removeLast(static_cast<std::size_t>(count - limit));
+  for (const auto& item : m_items.removeLast(static_cast<std::size_t>(count - limit)))
+    m_with.context.remove(item->item());
   search();
 }
 
@@ -192,20 +190,15 @@ void ClipboardViewModel::pasteItem(int index, Invert invert) {
 
 ClipboardViewModel::Item ClipboardViewModel::itemAt(std::size_t row) const {
   const auto& rows = *m_filteredItems.value();
-  return row < rows.size() ? rows[row].item : nullptr;
+  return row < rows.size() ? rows.at(row).item->shared_from_this() : nullptr;
 }
 
 std::optional<std::size_t> ClipboardViewModel::rowOf(const Item& item) const {
-  const auto& rows = *m_filteredItems.value();
-  const auto found = std::find_if(rows.begin(), rows.end(), [&item](const Row& row) { return row.item == item; });
-  if (found == rows.end()) return std::nullopt;
-  return static_cast<std::size_t>(found - rows.begin());
+  return m_filteredItems.value()->rowOf(item.get());
 }
 
 void ClipboardViewModel::removeRow(std::size_t row) {
-  auto rows = std::make_shared<std::vector<Row>>(*m_filteredItems.value());
-  rows->erase(rows->begin() + static_cast<std::ptrdiff_t>(row));
-  m_filteredItems.set(std::move(rows));
+  m_filteredItems.set(m_filteredItems.value()->without(row, row + 1));
 }
 
 bool ClipboardViewModel::handleAction(Action action, const KeyEvent& event) {

@@ -37,6 +37,9 @@ class ClipboardViewModel final : public BaseEventManager {
     SearchViewModel& searchViewModel;
     SearchManager<ClipboardItemViewModel>& searchManager;
     const ApplicationNaming& applicationNaming;
+    const OculetManager& oculetManager;
+    const PictureReading& pictureReading;
+    foundation::TextLookup texts;
     LocalEventMonitoring& eventMonitoring;
     keyboardshortcuts::KeyboardShortcuts& shortcuts;
     foundation::RunLoop& runLoop;
@@ -55,7 +58,7 @@ class ClipboardViewModel final : public BaseEventManager {
   /// Whether the left Option key is down, as far as the program's key events tell.
   [[nodiscard]] foundation::Published<bool>& isOptionPressed() { return m_isOptionPressed; }
   /// The whole history, whatever the search shows. In no order to rely on.
-  [[nodiscard]] const std::vector<Item>& items() const { return m_items.items(); }
+  [[nodiscard]] const SearchItems<ClipboardItemViewModel>& items() const { return m_items.items(); }
 
   /// The term of the next search. Setting it starts none.
   void setSearchTerm(std::string term) { m_searchTerm = std::move(term); }

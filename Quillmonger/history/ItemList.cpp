@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <functional>
-#include <iterator>
 #include <string>
 
 namespace quillmonger {
@@ -10,8 +9,6 @@ namespace quillmonger {
 namespace {
 
 std::size_t digestHash(const ClipboardItem& record) { return std::hash<std::string>()(record.hashedData()); }
-
-bool isSame(const ItemList::Item& item, const ClipboardItemViewModel& other) { return item.get() == &other; }
 
 }  // namespace
 
@@ -22,48 +19,36 @@ ItemList::Item ItemList::firstEqualTo(const ClipboardItem& record) const {
     if (*candidate->second->item() == record) equal.push_back(candidate->second);
   }
   if (equal.empty()) return nullptr;
-  const auto found = std::find_if(m_items->begin(), m_items->end(), [&equal](const Item& item) {
-    return std::find(equal.begin(), equal.end(), item.get()) != equal.end();
-  });
-  return *found;
+  return m_items.findIf(
+      [&equal](const Item& item) { return std::find(equal.begin(), equal.end(), item.get()) != equal.end(); });
 }
 
 bool ItemList::contains(const ClipboardItemViewModel& item) const {
-  return std::any_of(m_items->begin(), m_items->end(), [&item](const Item& other) { return isSame(other, item); });
+  return m_items.findIf([&item](const Item& other) { return other.get() == &item; }) != nullptr;
 }
 
 void ItemList::insertFirst(const std::vector<Item>& batch) {
-  auto& items = writableItems();
-  items.insert(items.begin(), batch.begin(), batch.end());
+  m_items.insertFirst(batch);
   for (const auto& item : batch)
     m_byDigest.emplace(digestHash(*item->item()), item.get());
 }
 
 void ItemList::remove(const ClipboardItemViewModel& item) {
-  auto& items = writableItems();
-  const auto found =
-      std::find_if(items.begin(), items.end(), [&item](const Item& other) { return isSame(other, item); });
-  if (found == items.end()) return;
+  // The list may hold the item's last reference.
   forget(item);
-  items.erase(found);
+  m_items.remove(item);
 }
 
-void ItemList::removeLast(std::size_t count) {
-  auto& items = writableItems();
-  const auto start = items.end() - static_cast<std::ptrdiff_t>(count);
-  for (auto item = start; item != items.end(); ++item)
-    forget(**item);
-  items.erase(start, items.end());
+std::vector<ItemList::Item> ItemList::removeLast(std::size_t count) {
+  auto removed = m_items.removeLast(count);
+  for (const auto& item : removed)
+    forget(*item);
+  return removed;
 }
 
 void ItemList::removeAll() {
-  m_items = std::make_shared<Items>();
+  m_items = {};
   m_byDigest.clear();
-}
-
-ItemList::Items& ItemList::writableItems() {
-  if (m_items.use_count() > 1) m_items = std::make_shared<Items>(*m_items);
-  return *m_items;
 }
 
 void ItemList::forget(const ClipboardItemViewModel& item) {

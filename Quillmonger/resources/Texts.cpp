@@ -15,9 +15,9 @@ struct Entry {
 };
 
 constexpr auto entries = std::to_array<Entry>({
+    {"%lld lines", "{0, plural, one {# line} other {# lines}}", "How many lines a text has, as an ICU message."},
     {"accessibility_app_icon", "Copied from %1", "Read aloud for the source application's icon; %1 is its name."},
-    {"accessibility_contains_data", "Recognised content",
-     "Read aloud for the mark of a text with a date, colour or JSON."},
+    {"accessibility_color", "Colour %1", "Read aloud for the sample of a colour that a text names; %1 is #RRGGBB."},
     {"accessibility_file", "File", "Read aloud for the mark of a file."},
     {"accessibility_history", "Clipboard history", "Read aloud for the list of copies."},
     {"accessibility_picture", "Picture", "Read aloud for the mark of a picture, and for a picture's row."},
@@ -28,6 +28,13 @@ constexpr auto entries = std::to_array<Entry>({
      "Shown for a search without a hit; %1 is its term."},
     {"app_picker_search", "Search applications", "Placeholder of the field that searches the list."},
     {"app_picker_title", "Choose an Application", "Title of the window that lists the installed applications."},
+    {"byte_count_bytes", "{0, plural, one {# byte} other {# bytes}}", "A size below 1,000 bytes, as an ICU message."},
+    {"byte_count_gigabytes", "{0} GB", "A size in gigabytes, as an ICU message."},
+    {"byte_count_kilobytes", "{0} KB", "A size in kilobytes, as an ICU message."},
+    {"byte_count_megabytes", "{0} MB", "A size in megabytes, as an ICU message."},
+    {"byte_count_petabytes", "{0} PB", "A size in petabytes, as an ICU message."},
+    {"byte_count_terabytes", "{0} TB", "A size in terabytes, as an ICU message."},
+    {"byte_count_zero", "Zero KB", "The size of nothing."},
     {"cancel_string", "Cancel", "The word 'cancel'."},
     {"delete_string", "Delete", "The word 'delete'."},
     {"empty_space_text", "Nothing copied yet. Your next copy shows up here.",
@@ -48,6 +55,7 @@ constexpr auto entries = std::to_array<Entry>({
     {"getting_started_search_details", "Any word of a copy brings it up.", "Guide: below how to search."},
     {"getting_started_text", "Everything that you copy stays at hand.", "Guide: one sentence below the title."},
     {"getting_started_title", "Welcome to Quillmonger", "Guide: title."},
+    {"oculet_indicator", "Recognised content", "Read aloud for the mark of a text with a date, colour or JSON."},
     {"paste_with_formatting_text", "Paste with formatting",
      "Indicator that the paste will be made with text formatting."},
     {"paste_without_formatting_text", "Paste without formatting",

@@ -39,6 +39,9 @@ QtObject {
     readonly property int symbolSize: 20
     readonly property int indicatorSize: 14
 
+    readonly property int colorBarWidth: 36
+    readonly property int colorBarHeight: 18
+
     readonly property int searchFontSize: 20
     readonly property int titleFontSize: 26
     readonly property int noteFontSize: 18

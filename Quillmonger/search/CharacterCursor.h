@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "Quillmonger/search/SearchResult.h"
+#include "Quillmonger/search/CharacterRange.h"
 
 namespace quillmonger {
 

@@ -9,6 +9,8 @@
 
 #include <cstdint>
 
+#include "Quillmonger/search/CharacterCursor.h"
+
 namespace quillmonger {
 
 namespace {
@@ -39,8 +41,7 @@ FoldedText::FoldedText(std::string_view text, Case letterCase) {
   const auto* composer = icu::Normalizer2::getNFCInstance(status);
   std::string composed;
   if (U_SUCCESS(status) && !composer->isNormalizedUTF8(piece(text), status)) {
-    icu::StringByteSink<std::string> sink(&composed);
-    composer->normalizeUTF8(0, piece(text), sink, &m_composing, status);
+    compose(*composer, text, composed, status);
     text = composed;
   }
   if (letterCase == Case::folded) {
@@ -51,6 +52,29 @@ FoldedText::FoldedText(std::string_view text, Case letterCase) {
     m_folded = text;
   }
   if (U_FAILURE(status)) m_folded.clear();
+}
+
+// Character by character, since nothing composes across two: ICU would report what it composes in longer stretches,
+// which an occurrence can begin or end in.
+void FoldedText::compose(const icu::Normalizer2& composer, std::string_view text, std::string& composed,
+                         UErrorCode& status) {
+  CharacterCursor cursor(text);
+  std::string character;
+  for (std::size_t start = 0, end = 0; start < text.size(); start = end) {
+    do {
+      ++end;
+    } while (!cursor.advanceTo(end));
+    character.clear();
+    icu::StringByteSink<std::string> sink(&character);
+    composer.normalizeUTF8(0, piece(text.substr(start, end - start)), sink, nullptr, status);
+    const auto length = static_cast<std::int32_t>(end - start);
+    if (character == text.substr(start, end - start)) {
+      m_composing.addUnchanged(length);
+    } else {
+      m_composing.addReplace(length, static_cast<std::int32_t>(character.size()));
+    }
+    composed += character;
+  }
 }
 
 std::optional<std::size_t> FoldedText::sourceOffset(std::size_t offset) const {

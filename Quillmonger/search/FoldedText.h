@@ -1,6 +1,7 @@
 #pragma once
 
 #include <unicode/edits.h>
+#include <unicode/normalizer2.h>
 
 #include <cstddef>
 #include <optional>
@@ -23,6 +24,8 @@ class FoldedText final {
   [[nodiscard]] std::optional<std::size_t> sourceOffset(std::size_t offset) const;
 
  private:
+  void compose(const icu::Normalizer2& composer, std::string_view text, std::string& composed, UErrorCode& status);
+
   std::string m_folded;
   icu::Edits m_composing;
   icu::Edits m_folding;

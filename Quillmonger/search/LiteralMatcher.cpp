@@ -1,8 +1,8 @@
 #include "Quillmonger/search/LiteralMatcher.h"
 
-#include <algorithm>
 #include <array>
 
+#include "Quillmonger/search/AsciiText.h"
 #include "Quillmonger/search/CharacterCursor.h"
 #include "Quillmonger/search/FoldedText.h"
 
@@ -13,14 +13,6 @@ namespace {
 constexpr std::size_t nowhere = std::string_view::npos;
 // More than ICU can count in one piece.
 constexpr std::size_t longestText = 1U << 30U;
-
-constexpr char lowered(char letter) {
-  return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
-
-bool isAscii(std::string_view text) {
-  return std::none_of(text.begin(), text.end(), [](char byte) { return static_cast<signed char>(byte) < 0; });
-}
 
 // The characters beyond ASCII that fold to ASCII or decompose to it, such as the Kelvin sign and "ß".
 constexpr std::array<std::string_view, 13> asciiInDisguise{"\u00DF", "\u017F", "\u037E", "\u1E9E", "\u1FEF",
@@ -52,6 +44,7 @@ std::optional<CharacterRange> wholeCharacters(CharacterCursor& cursor, std::size
 LiteralMatcher::LiteralMatcher(std::string_view term, const SearchOptions& options)
     : m_isCaseSensitive(options.isCaseSensitive),
       m_term(FoldedText(term, m_isCaseSensitive ? FoldedText::Case::kept : FoldedText::Case::folded).text()),
+      m_foldedTerm(FoldedText(term, FoldedText::Case::folded).text()),
       m_isAsciiTerm(isAscii(m_term)) {
   // "i" is the small form of a letter beyond ASCII there.
   if (!m_isCaseSensitive && hasTurkicCase() && m_term.find('i') != std::string::npos) m_isAsciiTerm = false;
@@ -59,20 +52,11 @@ LiteralMatcher::LiteralMatcher(std::string_view term, const SearchOptions& optio
 
 std::optional<CharacterRange> LiteralMatcher::find(std::string_view text) {
   if (text.empty() || text.size() > longestText) return std::nullopt;
-  return m_isAsciiTerm && !hidesAscii(text) ? findInAscii(text) : findInFolded(text);
+  return m_isAsciiTerm && (isAscii(text) || !hidesAscii(text)) ? findInAscii(text) : findInFolded(text);
 }
 
 std::size_t LiteralMatcher::findAscii(std::string_view text, std::size_t from) const {
-  if (m_isCaseSensitive) return text.find(m_term, from);
-  if (text.size() < m_term.size()) return nowhere;
-  const std::size_t last = text.size() - m_term.size();
-  for (std::size_t at = from; at <= last; ++at) {
-    if (lowered(text[at]) != m_term.front()) continue;
-    const bool isHit = std::equal(m_term.begin(), m_term.end(), text.begin() + static_cast<std::ptrdiff_t>(at),
-                                  [](char term, char byte) { return term == lowered(byte); });
-    if (isHit) return at;
-  }
-  return nowhere;
+  return m_isCaseSensitive ? findBytes(text, m_term, from) : findLowered(text, m_term, from);
 }
 
 std::optional<CharacterRange> LiteralMatcher::findInAscii(std::string_view text) const {

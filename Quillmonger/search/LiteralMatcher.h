@@ -16,6 +16,8 @@ class LiteralMatcher final : public TextMatcher {
   LiteralMatcher(std::string_view term, const SearchOptions& options);
 
   [[nodiscard]] std::optional<CharacterRange> find(std::string_view text) override;
+  [[nodiscard]] std::string_view foldedTerm() const override { return m_foldedTerm; }
+  [[nodiscard]] bool isAnyCaseFound() const override { return !m_isCaseSensitive; }
 
  private:
   [[nodiscard]] std::size_t findAscii(std::string_view text, std::size_t from) const;
@@ -24,6 +26,7 @@ class LiteralMatcher final : public TextMatcher {
 
   bool m_isCaseSensitive;
   std::string m_term;  // composed and, without case sensitivity, folded
+  std::string m_foldedTerm;
   bool m_isAsciiTerm;
 };
 

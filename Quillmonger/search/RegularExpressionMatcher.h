@@ -19,6 +19,8 @@ class RegularExpressionMatcher final : public TextMatcher {
   ~RegularExpressionMatcher() override;
 
   [[nodiscard]] std::optional<CharacterRange> find(std::string_view text) override;
+  [[nodiscard]] std::string_view foldedTerm() const override { return {}; }
+  [[nodiscard]] bool isAnyCaseFound() const override { return false; }
 
  private:
   struct Engine;

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <functional>
-#include <iterator>
 #include <memory>
 #include <string>
 #include <tuple>
@@ -16,6 +15,7 @@
 #include "Quillmonger/search/SearchSettings.h"
 #include "Quillmonger/search/SearchSlices.h"
 #include "Quillmonger/search/Searchable.h"
+#include "Quillmonger/search/SliceSearch.h"
 #include "Quillmonger/search/TextMatcher.h"
 
 namespace quillmonger {
@@ -36,19 +36,22 @@ class SearchManager final {
   /// begins. There is no failure, and no way to stop the work: a caller that has lost its interest drops the result.
   /// `items` and `completion` are let go of on the main thread.
   void search(SearchItems<T> items, std::string term, Completion completion) {
-    auto work = std::make_shared<Work>(
+    auto work = std::make_shared<const Work>(
         Work{std::move(items), std::move(term), searchOptions(m_defaults), std::move(completion), m_isAlive});
     m_queue.async([work = std::move(work), &queue = m_queue, &runLoop = m_runLoop]() mutable {
       SearchResults<T> results;
       if (!work->isManagerAlive.expired()) results = found(*work, queue);
-      runLoop.post([work = std::move(work), results = std::move(results)] {
+      runLoop.post([work, results = std::move(results)] {
         if (results) work->completion(results);
       });
+      // The list as a whole is looked for when it appears, or has changed: time to prepare it for the next term.
+      if (isInert(work->term, work->options)) prepare(work->items);
+      runLoop.post([work = std::move(work)] {});
     });
   }
 
  private:
-  using Found = std::vector<SearchResult<T>>;
+  using Found = typename SliceSearch<T>::Found;
   struct Work {
     SearchItems<T> items;
     std::string term;
@@ -57,61 +60,32 @@ class SearchManager final {
     std::weak_ptr<const bool> isManagerAlive;
   };
 
+  static void prepare(const SearchItems<T>& items) {
+    for (const auto& chunk : items.chunks())
+      static_cast<void>(chunk->prepared());
+  }
+
   static SearchResults<T> found(const Work& work, foundation::BackgroundQueue& queue) {
-    const SearchSlices slices(work.items->size(), queue.activeProcessorCount());
-    std::vector<Found> parts(slices.count());
+    const SearchSlices slices(work.items.size(), queue.activeProcessorCount());
+    std::vector<std::vector<Found>> parts(slices.count());
     queue.concurrentPerform(slices.count(), [&](std::size_t slice) {
-      parts[slice] = foundIn(work, slices.start(slice), slices.end(slice));
+      parts[slice] = SliceSearch<T>(work.term, work.options).find(work.items, slices.start(slice), slices.end(slice));
     });
-    Found results = std::move(parts.front());
-    for (std::size_t index = 1; index < parts.size(); ++index) {
-      std::move(parts[index].begin(), parts[index].end(), std::back_inserter(results));
-    }
-    return inOrder(results);
+    auto all = std::move(parts.front());
+    for (std::size_t index = 1; index < parts.size(); ++index)
+      all.insert(all.end(), parts[index].begin(), parts[index].end());
+    return std::make_shared<const SearchResultList<T>>(inOrder(std::move(all)), work.items);
   }
 
-  // The dates are read once for each result, and not at each comparison: a long history lies all over the memory.
-  static SearchResults<T> inOrder(Found& results) {
-    struct Place {
-      double score;
-      foundation::Date date;
-      std::size_t index;
-    };
-    std::vector<Place> places;
-    places.reserve(results.size());
-    for (const auto& result : results)
-      places.push_back({result.score, result.item->creationDate(), places.size()});
-    std::sort(places.begin(), places.end(), [](const Place& first, const Place& second) {
-      return std::tuple(first.score, second.date, first.index) < std::tuple(second.score, first.date, second.index);
+  static std::vector<SearchResult<T>> inOrder(std::vector<Found> found) {
+    std::stable_sort(found.begin(), found.end(), [](const Found& first, const Found& second) {
+      return std::tuple(first.result.score, second.date) < std::tuple(second.result.score, first.date);
     });
-    auto ordered = std::make_shared<Found>();
-    ordered->reserve(results.size());
-    for (const auto& place : places)
-      ordered->push_back(std::move(results[place.index]));
-    return ordered;
-  }
-
-  static Found foundIn(const Work& work, std::size_t start, std::size_t end) {
-    const bool isEachFound = isInert(work.term, work.options);
-    const auto matcher = isEachFound ? nullptr : makeTextMatcher(work.term, work.options);
-    Found results;
-    if (isEachFound) results.reserve(end - start);
-    for (std::size_t at = start; at < end; ++at) {
-      const auto& item = (*work.items)[at];
-      if (isEachFound) {
-        results.push_back({item, 0.0, std::nullopt});
-      } else if (const auto match = matcher->find(item->text().view)) {
-        results.push_back({item, 0.0, match});
-      } else if (work.options.includesAppName && isAppNameFound(*item, *matcher)) {
-        results.push_back({item, 1.0, std::nullopt});
-      }
-    }
-    return results;
-  }
-
-  static bool isAppNameFound(const T& item, TextMatcher& matcher) {
-    const auto name = item.appName();
-    return name && matcher.find(*name);
+    std::vector<SearchResult<T>> rows;
+    rows.reserve(found.size());
+    for (const auto& each : found)
+      rows.push_back(each.result);
+    return rows;
   }
 
   foundation::BackgroundQueue& m_queue;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <string>
@@ -26,9 +27,13 @@ class Searchable {
 
   /// Computed anew at each call. Valid UTF-8.
   [[nodiscard]] virtual SharedText text() const = 0;
+  /// `text`, if it has at most `limit` bytes; a longer one is not read for this.
+  [[nodiscard]] virtual std::optional<SharedText> shortText(std::size_t limit) const = 0;
+  /// The same for items of the same application.
+  [[nodiscard]] virtual std::string appKey() const = 0;
   /// The display name of the application that it came from.
   [[nodiscard]] virtual std::optional<std::string> appName() const = 0;
-  /// Newer ones stand first.
+  /// Newer ones stand first. Never changes.
   [[nodiscard]] virtual foundation::Date creationDate() const = 0;
 };
 

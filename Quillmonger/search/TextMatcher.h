@@ -4,7 +4,7 @@
 #include <optional>
 #include <string_view>
 
-#include "Quillmonger/search/SearchResult.h"
+#include "Quillmonger/search/CharacterRange.h"
 
 namespace quillmonger {
 
@@ -25,6 +25,11 @@ class TextMatcher {
 
   /// The first occurrence in `text`, which is valid UTF-8. An empty one counts as one character wide.
   [[nodiscard]] virtual std::optional<CharacterRange> find(std::string_view text) = 0;
+  /// What the folded form (`FoldedText`) of every text that `find` finds something in contains; empty when no such
+  /// thing is known.
+  [[nodiscard]] virtual std::string_view foldedTerm() const = 0;
+  /// Whether a text of ASCII letters that contains `foldedTerm` in any case is sure to contain the term.
+  [[nodiscard]] virtual bool isAnyCaseFound() const = 0;
 };
 
 /// Whether every item matches the term, with nothing to highlight: an empty term, or an expression of nothing but "^"

@@ -11,7 +11,7 @@ constexpr auto errorCode = " ERR-001";
 
 }  // namespace
 
-DialogManager::DialogManager(Alert& alert, TextLookup texts, UrlOpener openUrl, std::string supportAddress)
+DialogManager::DialogManager(Alert& alert, foundation::TextLookup texts, UrlOpener openUrl, std::string supportAddress)
     : m_alert(alert),
       m_texts(std::move(texts)),
       m_openUrl(std::move(openUrl)),

@@ -2,23 +2,21 @@
 
 #include <functional>
 #include <string>
-#include <string_view>
 
+#include "Foundation/TextLookup.h"
 #include "Foundation/Url.h"
 #include "Quillmonger/capture/StoreFailureDialog.h"
 #include "Quillmonger/shell/Alert.h"
 
 namespace quillmonger {
 
-/// Gives the text of a key in the user's language.
-using TextLookup = std::function<std::string(std::string_view key)>;
 /// Opens a URL with whatever the user opens such URLs with.
 using UrlOpener = std::function<void(const foundation::Url& url)>;
 
 /// Shows the alert for the failure that the program can't live with. Main thread.
 class DialogManager final : public StoreFailureDialog {
  public:
-  DialogManager(Alert& alert, TextLookup texts, UrlOpener openUrl, std::string supportAddress);
+  DialogManager(Alert& alert, foundation::TextLookup texts, UrlOpener openUrl, std::string supportAddress);
 
   /// Returns when the user has answered.
   void showGenericErrorAlert() override;
@@ -27,7 +25,7 @@ class DialogManager final : public StoreFailureDialog {
   void writeToSupport();
 
   Alert& m_alert;
-  TextLookup m_texts;
+  foundation::TextLookup m_texts;
   UrlOpener m_openUrl;
   std::string m_supportAddress;
 };

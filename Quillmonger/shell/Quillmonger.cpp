@@ -50,6 +50,7 @@ void openUrl(const std::string& text) {
 
 Quillmonger::Quillmonger(const Platform& platform)
     : m_platform(platform),
+      m_oculetManager(makeOculetManager()),
       m_pasteInjection(m_permissionsManager, platform.pasteKeys, platform.runLoop, platform.notificationCenter,
                        platform.defaults),
       m_ignoredApps(platform.defaults, platform.applicationBundles),
@@ -58,8 +59,9 @@ Quillmonger::Quillmonger(const Platform& platform)
       m_searchViewModel(platform.runLoop, platform.defaults),
       m_searchManager(platform.backgroundQueue, platform.runLoop, platform.defaults),
       m_clipboardViewModel({m_clipboardManager, platform.context, m_searchViewModel, m_searchManager,
-                            platform.applicationNaming, platform.eventMonitoring, platform.shortcuts, platform.runLoop,
-                            platform.notificationCenter, platform.defaults}),
+                            platform.applicationNaming, *m_oculetManager, platform.pictureReading, platform.texts,
+                            platform.eventMonitoring, platform.shortcuts, platform.runLoop, platform.notificationCenter,
+                            platform.defaults}),
       m_windowManager({m_clipboardViewModel, m_searchViewModel, platform.gettingStartedWindow, platform.appWindow,
                        platform.settingsWindow, platform.application, platform.eventMonitoring, platform.runLoop,
                        platform.notificationCenter}) {

@@ -48,6 +48,8 @@ class Quillmonger final {
     BundleProviding& bundleProvider;
     const ApplicationBundles& applicationBundles;
     const ApplicationNaming& applicationNaming;
+    const PictureReading& pictureReading;
+    foundation::TextLookup texts;
     PasteKeyPosting& pasteKeys;
     LocalEventMonitoring& eventMonitoring;
     Application& application;
@@ -96,6 +98,7 @@ class Quillmonger final {
   void pasteSucceeded();
 
   Platform m_platform;
+  std::shared_ptr<const OculetManager> m_oculetManager;
   PermissionsManager m_permissionsManager;
   PasteInjection m_pasteInjection;
   IgnoredApps m_ignoredApps;

@@ -72,10 +72,10 @@ void searchFor(ViewStage& stage, const std::string& term, std::size_t lower, std
   const auto items = ordinaryHistory(stage);
   stage.show(items);
   stage.searchTerm().set(term);
-  stage.showRows({{items[12], 0.0, quillmonger::CharacterRange{lower, upper}},
-                  {items[0], 0.0, quillmonger::CharacterRange{8, 12}},
-                  {items[6], 0.0, quillmonger::CharacterRange{5, 9}},
-                  {items[2], 1.0, std::nullopt}});
+  stage.showRows({{items[12].get(), 0.0, quillmonger::CharacterRange{lower, upper}},
+                  {items[0].get(), 0.0, quillmonger::CharacterRange{8, 12}},
+                  {items[6].get(), 0.0, quillmonger::CharacterRange{5, 9}},
+                  {items[2].get(), 1.0, std::nullopt}});
 }
 
 const std::vector<Scene>& scenes() {

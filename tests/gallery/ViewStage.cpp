@@ -22,21 +22,18 @@ void collect(QQuickItem* item, const QString& identifier, std::vector<QQuickItem
     collect(child, identifier, found);
 }
 
-ViewStage::ViewStage()
-    : m_services(std::make_shared<const ClipboardItemViewModel::Services>(
-          ClipboardItemViewModel::Services{m_clipboard, m_defaults.defaults, m_naming})),
-      m_appearance(m_defaults.defaults),
-      m_settings(m_defaults.defaults) {
+ViewStage::ViewStage() : m_appearance(m_itemServices.settings.defaults), m_settings(m_itemServices.settings.defaults) {
   quillmonger::resourcesview::registerTypes(m_engine);
   quillmonger::searchview::registerTypes();
   quillmonger::historyview::registerTypes();
   m_engine.addImageProvider(QStringLiteral("appicon"),
                             new quillmonger::ImageCache([](const std::string& path) { return path + ".svg"; }));
   m_adapter = std::make_unique<quillmonger::ClipboardViewAdapter>(quillmonger::ClipboardViewAdapter::History{
-      m_rows, m_selectedItem, m_isOptionPressed, [this] { return m_items.empty(); },
+      m_rows, m_selectedItem, m_isOptionPressed, [this] { return m_shownItems.empty(); },
       [this](const Item& item) { m_selectedItem.set(item); }});
   m_searchBar = std::make_unique<quillmonger::SearchBarModel>(
-      m_searchTerm, m_defaults.defaults, [this] { return m_clipboardText; }, [this] { ++m_previewToggleCount; });
+      m_searchTerm, m_itemServices.settings.defaults, [this] { return m_clipboardText; },
+      [this] { ++m_previewToggleCount; });
 }
 
 ViewStage::~ViewStage() = default;
@@ -45,30 +42,31 @@ std::optional<foundation::Url> ViewStage::application(const std::string& name) {
   if (name.empty()) return std::nullopt;
   const std::string path = (m_folder.path() / (name + ".desktop")).string();
   const auto url = foundation::Url::fromFilePath(path);
-  m_naming.setDisplayName(url, name);
+  m_itemServices.naming.setDisplayName(url, name);
   drawTileIcon(path + ".svg", name);
   return url;
 }
 
 ViewStage::Item ViewStage::makeItem(std::string bytes, std::string_view type, const std::string& appName) {
   return std::make_shared<ClipboardItemViewModel>(
-      makeRecord(std::move(bytes), {}, type, {std::nullopt, application(appName)}), m_services);
+      makeRecord(std::move(bytes), {}, type, {std::nullopt, application(appName)}), m_itemServices.services);
 }
 
 void ViewStage::show(const std::vector<Item>& items) {
-  m_items = items;
+  m_shownItems = items;
   std::vector<Row> rows;
   for (const Item& item : items)
-    rows.push_back({item, 0.0, std::nullopt});
+    rows.push_back({item.get(), 0.0, std::nullopt});
   showRows(std::move(rows));
 }
 
 void ViewStage::showRows(std::vector<Row> rows) {
-  m_rows.set(std::make_shared<const std::vector<Row>>(std::move(rows)));
-  m_selectedItem.set(m_rows.value()->empty() ? nullptr : m_rows.value()->front().item);
+  m_rows.set(std::make_shared<const quillmonger::SearchResultList<ClipboardItemViewModel>>(
+      std::move(rows), quillmonger::SearchItems(m_shownItems)));
+  m_selectedItem.set(m_rows.value()->empty() ? nullptr : m_rows.value()->front().item->shared_from_this());
 }
 
-void ViewStage::select(std::size_t row) { m_selectedItem.set(m_rows.value()->at(row).item); }
+void ViewStage::select(std::size_t row) { m_selectedItem.set(m_rows.value()->at(row).item->shared_from_this()); }
 
 QQuickView& ViewStage::view() {
   if (!m_view) {

@@ -14,10 +14,8 @@
 #include "Quillmonger/history/view/HistorySettings.h"
 #include "Quillmonger/resources/Appearance.h"
 #include "Quillmonger/search/view/SearchBarModel.h"
-#include "tests/support/FakeApplicationNaming.h"
-#include "tests/support/FakeClipboard.h"
+#include "tests/support/ItemServices.h"
 #include "tests/support/TemporaryFolder.h"
-#include "tests/support/TestDefaults.h"
 
 namespace testsupport {
 
@@ -41,10 +39,10 @@ class ViewStage final {
   void showRows(std::vector<Row> rows);
   void select(std::size_t row);
 
-  defaults::Defaults& defaults() { return m_defaults.defaults; }
+  defaults::Defaults& defaults() { return m_itemServices.settings.defaults; }
   foundation::Published<std::string>& searchTerm() { return m_searchTerm; }
   foundation::Published<bool>& isOptionPressed() { return m_isOptionPressed; }
-  FakeClipboard& clipboard() { return m_clipboard; }
+  FakeClipboard& clipboard() { return m_itemServices.clipboard; }
   void setClipboardText(std::string text) { m_clipboardText = std::move(text); }
   [[nodiscard]] int previewToggleCount() const { return m_previewToggleCount; }
   quillmonger::ClipboardViewAdapter& adapter() { return *m_adapter; }
@@ -61,12 +59,10 @@ class ViewStage final {
   [[nodiscard]] std::optional<foundation::Url> application(const std::string& name);
 
   TemporaryFolder m_folder;
-  TestDefaults m_defaults;
-  FakeClipboard m_clipboard;
-  FakeApplicationNaming m_naming;
-  std::shared_ptr<const quillmonger::ClipboardItemViewModel::Services> m_services;
-  std::vector<Item> m_items;
-  foundation::Published<quillmonger::HistoryListModel::Rows> m_rows{std::make_shared<const std::vector<Row>>()};
+  ItemServices m_itemServices;
+  std::vector<Item> m_shownItems;
+  foundation::Published<quillmonger::HistoryListModel::Rows> m_rows{
+      std::make_shared<const quillmonger::SearchResultList<quillmonger::ClipboardItemViewModel>>()};
   foundation::Published<Item> m_selectedItem;
   foundation::Published<bool> m_isOptionPressed{false};
   foundation::Published<std::string> m_searchTerm;

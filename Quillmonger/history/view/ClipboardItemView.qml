@@ -11,6 +11,8 @@ Item {
     required property var attributedLine
     required property string iconPath
     required property string appName
+    required property bool hasOculetResults
+    required property var textColor
     required property bool isImage
     required property bool isFileURL
 
@@ -66,9 +68,19 @@ Item {
         anchors { right: parent.right; rightMargin: 8; verticalCenter: parent.verticalCenter }
         spacing: 5
 
+        ColorBar {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: row.settings.showColorIndicator && row.textColor !== undefined
+            sample: row.textColor !== undefined ? row.textColor : "transparent"
+            isSelected: row.isSelected
+            theme: row.theme
+        }
+
         ContentTypeIndicators {
             anchors.verticalCenter: parent.verticalCenter
-            visible: row.settings.showContentTypeIndicators && (row.isImage || row.isFileURL)
+            visible: row.settings.showContentTypeIndicators
+                     && (row.hasOculetResults || row.isImage || row.isFileURL)
+            hasOculetResults: row.hasOculetResults
             isImage: row.isImage
             isFileURL: row.isFileURL
             isSelected: row.isSelected

@@ -48,7 +48,7 @@ void ClipboardViewAdapter::updateEmptiness() {
 ClipboardViewAdapter::Item ClipboardViewAdapter::itemAt(int row) const {
   const auto& rows = *m_rows.rows();
   const bool isThere = row >= 0 && static_cast<std::size_t>(row) < rows.size();
-  return isThere ? rows[static_cast<std::size_t>(row)].item : nullptr;
+  return isThere ? rows.at(static_cast<std::size_t>(row)).item->shared_from_this() : nullptr;
 }
 
 }  // namespace quillmonger

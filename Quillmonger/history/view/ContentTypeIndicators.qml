@@ -5,6 +5,7 @@ import Quillmonger.Resources
 Row {
     id: indicators
 
+    required property bool hasOculetResults
     required property bool isImage
     required property bool isFileURL
     required property bool isSelected
@@ -13,6 +14,16 @@ Row {
     readonly property color color: isSelected ? theme.selectedPrimary : theme.accentColor
 
     spacing: 4
+
+    Symbol {
+        objectName: "OculetIndicator"
+        visible: indicators.hasOculetResults
+        name: "wand.and.stars"
+        color: indicators.color
+        size: indicators.theme.indicatorSize
+        Accessible.role: Accessible.Graphic
+        Accessible.name: qsTrId("oculet_indicator")
+    }
 
     Symbol {
         objectName: "PhotoIndicator"

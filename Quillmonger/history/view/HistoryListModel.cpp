@@ -1,5 +1,6 @@
 #include "Quillmonger/history/view/HistoryListModel.h"
 
+#include <QColor>
 #include <algorithm>
 
 #include "Quillmonger/history/view/AttributedLine.h"
@@ -14,13 +15,19 @@ constexpr std::size_t rowTextLimit = 1024;
 // Above this many rows that come and go, a view that starts anew is faster, and as much as an eye can follow.
 constexpr std::ptrdiff_t gradualLimit = 16;
 
-using Row = SearchResult<ClipboardItemViewModel>;
-
-bool isSameItem(const Row& first, const Row& second) { return first.item == second.item; }
-
 QString iconPath(const ClipboardItemViewModel& item) {
   const auto& url = item.item()->sourceAppBundleURL();
   return url ? QString::fromStdString(url->filePath().value_or(std::string())) : QString();
+}
+
+QVariant textColor(const ClipboardItemViewModel& item) {
+  if (!item.hasOculetResults()) return {};
+  const auto results = item.oculetResults();
+  const auto* const color = colorResult(*results);
+  if (color == nullptr) return {};
+  const auto rgb = colorComponents(*color, ColorSpace::genericRGB);
+  return QColor::fromRgbF(static_cast<float>(rgb.red()), static_cast<float>(rgb.green()),
+                          static_cast<float>(rgb.blue()));
 }
 
 }  // namespace
@@ -31,7 +38,7 @@ int HistoryListModel::rowCount(const QModelIndex& parent) const {
 
 QVariant HistoryListModel::data(const QModelIndex& index, int role) const {
   if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid)) return {};
-  const Row& row = m_rows->at(static_cast<std::size_t>(index.row()));
+  const auto row = m_rows->at(static_cast<std::size_t>(index.row()));
   switch (role) {
     case lineRole:
       return plainText(rowLine(row.item->rowText(rowTextLimit), row.match));
@@ -41,6 +48,10 @@ QVariant HistoryListModel::data(const QModelIndex& index, int role) const {
       return iconPath(*row.item);
     case appNameRole:
       return QString::fromStdString(row.item->appName().value_or(std::string()));
+    case hasOculetResultsRole:
+      return row.item->hasOculetResults();
+    case textColorRole:
+      return textColor(*row.item);
     case isImageRole:
       return row.item->isImage();
     case isFileURLRole:
@@ -51,19 +62,26 @@ QVariant HistoryListModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> HistoryListModel::roleNames() const {
-  return {{lineRole, "line"},         {attributedLineRole, "attributedLine"},
-          {iconPathRole, "iconPath"}, {appNameRole, "appName"},
-          {isImageRole, "isImage"},   {isFileURLRole, "isFileURL"}};
+  return {{lineRole, "line"},
+          {attributedLineRole, "attributedLine"},
+          {iconPathRole, "iconPath"},
+          {appNameRole, "appName"},
+          {hasOculetResultsRole, "hasOculetResults"},
+          {textColorRole, "textColor"},
+          {isImageRole, "isImage"},
+          {isFileURLRole, "isFileURL"}};
 }
 
 // What stays at both ends is left alone; what lies between goes, and what lies between in the new rows comes.
 HistoryListModel::Change HistoryListModel::setRows(const Rows& rows) {
   const Rows before = m_rows;
-  const auto starts = std::ranges::mismatch(*before, *rows, isSameItem);
-  const auto first = static_cast<int>(starts.in1 - before->begin());
-  auto oldEnd = before->end();
-  auto newEnd = rows->end();
-  while (oldEnd != starts.in1 && newEnd != starts.in2 && isSameItem(*(oldEnd - 1), *(newEnd - 1))) {
+  const auto& oldItems = before->found();
+  const auto& newItems = rows->found();
+  const auto starts = std::ranges::mismatch(oldItems, newItems);
+  const auto first = static_cast<int>(starts.in1 - oldItems.begin());
+  auto oldEnd = oldItems.end();
+  auto newEnd = newItems.end();
+  while (oldEnd != starts.in1 && newEnd != starts.in2 && *(oldEnd - 1) == *(newEnd - 1)) {
     --oldEnd;
     --newEnd;
   }
@@ -77,9 +95,7 @@ HistoryListModel::Change HistoryListModel::setRows(const Rows& rows) {
   }
   if (removed > 0) {
     beginRemoveRows({}, first, first + static_cast<int>(removed) - 1);
-    auto rest = std::make_shared<std::vector<Row>>(before->begin(), starts.in1);
-    rest->insert(rest->end(), oldEnd, before->end());
-    m_rows = std::move(rest);
+    m_rows = before->without(static_cast<std::size_t>(first), static_cast<std::size_t>(first + removed));
     endRemoveRows();
   }
   const Rows between = m_rows;
@@ -92,10 +108,11 @@ HistoryListModel::Change HistoryListModel::setRows(const Rows& rows) {
 
 // A longer term leaves most rows where they are, with another hit.
 void HistoryListModel::updateMatches(const Rows& before) {
+  if (!before->mayHaveMatches() && !m_rows->mayHaveMatches()) return;
   const auto added = m_rows->size() - before->size();
   std::size_t shift = 0;
   for (std::size_t row = 0; row < before->size(); ++row) {
-    if (shift == 0 && added > 0 && !isSameItem(before->at(row), m_rows->at(row))) shift = added;
+    if (shift == 0 && added > 0 && before->found()[row] != m_rows->found()[row]) shift = added;
     if (before->at(row).match == m_rows->at(row + shift).match) continue;
     const QModelIndex changed = index(static_cast<int>(row + shift));
     emit dataChanged(changed, changed, {lineRole, attributedLineRole});
@@ -103,8 +120,8 @@ void HistoryListModel::updateMatches(const Rows& before) {
 }
 
 int HistoryListModel::rowOf(const std::shared_ptr<ClipboardItemViewModel>& item) const {
-  const auto found = std::ranges::find(*m_rows, item, &Row::item);
-  return item == nullptr || found == m_rows->end() ? -1 : static_cast<int>(found - m_rows->begin());
+  const auto row = m_rows->rowOf(item.get());
+  return row ? static_cast<int>(*row) : -1;
 }
 
 }  // namespace quillmonger

@@ -22,6 +22,8 @@ class HistoryListModel : public QAbstractListModel {
     attributedLineRole,       ///< the same with the hit, a `RowLine`
     iconPathRole,             ///< the source application's desktop entry; empty when there is none
     appNameRole,              ///< the source application's name
+    hasOculetResultsRole,     ///< whether anything was recognised in the text
+    textColorRole,            ///< the colour that the text names; undefined when it names none
     isImageRole,
     isFileURLRole
   };
@@ -41,7 +43,7 @@ class HistoryListModel : public QAbstractListModel {
  private:
   void updateMatches(const Rows& before);
 
-  Rows m_rows = std::make_shared<const std::vector<SearchResult<ClipboardItemViewModel>>>();
+  Rows m_rows = std::make_shared<const SearchResultList<ClipboardItemViewModel>>();
 };
 
 }  // namespace quillmonger

@@ -24,6 +24,7 @@ HistorySettings::HistorySettings(defaults::Defaults& defaults) {
   follow(defaults, keys::showSourceAppIcon, m_showSourceAppIcon);
   follow(defaults, keys::showKeyboardShortcuts, m_showKeyboardShortcuts);
   follow(defaults, keys::showContentTypeIndicators, m_showContentTypeIndicators);
+  follow(defaults, keys::showColorIndicator, m_showColorIndicator);
   follow(defaults, keys::showScrollbar, m_showScrollbar);
   follow(defaults, keys::alwaysPasteWithoutFormatting, m_alwaysPasteWithoutFormatting);
   m_subscriptions.push_back(defaults.updates<quillmonger::TruncationMode>(

@@ -16,6 +16,7 @@ class HistorySettings final : public QObject {
   Q_PROPERTY(bool showSourceAppIcon READ showSourceAppIcon NOTIFY changed)
   Q_PROPERTY(bool showKeyboardShortcuts READ showKeyboardShortcuts NOTIFY changed)
   Q_PROPERTY(bool showContentTypeIndicators READ showContentTypeIndicators NOTIFY changed)
+  Q_PROPERTY(bool showColorIndicator READ showColorIndicator NOTIFY changed)
   Q_PROPERTY(bool showScrollbar READ showScrollbar NOTIFY changed)
   Q_PROPERTY(bool alwaysPasteWithoutFormatting READ alwaysPasteWithoutFormatting NOTIFY changed)
   Q_PROPERTY(TruncationMode truncationMode READ truncationMode NOTIFY changed)
@@ -31,6 +32,7 @@ class HistorySettings final : public QObject {
   [[nodiscard]] bool showSourceAppIcon() const { return m_showSourceAppIcon; }
   [[nodiscard]] bool showKeyboardShortcuts() const { return m_showKeyboardShortcuts; }
   [[nodiscard]] bool showContentTypeIndicators() const { return m_showContentTypeIndicators; }
+  [[nodiscard]] bool showColorIndicator() const { return m_showColorIndicator; }
   [[nodiscard]] bool showScrollbar() const { return m_showScrollbar; }
   [[nodiscard]] bool alwaysPasteWithoutFormatting() const { return m_alwaysPasteWithoutFormatting; }
   [[nodiscard]] TruncationMode truncationMode() const { return m_truncationMode; }
@@ -44,6 +46,7 @@ class HistorySettings final : public QObject {
   bool m_showSourceAppIcon = false;
   bool m_showKeyboardShortcuts = false;
   bool m_showContentTypeIndicators = false;
+  bool m_showColorIndicator = false;
   bool m_showScrollbar = false;
   bool m_alwaysPasteWithoutFormatting = false;
   TruncationMode m_truncationMode = Middle;

@@ -14,14 +14,14 @@ namespace {
 
 constexpr int usualEdge = 32;
 constexpr int largestEdge = 512;
-// A picture file of another program is read within these bounds only.
-constexpr int allocationLimitInMegabytes = 64;
+// A picture file of another program is read within this bound only.
+constexpr qint64 mostPixels = qint64{4096} * 4096;
 
 QImage pictureFile(const QString& path, int edge) {
-  QImageReader::setAllocationLimit(allocationLimitInMegabytes);
   QImageReader reader(path);
   const QSize size = reader.size();
-  if (size.isValid()) reader.setScaledSize(size.scaled(edge, edge, Qt::KeepAspectRatio));
+  if (size.isEmpty() || qint64{size.width()} * size.height() > mostPixels) return {};
+  reader.setScaledSize(size.scaled(edge, edge, Qt::KeepAspectRatio));
   return reader.read();
 }
 

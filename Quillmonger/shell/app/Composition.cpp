@@ -55,9 +55,9 @@ Composition::Composition(const platform::XdgFolders& folders, const std::vector<
       m_contextProvider(m_dialogManager, folders.data, m_runLoop),
       m_shortcuts(*m_hotKeys, m_userDefaults, m_notificationCenter),
       m_root({m_runLoop, m_backgroundQueue, m_notificationCenter, m_defaults, m_shortcuts, m_contextProvider.context(),
-              *m_pasteboard, m_bundleProvider, m_applicationBundles, m_applicationNaming, *m_pasteKeys, m_eventMonitor,
-              m_application, m_views.gettingStartedWindow(), m_views.appWindow(), m_views.settingsWindow(),
-              m_views.appPicker()}),
+              *m_pasteboard, m_bundleProvider, m_applicationBundles, m_applicationNaming, m_pictureReading,
+              localizedText, *m_pasteKeys, m_eventMonitor, m_application, m_views.gettingStartedWindow(),
+              m_views.appWindow(), m_views.settingsWindow(), m_views.appPicker()}),
       m_commandLine(commandOperations(), m_defaults) {
   m_views.feed(m_root, *m_pasteboard);
   m_resigning = m_application.onDidResignActive([this] { m_root.applicationDidResignActive(); });
@@ -107,8 +107,7 @@ CommandLine::Operations Composition::commandOperations() {
 
 std::vector<std::shared_ptr<ClipboardItem>> Composition::recordsNewestFirst() {
   std::vector<std::shared_ptr<ClipboardItem>> records;
-  for (const auto& item : m_root.clipboardViewModel().items())
-    records.push_back(item->item());
+  m_root.clipboardViewModel().items().forEach([&records](const auto& item) { records.push_back(item->item()); });
   std::ranges::stable_sort(records, std::greater(), [](const auto& record) { return record->creationDate(); });
   return records;
 }

@@ -20,6 +20,7 @@
 #include "Platform/qt/QtApplication.h"
 #include "Platform/qt/QtBackgroundQueue.h"
 #include "Platform/qt/QtLocalEventMonitor.h"
+#include "Platform/qt/QtPictureReading.h"
 #include "Platform/qt/QtRunLoop.h"
 #include "Platform/x11/X11HotKeys.h"
 #include "Platform/x11/X11PasteKeys.h"
@@ -70,6 +71,7 @@ class Composition final {
   std::unique_ptr<platform::X11PasteKeys> m_pasteKeys;
   platform::DesktopApplicationBundles m_applicationBundles;
   platform::DesktopApplicationNaming m_applicationNaming;
+  platform::QtPictureReading m_pictureReading;
   platform::DesktopBundleProvider m_bundleProvider;
   platform::DesktopInstalledApplications m_installedApplications;
   platform::QtLocalEventMonitor m_eventMonitor;

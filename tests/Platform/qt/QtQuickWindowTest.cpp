@@ -139,4 +139,22 @@ TEST_F(QtQuickWindowTest, IsAsLargeAsItsContentWantsToBeWhenNoSizeIsGiven) {
   EXPECT_EQ(window.view()->rootObject()->height(), 240);
 }
 
+TEST_F(QtQuickWindowTest, HoldsTheFrontWhileAnotherOfItsWindowsComesThere) {
+  platform::QtApplication application(m_system);
+  int resignedCount = 0;
+  const auto hold = application.onDidResignActive([&resignedCount] { ++resignedCount; });
+  emit qGuiApp->applicationStateChanged(Qt::ApplicationActive);
+
+  m_window.makeKeyAndOrderFront();
+  m_window.view()->setProperty(platform::awaitsFrontProperty, true);
+  emit qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
+  EXPECT_EQ(resignedCount, 0);
+
+  emit qGuiApp->applicationStateChanged(Qt::ApplicationActive);
+  QFocusEvent arrival(QEvent::FocusIn);
+  QCoreApplication::sendEvent(m_window.view(), &arrival);
+  emit qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
+  EXPECT_EQ(resignedCount, 1);
+}
+
 }  // namespace

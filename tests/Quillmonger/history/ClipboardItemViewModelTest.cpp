@@ -7,10 +7,8 @@
 
 #include "Foundation/Text.h"
 #include "Quillmonger/settings/SettingsKeys.h"
-#include "tests/support/FakeApplicationNaming.h"
-#include "tests/support/FakeClipboard.h"
+#include "tests/support/ItemServices.h"
 #include "tests/support/Records.h"
-#include "tests/support/TestDefaults.h"
 
 namespace {
 
@@ -20,7 +18,7 @@ using RemoveFormatting = ClipboardManaging::RemoveFormatting;
 using testsupport::makeRecord;
 using Record = std::shared_ptr<ClipboardItem>;
 
-class ClipboardItemViewModelTest : public testing::Test {
+class ClipboardItemViewModelTest : public testing::Test, protected testsupport::ItemServices {
  protected:
   std::shared_ptr<ClipboardItemViewModel> viewModelOf(Record record) {
     return std::make_shared<ClipboardItemViewModel>(std::move(record), services);
@@ -36,13 +34,6 @@ class ClipboardItemViewModelTest : public testing::Test {
     viewModelOf(record)->paste(invert);
     return clipboard.writes().back().removeFormatting;
   }
-
-  testsupport::FakeClipboard clipboard;
-  testsupport::TestDefaults settings;
-  testsupport::FakeApplicationNaming naming;
-  std::shared_ptr<const ClipboardItemViewModel::Services> services =
-      std::make_shared<const ClipboardItemViewModel::Services>(
-          ClipboardItemViewModel::Services{clipboard, settings.defaults, naming});
 };
 
 TEST_F(ClipboardItemViewModelTest, GivesThePlainTextTrimmed) {
@@ -183,6 +174,123 @@ TEST_F(ClipboardItemViewModelTest, TellsItsEnd) {
   viewModel.reset();
 
   EXPECT_EQ(testing::internal::GetCapturedStdout(), line);
+}
+
+TEST_F(ClipboardItemViewModelTest, TellsTheSizeAndTheLinesOfAText) {
+  EXPECT_EQ(viewModelOf(makeRecord("one\ntwo\n"))->details(), "8 bytes • 2 lines");
+  EXPECT_EQ(viewModelOf(makeRecord("x"))->details(), "1 byte • 1 line");
+  EXPECT_EQ(viewModelOf(makeRecord(""))->details(), "Zero KB • 0 lines");
+}
+
+TEST_F(ClipboardItemViewModelTest, TellsTheSizeAndTheDimensionsOfAPicture) {
+  pictures.setPicture("pixels", {192, 108});
+  const auto viewModel = viewModelOf(makeRecord("pixels", {}, pasteboardtype::NSPasteboardTypePNG));
+
+  EXPECT_EQ(viewModel->text().view, "");
+  EXPECT_EQ(viewModel->details(), "6 bytes • 192×108");
+}
+
+TEST_F(ClipboardItemViewModelTest, TellsTheLinesOfAPictureThatIsNone) {
+  EXPECT_EQ(viewModelOf(makeRecord("broken", {}, pasteboardtype::NSPasteboardTypePNG))->details(), "6 bytes • 0 lines");
+}
+
+TEST_F(ClipboardItemViewModelTest, FitsAPictureIntoItsBoxWithItsAspectRatioKept) {
+  pictures.setPicture("square", {100, 100});
+  pictures.setPicture("wide", {664, 100});
+  pictures.setPicture("tall", {100, 890});
+  const auto sizeOf = [this](const std::string& bytes) {
+    return viewModelOf(makeRecord(bytes, {}, pasteboardtype::NSPasteboardTypePNG))->image()->size;
+  };
+
+  EXPECT_EQ(sizeOf("square"), (PictureSize{332, 332}));
+  EXPECT_EQ(sizeOf("wide"), (PictureSize{332, 50}));
+  EXPECT_EQ(sizeOf("tall"), (PictureSize{50, 445}));
+}
+
+TEST_F(ClipboardItemViewModelTest, HasNoPictureOfATextOrOfBytesThatAreNone) {
+  EXPECT_FALSE(viewModelOf(makeRecord("text"))->image());
+  const auto broken = viewModelOf(makeRecord("broken", {}, pasteboardtype::NSPasteboardTypePNG));
+  EXPECT_FALSE(broken->image());
+  EXPECT_FALSE(broken->imageColor());
+  EXPECT_TRUE(broken->isImage());
+}
+
+TEST_F(ClipboardItemViewModelTest, AveragesTheColoursOfAPicture) {
+  pictures.setPicture("half", {2, 2}, {0xFFFF0000, 0xFF0000FF});
+
+  const auto color = viewModelOf(makeRecord("half", {}, pasteboardtype::NSPasteboardTypePNG))->imageColor();
+
+  ASSERT_TRUE(color);
+  EXPECT_EQ(*color, RGBColor(0.5, 0, 0.5));
+}
+
+TEST_F(ClipboardItemViewModelTest, TakesAFullyTransparentPictureForBlack) {
+  pictures.setPicture("nothing", {2, 2}, {0});
+
+  EXPECT_EQ(viewModelOf(makeRecord("nothing", {}, pasteboardtype::NSPasteboardTypePNG))->imageColor(),
+            RGBColor(0, 0, 0));
+}
+
+TEST_F(ClipboardItemViewModelTest, WorksAPictureOutOnceEvenIfThereIsNone) {
+  const auto broken = viewModelOf(makeRecord("broken", {}, pasteboardtype::NSPasteboardTypePNG));
+  pictures.setPicture("good", {1, 1});
+  const auto good = viewModelOf(makeRecord("good", {}, pasteboardtype::NSPasteboardTypePNG));
+  for (int round = 0; round < 3; ++round) {
+    static_cast<void>(broken->imageColor());
+    static_cast<void>(good->imageColor());
+  }
+
+  EXPECT_EQ(pictures.sizeCount(), 2);
+  EXPECT_EQ(pictures.pixelsCount(), 1);
+}
+
+TEST_F(ClipboardItemViewModelTest, RecognisesWhatItsTrimmedTextHolds) {
+  const auto results = viewModelOf(makeRecord("  #FFF\n"))->oculetResults();
+
+  ASSERT_NE(colorResult(*results), nullptr);
+  EXPECT_EQ(results->size(), 1U);
+  EXPECT_TRUE(viewModelOf(makeRecord("[1, 2]"))->hasOculetResults());
+  EXPECT_FALSE(viewModelOf(makeRecord("prose"))->hasOculetResults());
+}
+
+TEST_F(ClipboardItemViewModelTest, RecognisesNothingInAPictureOrAFile) {
+  const auto file = viewModelOf(makeRecord("file:///tmp/a%20b.txt", {}, pasteboardtype::NSPasteboardTypeFileURL));
+
+  EXPECT_EQ(file->text().view, "file:///tmp/a b.txt");
+  EXPECT_FALSE(file->hasOculetResults());
+  EXPECT_FALSE(viewModelOf(makeRecord("123", {}, pasteboardtype::NSPasteboardTypePNG))->hasOculetResults());
+}
+
+TEST_F(ClipboardItemViewModelTest, ExaminesAShortTextOnce) {
+  const auto viewModel = viewModelOf(makeRecord("2024"));
+
+  EXPECT_EQ(viewModel->oculetResults(), viewModel->oculetResults());
+}
+
+TEST_F(ClipboardItemViewModelTest, LetsGoOfALongDocumentWithItsLastUser) {
+  const std::string document = "[\"" + std::string(100'000, 'x') + "\"]";
+  const auto viewModel = viewModelOf(makeRecord(document));
+
+  std::weak_ptr<const OculetResults> results = viewModel->oculetResults();
+
+  EXPECT_TRUE(results.expired());
+  EXPECT_TRUE(viewModel->hasOculetResults());
+  EXPECT_EQ(jsonResult(*viewModel->oculetResults())->json, document);
+}
+
+TEST_F(ClipboardItemViewModelTest, RecognisesNothingInALongProse) {
+  EXPECT_FALSE(viewModelOf(makeRecord(std::string(100'000, 'x') + " 2024"))->hasOculetResults());
+}
+
+TEST_F(ClipboardItemViewModelTest, IsEqualToItselfAlone) {
+  const auto record = makeRecord("a");
+  const auto first = viewModelOf(record);
+  const auto second = viewModelOf(record);
+
+  EXPECT_TRUE(*first == *first);
+  EXPECT_FALSE(*first == *second);
+  EXPECT_EQ(std::hash<ClipboardItemViewModel>()(*first), std::hash<ClipboardItemViewModel>()(*first));
+  EXPECT_NE(std::hash<ClipboardItemViewModel>()(*first), std::hash<ClipboardItemViewModel>()(*second));
 }
 
 }  // namespace

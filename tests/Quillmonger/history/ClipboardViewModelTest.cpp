@@ -8,14 +8,12 @@
 #include <vector>
 
 #include "Quillmonger/settings/SettingsKeys.h"
-#include "tests/support/FakeApplicationNaming.h"
-#include "tests/support/FakeClipboard.h"
 #include "tests/support/FakeHotKeyService.h"
 #include "tests/support/FakeLocalEventMonitor.h"
 #include "tests/support/FakeStoreContext.h"
 #include "tests/support/InlineBackgroundQueue.h"
+#include "tests/support/ItemServices.h"
 #include "tests/support/Records.h"
-#include "tests/support/TestDefaults.h"
 #include "tests/support/VirtualRunLoop.h"
 
 namespace {
@@ -34,14 +32,14 @@ constexpr std::uint16_t deleteKey = 51;
 constexpr std::uint16_t leftOptionKey = 58;
 constexpr std::uint16_t rightOptionKey = 61;
 
-class ClipboardViewModelTest : public testing::Test {
+class ClipboardViewModelTest : public testing::Test, protected testsupport::ItemServices {
  protected:
   ClipboardViewModelTest() { settings.defaults.set(keys::historySize, 1000); }
 
   void makeViewModel() {
-    viewModel.emplace(ClipboardViewModel::Collaborators{clipboard, context, searchViewModel, searchManager, naming,
-                                                        eventMonitor, shortcuts, runLoop, notificationCenter,
-                                                        settings.defaults});
+    viewModel.emplace(ClipboardViewModel::Collaborators{
+        clipboard, context, searchViewModel, searchManager, naming, *oculetManager, pictures, testsupport::englishText,
+        eventMonitor, shortcuts, runLoop, notificationCenter, settings.defaults});
     settle();
   }
   // The records stand in the store when the view model is made, oldest first.
@@ -76,13 +74,13 @@ class ClipboardViewModelTest : public testing::Test {
   }
   Texts rows() {
     Texts texts;
-    for (const auto& row : *viewModel->filteredItems().value())
-      texts.push_back(textOf(row.item));
+    for (const auto* item : viewModel->filteredItems().value()->found())
+      texts.emplace_back(item->text().view);
     return texts;
   }
   Texts items() {
     Texts texts;
-    for (const auto& item : viewModel->items())
+    for (const auto& item : viewModel->items().all())
       texts.push_back(textOf(item));
     return texts;
   }
@@ -93,14 +91,13 @@ class ClipboardViewModelTest : public testing::Test {
     return texts;
   }
   std::string selected() { return textOf(viewModel->selectedItem().value()); }
-  void select(std::size_t row) { viewModel->select(viewModel->filteredItems().value()->at(row).item); }
+  void select(std::size_t row) {
+    viewModel->select(viewModel->filteredItems().value()->at(row).item->shared_from_this());
+  }
 
   testsupport::VirtualRunLoop runLoop;
   testsupport::InlineBackgroundQueue queue;
-  testsupport::TestDefaults settings;
-  testsupport::FakeClipboard clipboard;
   testsupport::FakeStoreContext context;
-  testsupport::FakeApplicationNaming naming;
   testsupport::FakeLocalEventMonitor eventMonitor;
   testsupport::FakeHotKeyService hotKeys;
   foundation::NotificationCenter notificationCenter;
@@ -480,7 +477,7 @@ TEST_F(ClipboardViewModelTest, DeletesNothingWhenTheStoreCantBeReadAndSaysWhy) {
 
 TEST_F(ClipboardViewModelTest, SelectsNoItemThatHasLeftTheHistory) {
   startWith({"a", "b"});
-  const auto gone = viewModel->filteredItems().value()->at(1).item;
+  const auto gone = viewModel->filteredItems().value()->at(1).item->shared_from_this();
   select(1);
   press(deleteKey, commandFlag);
 

@@ -5,28 +5,20 @@
 #include <string>
 #include <vector>
 
-#include "tests/support/FakeApplicationNaming.h"
-#include "tests/support/FakeClipboard.h"
+#include "tests/support/ItemServices.h"
 #include "tests/support/Records.h"
-#include "tests/support/TestDefaults.h"
 
 namespace {
 
 using namespace quillmonger;
 using testsupport::makeRecord;
 
-class ItemListTest : public testing::Test {
+class ItemListTest : public testing::Test, protected testsupport::ItemServices {
  protected:
   ItemList::Item itemOf(const std::string& text) {
     return std::make_shared<ClipboardItemViewModel>(makeRecord(text), services);
   }
 
-  testsupport::FakeClipboard clipboard;
-  testsupport::TestDefaults settings;
-  testsupport::FakeApplicationNaming naming;
-  std::shared_ptr<const ClipboardItemViewModel::Services> services =
-      std::make_shared<const ClipboardItemViewModel::Services>(
-          ClipboardItemViewModel::Services{clipboard, settings.defaults, naming});
   ItemList list;
   using Items = std::vector<ItemList::Item>;
 };
@@ -37,7 +29,7 @@ TEST_F(ItemListTest, PutsABatchInFrontInItsOrder) {
 
   list.insertFirst({items[0], items[1]});
 
-  EXPECT_EQ(list.items(), items);
+  EXPECT_EQ(list.items().all(), items);
 }
 
 TEST_F(ItemListTest, FindsTheFirstOfSeveralEqualRecords) {
@@ -57,19 +49,19 @@ TEST_F(ItemListTest, CutsItsEnd) {
 
   list.removeLast(2);
 
-  EXPECT_EQ(list.items(), Items{items[0]});
+  EXPECT_EQ(list.items().all(), Items{items[0]});
   EXPECT_EQ(list.firstEqualTo(*makeRecord("c")), nullptr);
 }
 
 TEST_F(ItemListTest, LeavesASnapshotAsItWas) {
   const Items items{itemOf("a"), itemOf("b")};
   list.insertFirst(items);
-  const auto snapshot = list.snapshot();
+  const auto snapshot = list.items();
 
   list.remove(*items[0]);
   list.removeAll();
 
-  EXPECT_EQ(*snapshot, items);
+  EXPECT_EQ(snapshot.all(), items);
   EXPECT_EQ(list.count(), 0U);
 }
 

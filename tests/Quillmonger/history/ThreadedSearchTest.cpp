@@ -4,13 +4,11 @@
 
 #include "Quillmonger/history/ClipboardViewModel.h"
 #include "Quillmonger/settings/SettingsKeys.h"
-#include "tests/support/FakeApplicationNaming.h"
-#include "tests/support/FakeClipboard.h"
 #include "tests/support/FakeHotKeyService.h"
 #include "tests/support/FakeLocalEventMonitor.h"
 #include "tests/support/FakeStoreContext.h"
+#include "tests/support/ItemServices.h"
 #include "tests/support/Records.h"
-#include "tests/support/TestDefaults.h"
 #include "tests/support/ThreadedBackgroundQueue.h"
 #include "tests/support/VirtualRunLoop.h"
 
@@ -21,12 +19,12 @@ using testsupport::makeRecord;
 
 TEST(ThreadedSearch, RunsBesideAHistoryThatChanges) {
   testsupport::VirtualRunLoop runLoop;
-  testsupport::TestDefaults settings;
+  testsupport::ItemServices services;
+  auto& settings = services.settings;
+  auto& clipboard = services.clipboard;
   settings.defaults.set(keys::historySize, 10000);
   testsupport::ThreadedBackgroundQueue queue;
-  testsupport::FakeClipboard clipboard;
   testsupport::FakeStoreContext context;
-  testsupport::FakeApplicationNaming naming;
   testsupport::FakeLocalEventMonitor eventMonitor;
   testsupport::FakeHotKeyService hotKeys;
   foundation::NotificationCenter notificationCenter;
@@ -35,8 +33,9 @@ TEST(ThreadedSearch, RunsBesideAHistoryThatChanges) {
   SearchManager<ClipboardItemViewModel> searchManager(queue, runLoop, settings.defaults);
   for (int age = 0; age < 600; ++age)
     context.insert(makeRecord("text " + std::to_string(age), foundation::Seconds(age)));
-  ClipboardViewModel viewModel({clipboard, context, searchViewModel, searchManager, naming, eventMonitor, shortcuts,
-                                runLoop, notificationCenter, settings.defaults});
+  ClipboardViewModel viewModel({clipboard, context, searchViewModel, searchManager, services.naming,
+                                *services.oculetManager, services.pictures, testsupport::englishText, eventMonitor,
+                                shortcuts, runLoop, notificationCenter, settings.defaults});
 
   for (int round = 0; round < 20; ++round) {
     viewModel.setSearchTerm(round % 2 == 0 ? "text" : "");

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "Quillmonger/settings/SettingsKeys.h"
+#include "tests/Quillmonger/search/Note.h"
 #include "tests/support/InlineBackgroundQueue.h"
 #include "tests/support/TestDefaults.h"
 #include "tests/support/VirtualRunLoop.h"
@@ -18,32 +19,15 @@ using namespace std::chrono_literals;
 using quillmonger::CharacterRange;
 using quillmonger::SearchManager;
 using quillmonger::SearchResults;
-using quillmonger::SharedText;
 namespace keys = quillmonger::keys;
 
-class Note final : public quillmonger::Searchable {
- public:
-  Note(std::string text, std::chrono::seconds age, std::optional<std::string> appName = {})
-      : m_text(std::move(text)), m_appName(std::move(appName)), m_age(age) {}
-
-  [[nodiscard]] SharedText text() const override { return {nullptr, m_text}; }
-  [[nodiscard]] std::optional<std::string> appName() const override { return m_appName; }
-  [[nodiscard]] foundation::Date creationDate() const override {
-    return testsupport::VirtualRunLoop::startDate() - m_age;
-  }
-
- private:
-  std::string m_text;
-  std::optional<std::string> m_appName;
-  std::chrono::seconds m_age;
-};
-
+using testsupport::Note;
 using Notes = std::vector<std::shared_ptr<Note>>;
 
 class SearchManagerTest : public testing::Test {
  protected:
   void search(const std::string& term) {
-    manager->search(std::make_shared<const Notes>(notes), term,
+    manager->search(quillmonger::SearchItems<Note>(notes), term,
                     [this](const SearchResults<Note>& found) { results = found; });
   }
   std::vector<std::string> find(const std::string& term) {
@@ -51,8 +35,8 @@ class SearchManagerTest : public testing::Test {
     queue.run();
     runLoop.runPosted();
     std::vector<std::string> texts;
-    for (const auto& result : *results)
-      texts.emplace_back(result.item->text().view);
+    for (const auto* note : results->found())
+      texts.emplace_back(note->text().view);
     return texts;
   }
   void add(std::string text, std::chrono::seconds age, std::optional<std::string> appName = {}) {
@@ -131,6 +115,53 @@ TEST_F(SearchManagerTest, PutsHitsInTheApplicationNameAfterHitsInTheText) {
   EXPECT_EQ(results->at(0).score, 0.0);
   EXPECT_EQ(results->at(1).score, 1.0);
   EXPECT_EQ(results->at(1).match, std::nullopt);
+}
+
+TEST_F(SearchManagerTest, AsksEachApplicationOfAMixedHistoryForItsOwnName) {
+  add("1", 1s, "Files");
+  add("2", 2s, "Safari");
+  add("3", 3s);
+  add("4", 4s, "Files");
+  add("5", 5s, "Safari");
+
+  EXPECT_EQ(find("safari"), (Texts{"2", "5"}));
+}
+
+TEST_F(SearchManagerTest, FindsTheSameInALongTextAsInAShortOne) {
+  const std::string hay(20'000, 'x');
+  add(hay + "Needle" + hay, 1s);
+  add("needle", 2s);
+
+  find("needle");
+
+  ASSERT_EQ(results->size(), 2U);
+  EXPECT_EQ(results->at(0).match, (CharacterRange{20'000, 20'005}));
+}
+
+TEST_F(SearchManagerTest, HighlightsAMatchOnTheVeryLastCharacter) {
+  add("ends in z", 1s);
+  add("endet in ü", 2s);
+
+  find("z");
+  EXPECT_EQ(results->front().match, (CharacterRange{8, 8}));
+  find("Ü");
+  EXPECT_EQ(results->front().match, (CharacterRange{9, 9}));
+}
+
+TEST_F(SearchManagerTest, HighlightsOnlyTheFirstOfSeveralHits) {
+  add("abc abc abc", 1s);
+
+  find("abc");
+
+  EXPECT_EQ(results->size(), 1U);
+  EXPECT_EQ(results->front().match, (CharacterRange{0, 2}));
+}
+
+TEST_F(SearchManagerTest, TakesAnAnchorForAPlainCharacterWithoutExpressions) {
+  add("a^b", 1s);
+  add("ab", 2s);
+
+  EXPECT_EQ(find("^"), Texts{"a^b"});
 }
 
 TEST_F(SearchManagerTest, LeavesTheApplicationNameOutWhenTheSettingSaysSo) {

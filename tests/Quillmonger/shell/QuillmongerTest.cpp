@@ -20,6 +20,7 @@
 #include "tests/support/FakeStoreContext.h"
 #include "tests/support/FakeWindow.h"
 #include "tests/support/InlineBackgroundQueue.h"
+#include "tests/support/ItemServices.h"
 #include "tests/support/Records.h"
 #include "tests/support/TestDefaults.h"
 #include "tests/support/VirtualRunLoop.h"
@@ -51,7 +52,8 @@ class QuillmongerTest : public testing::Test {
   quillmonger::Quillmonger& makeRoot() {
     root = std::make_unique<quillmonger::Quillmonger>(quillmonger::Quillmonger::Platform{
         runLoop, queue, notificationCenter, settings.defaults, shortcuts, context, pasteboard, bundleProvider, bundles,
-        naming, pasteKeys, eventMonitor, application, gettingStartedWindow, appWindow, settingsWindow, picker});
+        naming, pictures, testsupport::englishText, pasteKeys, eventMonitor, application, gettingStartedWindow,
+        appWindow, settingsWindow, picker});
     settle();
     return *root;
   }
@@ -98,6 +100,7 @@ class QuillmongerTest : public testing::Test {
   testsupport::FakeBundleProvider bundleProvider;
   testsupport::FakeApplicationBundles bundles;
   testsupport::FakeApplicationNaming naming;
+  testsupport::FakePictureReading pictures;
   testsupport::FakePasteKeys pasteKeys;
   testsupport::FakeLocalEventMonitor eventMonitor;
   testsupport::FakeApplication application{log};
@@ -278,7 +281,7 @@ TEST_F(QuillmongerTest, SelectsTheTopRowOfTheOldListAtOnce) {
   start();
   copy("one");
   copy("two");
-  root->clipboardViewModel().select(root->clipboardViewModel().filteredItems().value()->at(1).item);
+  root->clipboardViewModel().select(root->clipboardViewModel().filteredItems().value()->at(1).item->shared_from_this());
 
   root->windowManager().showAppWindow();
   runLoop.runPosted();

@@ -209,11 +209,34 @@ TEST_F(AppView, MovesARowWithoutAnIconToTheLeft) {
   EXPECT_LT(lines[1]->mapToScene({}).x(), lines[0]->mapToScene({}).x());
 }
 
+TEST_F(AppView, ShowsASampleAndTheMarkBesideATextThatNamesAColour) {
+  m_stage.show({m_stage.makeItem("#ff0000"), m_stage.makeItem("prose")});
+
+  ASSERT_NE(m_stage.find("ColorBar"), nullptr);
+  EXPECT_EQ(m_stage.find("ColorBar")->property("color").value<QColor>(), QColor(255, 0, 0));
+  EXPECT_EQ(m_stage.findAll("ColorBar").size(), 1U);
+  EXPECT_EQ(m_stage.findAll("OculetIndicator").size(), 1U);
+}
+
+TEST_F(AppView, ShowsNoSampleWhenTheSettingSaysSo) {
+  m_stage.defaults().set(keys::showColorIndicator, false);
+  m_stage.show({m_stage.makeItem("#ff0000")});
+
+  EXPECT_EQ(m_stage.find("ColorBar"), nullptr);
+  EXPECT_NE(m_stage.find("OculetIndicator"), nullptr);
+}
+
+TEST_F(AppView, MarksADateAndADocumentAsRecognised) {
+  m_stage.show({m_stage.makeItem("2026-11-21T02:25:50Z"), m_stage.makeItem("{\"a\": 1}"), m_stage.makeItem("a: 1")});
+
+  EXPECT_EQ(m_stage.findAll("OculetIndicator").size(), 2U);
+}
+
 TEST_F(AppView, ShowsAHitInBoldAndTheRestDimmed) {
   const auto item = m_stage.makeItem("xabcy");
   m_stage.show({item});
 
-  m_stage.showRows({{item, 0.0, CharacterRange{1, 3}}});
+  m_stage.showRows({{item.get(), 0.0, CharacterRange{1, 3}}});
 
   EXPECT_NE(textOf(m_stage.find("ClipboardItemText")).find("<b>abc</b>"), std::string::npos);
 }

@@ -23,10 +23,11 @@ class HistoryListModelTest : public testing::Test {
 
   HistoryListModel::Change show(const std::vector<std::size_t>& numbers,
                                 std::optional<CharacterRange> match = std::nullopt) {
-    auto rows = std::make_shared<std::vector<ViewStage::Row>>();
+    std::vector<ViewStage::Row> rows;
     for (const std::size_t number : numbers)
-      rows->push_back({m_items.at(number), 0.0, match});
-    return m_model.setRows(rows);
+      rows.push_back({m_items.at(number).get(), 0.0, match});
+    return m_model.setRows(std::make_shared<const HistoryListModel::Rows::element_type>(
+        std::move(rows), quillmonger::SearchItems(m_items)));
   }
 
   [[nodiscard]] std::vector<std::string> lines() const {
