@@ -12,7 +12,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int depthLimit = 4;
-constexpr std::size_t entryLimit = 20000;
+constexpr std::size_t fileLimit = 20000;
 constexpr std::string_view suffix = ".desktop";
 
 // A missing folder has a time too, so that its coming is noticed.
@@ -26,12 +26,18 @@ struct Reader {
   DesktopEntries::List entries;
   std::vector<std::pair<fs::path, fs::file_time_type>> folders;
   std::set<std::string> seen;
+  std::vector<fs::path> openFolders;
+  std::size_t fileCount = 0;
 
   void readFolder(const fs::path& folder, const std::string& prefix, int depth) {
     folders.emplace_back(folder, timeOf(folder));
     std::error_code error;
+    // A link can lead back.
+    const auto place = fs::weakly_canonical(folder, error);
+    if (std::ranges::find(openFolders, place) != openFolders.end()) return;
+    openFolders.push_back(place);
     for (fs::directory_iterator item(folder, error), end; !error && item != end; item.increment(error)) {
-      if (seen.size() >= entryLimit) return;
+      if (++fileCount > fileLimit) break;
       const auto name = item->path().filename().string();
       std::error_code ignored;
       if (name.ends_with(suffix)) {
@@ -40,6 +46,7 @@ struct Reader {
         readFolder(item->path(), prefix + name + "-", depth + 1);
       }
     }
+    openFolders.pop_back();
   }
 
   void readEntry(const fs::path& path, const std::string& id) {

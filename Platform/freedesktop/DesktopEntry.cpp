@@ -27,6 +27,16 @@ std::string textOf(GKeyFile* file, const char* key) {
   return text == nullptr ? std::string() : std::string(text.get());
 }
 
+// The text is valid UTF-8, and stays so.
+std::string cut(std::string text) {
+  if (text.size() <= DesktopEntry::textLimit) return text;
+  std::size_t end = DesktopEntry::textLimit;
+  while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U)
+    --end;
+  text.resize(end);
+  return text;
+}
+
 std::string localTextOf(GKeyFile* file, const char* key) {
   const std::unique_ptr<char, Free> text(g_key_file_get_locale_string(file, group, key, nullptr, nullptr));
   return text == nullptr ? std::string() : std::string(text.get());
@@ -41,9 +51,18 @@ std::vector<std::string> wordsOf(char** list) {
   return words;
 }
 
-std::vector<std::string> categoriesOf(GKeyFile* file) {
-  const std::unique_ptr<char*, Free> list(g_key_file_get_string_list(file, group, "Categories", nullptr, nullptr));
+std::vector<std::string> listOf(GKeyFile* file, const char* key) {
+  const std::unique_ptr<char*, Free> list(g_key_file_get_string_list(file, group, key, nullptr, nullptr));
   return wordsOf(list.get());
+}
+
+std::vector<std::string> keywordsOf(GKeyFile* file) {
+  const std::unique_ptr<char*, Free> list(
+      g_key_file_get_locale_string_list(file, group, "Keywords", nullptr, nullptr, nullptr));
+  auto words = wordsOf(list.get());
+  words.resize(std::min(words.size(), DesktopEntry::keywordLimit));
+  std::ranges::transform(words, words.begin(), cut);
+  return words;
 }
 
 std::string binaryOf(GKeyFile* file) {
@@ -90,15 +109,20 @@ std::optional<DesktopEntry> DesktopEntry::read(const std::filesystem::path& path
   }
   const bool isHidden = flagOf(file.get(), "Hidden");
   if (!isHidden && textOf(file.get(), "Type") != "Application") return std::nullopt;
-  return DesktopEntry{std::move(id),
-                      foundation::Url::fromFilePath(path.string()),
-                      localTextOf(file.get(), "Name"),
-                      localTextOf(file.get(), "Icon"),
-                      binaryOf(file.get()),
-                      textOf(file.get(), "StartupWMClass"),
-                      categoriesOf(file.get()),
-                      flagOf(file.get(), "NoDisplay"),
-                      isHidden};
+  return DesktopEntry{.id = std::move(id),
+                      .url = foundation::Url::fromFilePath(path.string()),
+                      .name = cut(localTextOf(file.get(), "Name")),
+                      .genericName = cut(localTextOf(file.get(), "GenericName")),
+                      .keywords = keywordsOf(file.get()),
+                      .icon = localTextOf(file.get(), "Icon"),
+                      .binary = binaryOf(file.get()),
+                      .tryExec = textOf(file.get(), "TryExec"),
+                      .startupWmClass = textOf(file.get(), "StartupWMClass"),
+                      .categories = listOf(file.get(), "Categories"),
+                      .onlyShowIn = listOf(file.get(), "OnlyShowIn"),
+                      .notShowIn = listOf(file.get(), "NotShowIn"),
+                      .isNoDisplay = flagOf(file.get(), "NoDisplay"),
+                      .isHidden = isHidden};
 }
 
 }  // namespace platform

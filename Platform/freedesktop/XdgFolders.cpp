@@ -64,12 +64,12 @@ XdgFolders XdgFolders::fromEnvironment(const Environment& environment) {
   return folders;
 }
 
-XdgFolders XdgFolders::present() {
-  return fromEnvironment([](const std::string& name) -> std::optional<std::string> {
-    const char* value = std::getenv(name.c_str());
-    return value == nullptr ? std::nullopt : std::optional<std::string>(value);
-  });
+std::optional<std::string> XdgFolders::ownEnvironment(const std::string& name) {
+  const char* value = std::getenv(name.c_str());
+  return value == nullptr ? std::nullopt : std::optional<std::string>(value);
 }
+
+XdgFolders XdgFolders::present() { return fromEnvironment(ownEnvironment); }
 
 foundation::Outcome ensurePrivateFolder(const std::filesystem::path& folder) {
   std::error_code error;

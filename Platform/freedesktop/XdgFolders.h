@@ -15,6 +15,9 @@ namespace platform {
 struct XdgFolders {
   using Environment = std::function<std::optional<std::string>(const std::string& name)>;
 
+  /// A variable of this process.
+  [[nodiscard]] static std::optional<std::string> ownEnvironment(const std::string& name);
+
   [[nodiscard]] static XdgFolders fromEnvironment(const Environment& environment);
   /// From the environment of this process.
   [[nodiscard]] static XdgFolders present();

@@ -2,6 +2,8 @@
 
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QVariant>
+#include <QWindow>
 #include <algorithm>
 #include <utility>
 
@@ -55,6 +57,12 @@ std::optional<KeyEvent> keyEvent(const QKeyEvent& event) {
                   others | (isPress ? own : 0)};
 }
 
+bool keepsKey(const QWindow& window, const QKeyEvent& event) {
+  if (window.modality() != Qt::NonModal) return true;
+  const QObject* item = window.focusObject();
+  return item != nullptr && item->property("ownKeys").toList().contains(event.key());
+}
+
 }  // namespace
 
 QtLocalEventMonitor::QtLocalEventMonitor() { qGuiApp->installEventFilter(this); }
@@ -71,7 +79,9 @@ foundation::Subscription QtLocalEventMonitor::addLocalMonitor(Handler handler) {
 bool QtLocalEventMonitor::eventFilter(QObject* watched, QEvent* event) {
   const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
   if (!isKey || !watched->isWindowType()) return false;
-  const auto translated = keyEvent(*static_cast<const QKeyEvent*>(event));
+  const auto& key = *static_cast<const QKeyEvent*>(event);
+  if (keepsKey(*static_cast<const QWindow*>(watched), key)) return false;
+  const auto translated = keyEvent(key);
   return translated && tell(*translated) == Disposition::swallow;
 }
 

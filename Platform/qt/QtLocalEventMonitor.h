@@ -11,6 +11,8 @@ class QKeyEvent;
 namespace platform {
 
 /// Sees the key events of all the program's windows before Qt hands them to an item. Keys are told by their position.
+/// The keys of a modal window are its own, and so are those that the item with the keyboard names in its property
+/// `ownKeys`, a list of Qt's key codes: arrows that move a list's selection, say.
 /// Made after the application object, and gone before it.
 class QtLocalEventMonitor final : public QObject, public quillmonger::LocalEventMonitoring {
  public:

@@ -64,11 +64,11 @@ void QtQuickWindow::prepare() {
   m_view->setTitle(m_description.title);
   m_view->setResizeMode(QQuickView::SizeRootObjectToView);
   applyKind();
-  m_view->resize(m_description.size);
   Content content = m_description.content();
   m_view->setInitialProperties(content.initialProperties);
   m_view->setSource(content.source);
   if (m_view->rootObject() == nullptr) foundation::stopProcess("A window's content could not be loaded.");
+  followSize();
   m_view->create();
   // Painting once while hidden loads fonts and pictures, which the first show would wait for.
   m_view->grabWindow();
@@ -77,8 +77,6 @@ void QtQuickWindow::prepare() {
 void QtQuickWindow::applyKind() {
   if (m_description.kind == Kind::dialog) {
     m_view->setFlags(Qt::Dialog);
-    m_view->setMinimumSize(m_description.size);
-    m_view->setMaximumSize(m_description.size);
     return;
   }
   m_view->setFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
@@ -86,6 +84,28 @@ void QtQuickWindow::applyKind() {
   format.setAlphaBufferSize(8);
   m_view->setFormat(format);
   m_view->setColor(Qt::transparent);
+}
+
+void QtQuickWindow::followSize() {
+  if (!m_description.size.isEmpty()) {
+    applySize(m_description.size);
+    return;
+  }
+  // What the content wants is known when it has been laid out, and can change.
+  const QQuickItem* content = m_view->rootObject();
+  const auto apply = [this, content] {
+    applySize(QSizeF(content->implicitWidth(), content->implicitHeight()).toSize());
+  };
+  apply();
+  QObject::connect(content, &QQuickItem::implicitWidthChanged, m_view.get(), apply);
+  QObject::connect(content, &QQuickItem::implicitHeightChanged, m_view.get(), apply);
+}
+
+void QtQuickWindow::applySize(const QSize& size) {
+  m_view->resize(size);
+  if (m_description.kind != Kind::dialog) return;
+  m_view->setMinimumSize(size);
+  m_view->setMaximumSize(size);
 }
 
 void QtQuickWindow::unload() { m_view.reset(); }

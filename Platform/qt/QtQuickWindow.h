@@ -32,6 +32,7 @@ class QtQuickWindow final : public quillmonger::Window {
   };
   struct Description {
     Kind kind = Kind::palette;
+    /// Empty: as large as the content wants to be.
     QSize size;
     QString title;
     /// Asked once, when the tree is loaded. The objects that it names outlive the window.
@@ -60,6 +61,8 @@ class QtQuickWindow final : public quillmonger::Window {
  private:
   class View;
   void applyKind();
+  void followSize();
+  void applySize(const QSize& size);
 
   Description m_description;
   quillmonger::WindowSystem& m_windowSystem;

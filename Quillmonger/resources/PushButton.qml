@@ -16,7 +16,7 @@ Rectangle {
     activeFocusOnTab: true
     color: isDefault ? theme.highlightColor : theme.separator
     border { width: activeFocus ? 2 : 0; color: theme.accentColor }
-    opacity: press.pressed ? 0.8 : 1
+    opacity: !enabled ? theme.disabledOpacity : press.pressed ? 0.8 : 1
     Accessible.role: Accessible.Button
     Accessible.name: text
     Accessible.focusable: true

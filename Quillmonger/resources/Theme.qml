@@ -7,8 +7,11 @@ QtObject {
 
     // Backgrounds and lines
     readonly property color window: isDark ? "#22242a" : "#f8f8fa"
+    // Of lists and text fields.
+    readonly property color field: isDark ? "#1a1c21" : "#ffffff"
     readonly property color border: isDark ? "#44474f" : "#cfd0d8"
     readonly property color separator: isDark ? "#33363e" : "#e4e4ea"
+    readonly property color switchOff: isDark ? "#707480" : "#888b97"
     readonly property color scrollBar: isDark ? "#5a5e69" : "#bdbfc9"
 
     // Text and symbols
@@ -23,9 +26,13 @@ QtObject {
 
     readonly property color accentColor: isDark ? "#95a5ff" : "#4357bd"
 
+    readonly property real disabledOpacity: 0.4
+
     readonly property int windowRadius: 15
     readonly property int rowRadius: 6
     readonly property int rowHeight: 42
+    readonly property int paneMargin: 24
+    readonly property int fieldRadius: 8
     readonly property int margin: 8
     readonly property int searchBarHeight: 58
     readonly property int iconSize: 32

@@ -63,9 +63,18 @@ Quillmonger::Quillmonger(const Platform& platform)
                             platform.eventMonitoring, platform.shortcuts, platform.runLoop, platform.notificationCenter,
                             platform.defaults}),
       m_windowManager({m_clipboardViewModel, m_searchViewModel, platform.gettingStartedWindow, platform.appWindow,
-                       platform.application, platform.eventMonitoring, platform.runLoop, platform.notificationCenter}) {
+                       platform.settingsWindow, platform.application, platform.eventMonitoring, platform.runLoop,
+                       platform.notificationCenter}) {
   m_pasteInjection.setDismissal([this] { m_windowManager.hideAppWindow(); });
   m_platform.shortcuts.declare(shortcutname::activate());
+}
+
+IgnoreAppsViewModel& Quillmonger::ignoreAppsViewModel() {
+  if (!m_ignoreAppsViewModel) {
+    m_ignoreAppsViewModel.emplace(
+        IgnoreAppsViewModel::Collaborators{m_platform.defaults, m_platform.applicationBundles, m_platform.appPicker});
+  }
+  return *m_ignoreAppsViewModel;
 }
 
 void Quillmonger::start() {
@@ -116,6 +125,8 @@ void Quillmonger::toggle() {
     m_windowManager.showGettingStartedWindow();
   }
 }
+
+void Quillmonger::showSettings() { m_windowManager.showSettingsWindow(); }
 
 void Quillmonger::applicationDidResignActive() { m_windowManager.applicationDidResignActive(); }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,6 +24,8 @@
 #include "Quillmonger/input/PermissionsManager.h"
 #include "Quillmonger/search/SearchManager.h"
 #include "Quillmonger/search/SearchViewModel.h"
+#include "Quillmonger/settings/panes/AppPicker.h"
+#include "Quillmonger/settings/panes/IgnoreAppsViewModel.h"
 #include "Quillmonger/shell/WindowManager.h"
 #include "Quillmonger/shell/windows/Application.h"
 #include "Quillmonger/shell/windows/Window.h"
@@ -52,6 +55,8 @@ class Quillmonger final {
     Application& application;
     Window& gettingStartedWindow;
     Window& appWindow;
+    Window& settingsWindow;
+    AppPicker& appPicker;
   };
 
   /// Loads the history; starts nothing. The windows' content is made afterwards, from what this object owns.
@@ -62,6 +67,8 @@ class Quillmonger final {
   [[nodiscard]] ClipboardManager& clipboardManager() { return m_clipboardManager; }
   [[nodiscard]] ClipboardViewModel& clipboardViewModel() { return m_clipboardViewModel; }
   [[nodiscard]] SearchViewModel& searchViewModel() { return m_searchViewModel; }
+  /// Made when it is first asked for: it reads the applications that it lists.
+  [[nodiscard]] IgnoreAppsViewModel& ignoreAppsViewModel();
   [[nodiscard]] PermissionsManaging& permissionsManager() { return m_permissionsManager; }
   [[nodiscard]] WindowManager& windowManager() { return m_windowManager; }
 
@@ -75,6 +82,8 @@ class Quillmonger final {
   void show();
   /// The same, but hides the history if it is showing.
   void toggle();
+  /// Shows the settings, also before the user has been through the guide.
+  void showSettings();
   /// The program lost the front.
   void applicationDidResignActive();
   /// The program is about to end: brings the store to the disk.
@@ -97,6 +106,7 @@ class Quillmonger final {
   SearchViewModel m_searchViewModel;
   SearchManager<ClipboardItemViewModel> m_searchManager;
   ClipboardViewModel m_clipboardViewModel;
+  std::optional<IgnoreAppsViewModel> m_ignoreAppsViewModel;
   WindowManager m_windowManager;
   bool m_isStartedNormally = false;
   std::vector<foundation::Subscription> m_subscriptions;

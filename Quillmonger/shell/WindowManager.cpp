@@ -15,6 +15,7 @@ void WindowManager::toggleAppWindow() {
 
 void WindowManager::showAppWindow() {
   if (m_with.appWindow.isVisible()) return;
+  m_with.settingsWindow.orderOut();
   m_with.runLoop.post([this, isAlive = std::weak_ptr(m_isAlive)] {
     if (!isAlive.expired()) presentAppWindow();
   });
@@ -38,6 +39,13 @@ void WindowManager::hideAppWindow() {
   m_with.application.hide();
 }
 
+void WindowManager::showSettingsWindow() {
+  m_with.appWindow.orderOut();
+  m_with.application.activateIgnoringOtherApps();
+  if (!m_with.settingsWindow.isVisible()) m_with.settingsWindow.center();
+  m_with.settingsWindow.makeKeyAndOrderFront();
+}
+
 void WindowManager::showGettingStartedWindow() {
   m_with.gettingStartedWindow.center();
   m_with.gettingStartedWindow.makeKeyAndOrderFront();
@@ -45,16 +53,25 @@ void WindowManager::showGettingStartedWindow() {
 
 void WindowManager::hideGettingStartedWindow() { m_with.gettingStartedWindow.orderOut(); }
 
-bool WindowManager::isAuxiliaryWindowVisible() const { return m_with.gettingStartedWindow.isVisible(); }
+bool WindowManager::isAuxiliaryWindowVisible() const {
+  return m_with.settingsWindow.isVisible() || m_with.gettingStartedWindow.isVisible();
+}
 
 void WindowManager::applicationDidResignActive() {
   if (!isAuxiliaryWindowVisible()) hideAppWindow();
 }
 
 bool WindowManager::handleAction(Action action, const KeyEvent& /*event*/) {
-  if (action != Action::dismiss) return false;
-  hideAppWindow();
-  return true;
+  switch (action) {
+    case Action::dismiss:
+      hideAppWindow();
+      return true;
+    case Action::openSettings:
+      showSettingsWindow();
+      return true;
+    default:
+      return false;
+  }
 }
 
 }  // namespace quillmonger

@@ -20,6 +20,7 @@ class WindowManager final : public BaseEventManager {
     SearchViewModel& searchViewModel;
     Window& gettingStartedWindow;
     Window& appWindow;
+    Window& settingsWindow;
     Application& application;
     LocalEventMonitoring& eventMonitoring;
     foundation::RunLoop& runLoop;
@@ -32,10 +33,12 @@ class WindowManager final : public BaseEventManager {
   /// Shows the history if it is hidden, and otherwise hides it.
   void toggleAppWindow();
   /// Shows the history, unfiltered and with its top row selected, in the middle of the screen: the later part in the
-  /// next turn of the main queue. Nothing happens while it is up.
+  /// next turn of the main queue. Nothing happens while it is up. The settings go: one main window at a time.
   void showAppWindow();
   /// Takes the history off the screen and gives the front back to the application that had it.
   void hideAppWindow();
+  /// Shows the settings instead of the history, where the user left them, or in the middle of the screen.
+  void showSettingsWindow();
   void showGettingStartedWindow();
   void hideGettingStartedWindow();
 

@@ -9,6 +9,7 @@
 
 #include "Quillmonger/resources/Texts.h"
 #include "Quillmonger/settings/SettingsKeys.h"
+#include "tests/gallery/SettingsScenes.h"
 #include "tests/gallery/ViewStage.h"
 
 // Pictures every state of the views: quillmonger-gallery FOLDER. QT_SCALE_FACTOR sets the scale.
@@ -151,6 +152,7 @@ int main(int argc, char** argv) {
   }
   const QDir folder(QString::fromLocal8Bit(argv[1]));
   for (const auto scheme : {quillmonger::ColorScheme::light, quillmonger::ColorScheme::dark}) {
+    testsupport::pictureSettings(folder, scheme);
     for (const Scene& scene : scenes()) {
       ViewStage stage;
       stage.defaults().set<std::optional<quillmonger::ColorScheme>>(quillmonger::keys::selectedColorScheme, scheme);

@@ -1,15 +1,14 @@
 #include "tests/gallery/ViewStage.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QSurfaceFormat>
 #include <algorithm>
-#include <functional>
 
 #include "Quillmonger/history/view/ImageCache.h"
 #include "Quillmonger/history/view/QmlModule.h"
 #include "Quillmonger/resources/QmlModule.h"
 #include "Quillmonger/search/view/QmlModule.h"
+#include "tests/gallery/TileIcon.h"
 #include "tests/support/Records.h"
 
 namespace testsupport {
@@ -39,21 +38,12 @@ ViewStage::ViewStage() : m_appearance(m_itemServices.settings.defaults), m_setti
 
 ViewStage::~ViewStage() = default;
 
-// Each application has an icon of its own: a coloured tile with its initial.
 std::optional<foundation::Url> ViewStage::application(const std::string& name) {
   if (name.empty()) return std::nullopt;
   const std::string path = (m_folder.path() / (name + ".desktop")).string();
   const auto url = foundation::Url::fromFilePath(path);
   m_itemServices.naming.setDisplayName(url, name);
-  QFile icon(QString::fromStdString(path + ".svg"));
-  if (icon.open(QIODevice::WriteOnly)) {
-    const auto hue = static_cast<int>(std::hash<std::string>{}(name) % 360);
-    icon.write(QStringLiteral("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 32 32' width='32' height='32'>"
-                              "<rect x='3' y='3' width='26' height='26' rx='7' fill='%1'/><text x='16' y='22' "
-                              "font-size='16' fill='white' text-anchor='middle'>%2</text></svg>")
-                   .arg(QColor::fromHsv(hue, 150, 200).name(), QString::fromStdString(name.substr(0, 1)))
-                   .toUtf8());
-  }
+  drawTileIcon(path + ".svg", name);
   return url;
 }
 

@@ -47,15 +47,17 @@ Composition::Composition(const platform::XdgFolders& folders, const std::vector<
       m_applicationBundles(m_desktopEntries),
       m_applicationNaming(m_desktopEntries),
       m_bundleProvider([this] { return m_pasteboard->frontmostAtPresentContent(); }, m_desktopEntries),
+      m_installedApplications(m_desktopEntries, platform::XdgFolders::ownEnvironment),
       m_application(*m_windowSystem),
-      m_views(m_defaults, *m_windowSystem, [this](const std::string& path) { return iconOf(path); }),
+      m_views(m_defaults, *m_windowSystem, [this](const std::string& path) { return iconOf(path); },
+              {m_installedApplications, m_backgroundQueue, m_runLoop}),
       m_dialogManager(m_views.alert(), localizedText, openUrl, supportAddress),
       m_contextProvider(m_dialogManager, folders.data, m_runLoop),
       m_shortcuts(*m_hotKeys, m_userDefaults, m_notificationCenter),
       m_root({m_runLoop, m_backgroundQueue, m_notificationCenter, m_defaults, m_shortcuts, m_contextProvider.context(),
               *m_pasteboard, m_bundleProvider, m_applicationBundles, m_applicationNaming, m_pictureReading,
               localizedText, *m_pasteKeys, m_eventMonitor, m_application, m_views.gettingStartedWindow(),
-              m_views.appWindow()}),
+              m_views.appWindow(), m_views.settingsWindow(), m_views.appPicker()}),
       m_commandLine(commandOperations(), m_defaults) {
   m_views.feed(m_root, *m_pasteboard);
   m_resigning = m_application.onDidResignActive([this] { m_root.applicationDidResignActive(); });
@@ -98,9 +100,9 @@ void Composition::saveChanges() {
 }
 
 CommandLine::Operations Composition::commandOperations() {
-  return {[this] { m_root.toggle(); }, [this] { m_root.show(); },
-          [this](const std::vector<std::string>& urls) { m_root.openURLs(urls); }, [this] { m_root.quitApp(); },
-          [this] { return recordsNewestFirst(); }};
+  return {[this] { m_root.toggle(); },       [this] { m_root.show(); },
+          [this] { m_root.showSettings(); }, [this](const std::vector<std::string>& urls) { m_root.openURLs(urls); },
+          [this] { m_root.quitApp(); },      [this] { return recordsNewestFirst(); }};
 }
 
 std::vector<std::shared_ptr<ClipboardItem>> Composition::recordsNewestFirst() {

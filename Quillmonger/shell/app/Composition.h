@@ -15,6 +15,7 @@
 #include "Platform/freedesktop/DesktopApplicationNaming.h"
 #include "Platform/freedesktop/DesktopBundleProvider.h"
 #include "Platform/freedesktop/DesktopEntries.h"
+#include "Platform/freedesktop/DesktopInstalledApplications.h"
 #include "Platform/freedesktop/XdgFolders.h"
 #include "Platform/qt/QtApplication.h"
 #include "Platform/qt/QtBackgroundQueue.h"
@@ -72,11 +73,12 @@ class Composition final {
   platform::DesktopApplicationNaming m_applicationNaming;
   platform::QtPictureReading m_pictureReading;
   platform::DesktopBundleProvider m_bundleProvider;
+  platform::DesktopInstalledApplications m_installedApplications;
   platform::QtLocalEventMonitor m_eventMonitor;
   platform::QtApplication m_application;
-  Views m_views;
   // After all that its work asks, which may still go on when the root has gone.
   platform::QtBackgroundQueue m_backgroundQueue;
+  Views m_views;
 
   DialogManager m_dialogManager;
   ContextProvider m_contextProvider;

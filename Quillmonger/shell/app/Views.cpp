@@ -1,5 +1,6 @@
 #include "Quillmonger/shell/app/Views.h"
 
+#include <QQuickView>
 #include <utility>
 
 #include "Quillmonger/capture/PasteboardTypes.h"
@@ -8,6 +9,7 @@
 #include "Quillmonger/resources/QmlModule.h"
 #include "Quillmonger/resources/Texts.h"
 #include "Quillmonger/search/view/QmlModule.h"
+#include "Quillmonger/settings/view/QmlModule.h"
 #include "Quillmonger/shell/view/QmlModule.h"
 
 namespace quillmonger {
@@ -28,11 +30,13 @@ std::string presentText(const Pasteboard& pasteboard) {
 
 }  // namespace
 
-Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCache::IconNaming iconNaming)
+Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCache::IconNaming iconNaming,
+             const AppPickerViewModel::Collaborators& applications)
     : m_defaults(defaults),
       m_iconNaming(std::move(iconNaming)),
       m_appearance(defaults),
       m_historySettings(defaults),
+      m_ignoreSettings(defaults),
       m_alert([this]() -> QQmlEngine& { return engine(); }, m_appearance),
       m_appWindow({platform::QtQuickWindow::Kind::palette, appWindowSize, QStringLiteral("Quillmonger"),
                    [this] { return appContent(); }, [this]() -> QQmlEngine& { return engine(); }},
@@ -40,12 +44,20 @@ Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCach
       m_gettingStartedWindow({platform::QtQuickWindow::Kind::dialog, gettingStartedWindowSize,
                               QString::fromStdString(localizedText("getting_started_title")),
                               [this] { return gettingStartedContent(); }, [this]() -> QQmlEngine& { return engine(); }},
-                             windowSystem) {}
+                             windowSystem),
+      m_settingsWindow({platform::QtQuickWindow::Kind::dialog, QSize(),
+                        QString::fromStdString(localizedText("settings_ignore_title")),
+                        [this] { return settingsContent(); }, [this]() -> QQmlEngine& { return engine(); }},
+                       windowSystem),
+      m_appPicker({applications, m_appearance, [this]() -> QQmlEngine& { return engine(); },
+                   [this]() -> QWindow* { return m_settingsWindow.view(); }, [this] { return m_clipboardText(); }}) {}
 
 void Views::feed(Quillmonger& root, const Pasteboard& pasteboard) {
   ClipboardViewModel& history = root.clipboardViewModel();
-  m_searchBarModel = std::make_unique<SearchBarModel>(
-      root.searchViewModel().searchTerm(), m_defaults, [&pasteboard] { return presentText(pasteboard); }, nullptr);
+  m_clipboardText = [&pasteboard] { return presentText(pasteboard); };
+  m_ignoreAppsViewModel = [&root]() -> IgnoreAppsViewModel& { return root.ignoreAppsViewModel(); };
+  m_searchBarModel =
+      std::make_unique<SearchBarModel>(root.searchViewModel().searchTerm(), m_defaults, m_clipboardText, nullptr);
   m_clipboardViewAdapter = std::make_unique<ClipboardViewAdapter>(ClipboardViewAdapter::History{
       history.filteredItems(), history.selectedItem(), history.isOptionPressed(),
       [&history] { return history.items().empty(); }, [&history](const auto& item) { history.select(item); }});
@@ -54,8 +66,11 @@ void Views::feed(Quillmonger& root, const Pasteboard& pasteboard) {
 }
 
 void Views::close() {
+  m_appPicker.close();
+  m_settingsWindow.unload();
   m_appWindow.unload();
   m_gettingStartedWindow.unload();
+  m_ignoredAppsModel.reset();
   m_gettingStartedModel.reset();
   m_clipboardViewAdapter.reset();
   m_searchBarModel.reset();
@@ -68,6 +83,7 @@ QQmlEngine& Views::engine() {
     searchview::registerTypes();
     historyview::registerTypes();
     guideview::registerTypes();
+    settingsview::registerTypes();
     shellview::registerTypes();
     m_engine->addImageProvider(QStringLiteral("appicon"), new ImageCache(m_iconNaming));
   }
@@ -85,6 +101,14 @@ Views::Content Views::appContent() {
 Views::Content Views::gettingStartedContent() {
   return {QUrl(QStringLiteral("qrc:/qt-project.org/imports/Quillmonger/Guide/GettingStartedView.qml")),
           {{"model", QVariant::fromValue(m_gettingStartedModel.get())},
+           {"appearance", QVariant::fromValue(&m_appearance)}}};
+}
+
+Views::Content Views::settingsContent() {
+  m_ignoredAppsModel = std::make_unique<IgnoredAppsModel>(m_ignoreAppsViewModel());
+  return {QUrl(QStringLiteral("qrc:/qt-project.org/imports/Quillmonger/Settings/IgnorePane.qml")),
+          {{"settings", QVariant::fromValue(&m_ignoreSettings)},
+           {"apps", QVariant::fromValue(m_ignoredAppsModel.get())},
            {"appearance", QVariant::fromValue(&m_appearance)}}};
 }
 

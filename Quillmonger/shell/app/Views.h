@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QQmlEngine>
+#include <functional>
 #include <memory>
+#include <string>
 
 #include "Defaults/Defaults.h"
 #include "Platform/qt/QtQuickWindow.h"
@@ -11,6 +13,11 @@
 #include "Quillmonger/history/view/ImageCache.h"
 #include "Quillmonger/resources/Appearance.h"
 #include "Quillmonger/search/view/SearchBarModel.h"
+#include "Quillmonger/settings/panes/AppPickerViewModel.h"
+#include "Quillmonger/settings/panes/IgnoreAppsViewModel.h"
+#include "Quillmonger/settings/view/AppPickerWindow.h"
+#include "Quillmonger/settings/view/IgnoreSettings.h"
+#include "Quillmonger/settings/view/IgnoredAppsModel.h"
 #include "Quillmonger/shell/Quillmonger.h"
 #include "Quillmonger/shell/view/QtAlert.h"
 #include "Quillmonger/shell/windows/WindowSystem.h"
@@ -21,11 +28,14 @@ namespace quillmonger {
 /// their content is made afterwards, from what the logic owns. Main thread.
 class Views final {
  public:
-  /// Both outlive the views.
-  Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCache::IconNaming iconNaming);
+  /// All that is named here outlives the views.
+  Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCache::IconNaming iconNaming,
+        const AppPickerViewModel::Collaborators& applications);
 
   [[nodiscard]] platform::QtQuickWindow& appWindow() { return m_appWindow; }
   [[nodiscard]] platform::QtQuickWindow& gettingStartedWindow() { return m_gettingStartedWindow; }
+  [[nodiscard]] platform::QtQuickWindow& settingsWindow() { return m_settingsWindow; }
+  [[nodiscard]] AppPicker& appPicker() { return m_appPicker; }
   [[nodiscard]] Alert& alert() { return m_alert; }
 
   /// Before the first window is shown. Both are there until `close`.
@@ -39,19 +49,26 @@ class Views final {
   QQmlEngine& engine();
   [[nodiscard]] Content appContent();
   [[nodiscard]] Content gettingStartedContent();
+  [[nodiscard]] Content settingsContent();
 
   defaults::Defaults& m_defaults;
   ImageCache::IconNaming m_iconNaming;
   Appearance m_appearance;
   HistorySettings m_historySettings;
+  IgnoreSettings m_ignoreSettings;
+  std::function<std::string()> m_clipboardText;
+  std::function<IgnoreAppsViewModel&()> m_ignoreAppsViewModel;
   std::unique_ptr<SearchBarModel> m_searchBarModel;
   std::unique_ptr<ClipboardViewAdapter> m_clipboardViewAdapter;
   std::unique_ptr<GettingStartedModel> m_gettingStartedModel;
+  std::unique_ptr<IgnoredAppsModel> m_ignoredAppsModel;
   // Destroyed after the windows, whose views are its objects, and before what the views show.
   std::unique_ptr<QQmlEngine> m_engine;
   QtAlert m_alert;
   platform::QtQuickWindow m_appWindow;
   platform::QtQuickWindow m_gettingStartedWindow;
+  platform::QtQuickWindow m_settingsWindow;
+  AppPickerWindow m_appPicker;
 };
 
 }  // namespace quillmonger

@@ -20,7 +20,7 @@ CommandResult failed(std::string_view why) { return {1, {}, std::string(why) + "
 
 bool isStarting(const Command& command) {
   return command.kind == Command::Kind::toggle || command.kind == Command::Kind::show ||
-         command.kind == Command::Kind::open;
+         command.kind == Command::Kind::settings || command.kind == Command::Kind::open;
 }
 
 bool isAboutSettings(const Command& command) {
@@ -38,7 +38,7 @@ CommandResult Client::run(const CommandWords& words) const {
   if (isAboutSettings(command)) return runOnFile(command);
   if (!isStarting(command)) return failed("Quillmonger is not running.");
   // A freshly started program has nothing that "toggle" should hide.
-  return startAndAsk(command.kind == Command::Kind::open ? words : CommandWords{"show"});
+  return startAndAsk(command.kind == Command::Kind::toggle ? CommandWords{"show"} : words);
 }
 
 std::optional<CommandResult> Client::askRunning(const CommandWords& words) const {

@@ -53,6 +53,9 @@ CommandResult CommandLine::run(const Command& command) {
     case Command::Kind::show:
       m_operations.show();
       return {};
+    case Command::Kind::settings:
+      m_operations.settings();
+      return {};
     case Command::Kind::open:
       m_operations.openURLs(command.urls);
       return {};

@@ -18,6 +18,7 @@ constexpr std::string_view usage =
     "\n"
     "  toggle                        show the history, or hide it if it is showing\n"
     "  show                          show the history (also without a command)\n"
+    "  settings                      show the settings\n"
     "  list [--json]                 print the history, newest first\n"
     "  defaults read [NAME]          print one setting, or all\n"
     "  defaults write NAME VALUE     change a setting\n"
@@ -47,6 +48,11 @@ constexpr std::array forms{
          0,
          0,
          "usage: quillmonger show\n\nShows the history. Starts Quillmonger first if it is not running.\n"},
+    Form{Kind::settings,
+         {"settings", ""},
+         0,
+         0,
+         "usage: quillmonger settings\n\nShows the settings. Starts Quillmonger first if it is not running.\n"},
     Form{Kind::quit, {"quit", ""}, 0, 0, "usage: quillmonger quit\n\nEnds Quillmonger.\n"},
     Form{Kind::list,
          {"list", ""},

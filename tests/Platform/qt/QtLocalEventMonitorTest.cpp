@@ -18,6 +18,9 @@ constexpr quint32 x11Keycode(quint32 evdevKey) { return evdevKey + 8; }
 class KeyWindow final : public QWindow {
  public:
   int presses = 0;
+  QObject* focused = nullptr;
+
+  [[nodiscard]] QObject* focusObject() const override { return focused; }
 
  private:
   void keyPressEvent(QKeyEvent* /*event*/) override { ++presses; }
@@ -119,6 +122,29 @@ TEST_F(QtLocalEventMonitor, EndsWithItsHold) {
 
   EXPECT_TRUE(m_seen.empty());
   EXPECT_EQ(m_window.presses, 1);
+}
+
+TEST_F(QtLocalEventMonitor, LeavesTheKeysOfAModalWindowToIt) {
+  const auto monitor = addMonitor(Disposition::swallow);
+  m_window.setModality(Qt::WindowModal);
+
+  send(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, 28);
+
+  EXPECT_TRUE(m_seen.empty());
+  EXPECT_EQ(m_window.presses, 1);
+}
+
+TEST_F(QtLocalEventMonitor, LeavesAKeyToTheFocusedItemThatNamesItAsItsOwn) {
+  const auto monitor = addMonitor(Disposition::swallow);
+  QObject list;
+  list.setProperty("ownKeys", QVariantList{int(Qt::Key_Up), int(Qt::Key_Down)});
+  m_window.focused = &list;
+
+  send(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier, 108);
+  EXPECT_EQ(m_window.presses, 1);
+  send(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, 1);
+  EXPECT_EQ(m_window.presses, 1);
+  EXPECT_EQ(m_seen.size(), 1U);
 }
 
 }  // namespace

@@ -118,6 +118,27 @@ TEST_F(QtQuickWindowTest, GoesWhenTheApplicationHides) {
   EXPECT_FALSE(m_window.isVisible());
 }
 
+TEST_F(QtQuickWindowTest, IsAsLargeAsItsContentWantsToBeWhenNoSizeIsGiven) {
+  QTemporaryFile file(QStringLiteral("XXXXXX.qml"));
+  file.open();
+  file.write(
+      "import QtQuick\nItem { implicitWidth: 480; implicitHeight: rows.height; Column { id: rows; Item { width: 9; "
+      "height: 240 } } }");
+  file.close();
+  QtQuickWindow window({QtQuickWindow::Kind::dialog, QSize(), QStringLiteral("Title"),
+                        [&file] {
+                          return QtQuickWindow::Content{QUrl::fromLocalFile(file.fileName()), {}};
+                        },
+                        [this]() -> QQmlEngine& { return m_engine; }},
+                       m_system);
+
+  window.prepare();
+
+  EXPECT_EQ(window.view()->size(), QSize(480, 240));
+  EXPECT_EQ(window.view()->maximumSize(), QSize(480, 240));
+  EXPECT_EQ(window.view()->rootObject()->height(), 240);
+}
+
 TEST_F(QtQuickWindowTest, HoldsTheFrontWhileAnotherOfItsWindowsComesThere) {
   platform::QtApplication application(m_system);
   int resignedCount = 0;

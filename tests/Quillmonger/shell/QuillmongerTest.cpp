@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "Quillmonger/settings/SettingsKeys.h"
+#include "tests/support/FakeAppPicker.h"
 #include "tests/support/FakeApplication.h"
 #include "tests/support/FakeApplicationBundles.h"
 #include "tests/support/FakeApplicationNaming.h"
@@ -32,10 +33,13 @@ using quillmonger::KeyEvent;
 using Log = std::vector<std::string>;
 
 constexpr testsupport::FakeHotKeyService::Chord activateChord{9, 0x300};
+constexpr std::uint16_t commaKey = 43;
 constexpr std::uint16_t escapeKey = 53;
 constexpr std::uint16_t returnKey = 36;
-const Log shown{"application activate", "history center", "history makeKeyAndOrderFront", "ClipboardActivated"};
+const Log shown{"settings orderOut", "application activate", "history center", "history makeKeyAndOrderFront",
+                "ClipboardActivated"};
 const Log dismissed{"history orderOut", "application hide"};
+const Log settingsShown{"history orderOut", "application activate", "settings center", "settings makeKeyAndOrderFront"};
 
 // The whole logic, wired as the program wires it, on ports without a desktop.
 class QuillmongerTest : public testing::Test {
@@ -49,7 +53,7 @@ class QuillmongerTest : public testing::Test {
     root = std::make_unique<quillmonger::Quillmonger>(quillmonger::Quillmonger::Platform{
         runLoop, queue, notificationCenter, settings.defaults, shortcuts, context, pasteboard, bundleProvider, bundles,
         naming, pictures, testsupport::englishText, pasteKeys, eventMonitor, application, gettingStartedWindow,
-        appWindow});
+        appWindow, settingsWindow, picker});
     settle();
     return *root;
   }
@@ -102,6 +106,8 @@ class QuillmongerTest : public testing::Test {
   testsupport::FakeApplication application{log};
   testsupport::FakeWindow gettingStartedWindow{"guide", log};
   testsupport::FakeWindow appWindow{"history", log};
+  testsupport::FakeWindow settingsWindow{"settings", log};
+  testsupport::FakeAppPicker picker;
   foundation::Subscription activated =
       notificationCenter.observe("ClipboardActivated", [this](const auto&) { log.emplace_back("ClipboardActivated"); });
   std::unique_ptr<quillmonger::Quillmonger> root;
@@ -126,8 +132,8 @@ TEST_F(QuillmongerTest, EndsTheGuideWithTheNormalStartAndTheHistory) {
   root->finishGettingStarted();
   settle();
 
-  EXPECT_EQ(log, (Log{"guide orderOut", "application accessory", "application activate", "history center",
-                      "history makeKeyAndOrderFront", "ClipboardActivated"}));
+  EXPECT_EQ(log, (Log{"guide orderOut", "application accessory", "settings orderOut", "application activate",
+                      "history center", "history makeKeyAndOrderFront", "ClipboardActivated"}));
   EXPECT_FALSE(settings.defaults[keys::firstLaunch]);
   EXPECT_TRUE(hotKeys.isRegistered(activateChord));
 }
@@ -168,8 +174,8 @@ TEST_F(QuillmongerTest, ShowsAndTogglesTheHistoryOnceTheGuideIsOver) {
   root->show();
   settle();
 
-  EXPECT_EQ(log, (Log{"history orderOut", "application hide", "application activate", "history center",
-                      "history makeKeyAndOrderFront", "ClipboardActivated"}));
+  EXPECT_EQ(log, (Log{"history orderOut", "application hide", "settings orderOut", "application activate",
+                      "history center", "history makeKeyAndOrderFront", "ClipboardActivated"}));
 }
 
 TEST_F(QuillmongerTest, CapturesAtTheGuidesEndWhatWasCopiedMeanwhile) {
@@ -329,6 +335,93 @@ TEST_F(QuillmongerTest, KeepsItsWindowsWhenItLosesTheFrontBesideTheGuide) {
 
   EXPECT_EQ(log, Log{});
   EXPECT_TRUE(root->windowManager().isAuxiliaryWindowVisible());
+}
+
+TEST_F(QuillmongerTest, ShowsTheSettingsInsteadOfTheHistoryForControlAndComma) {
+  startAndShow();
+
+  EXPECT_TRUE(eventMonitor.press(commaKey, quillmonger::commandFlag));
+
+  EXPECT_EQ(log, settingsShown);
+}
+
+TEST_F(QuillmongerTest, ShowsTheSettingsAlsoWithoutTheHistory) {
+  start();
+  log.clear();
+
+  root->showSettings();
+
+  EXPECT_EQ(log, settingsShown);
+}
+
+TEST_F(QuillmongerTest, LeavesTheSettingsWhereTheyAreWhenTheyAreShownAlready) {
+  start();
+  root->showSettings();
+  log.clear();
+
+  root->showSettings();
+
+  EXPECT_EQ(log, (Log{"history orderOut", "application activate", "settings makeKeyAndOrderFront"}));
+}
+
+TEST_F(QuillmongerTest, ShowsTheSettingsBeforeTheGuideIsOver) {
+  settings.defaults.set(keys::firstLaunch, true);
+  start();
+  log.clear();
+
+  root->showSettings();
+
+  EXPECT_EQ(log, settingsShown);
+  EXPECT_TRUE(gettingStartedWindow.isVisible());
+}
+
+TEST_F(QuillmongerTest, ClosesTheSettingsAndShowsTheHistoryForTheChord) {
+  start();
+  root->showSettings();
+  log.clear();
+
+  pressChord();
+
+  EXPECT_EQ(log, shown);
+  EXPECT_FALSE(settingsWindow.isVisible());
+}
+
+TEST_F(QuillmongerTest, KeepsTheSettingsWhenTheUserGoesToAnotherApplication) {
+  start();
+  root->showSettings();
+  log.clear();
+
+  root->applicationDidResignActive();
+
+  EXPECT_EQ(log, Log{});
+  EXPECT_TRUE(root->windowManager().isAuxiliaryWindowVisible());
+}
+
+TEST_F(QuillmongerTest, HidesTheWholeApplicationForEscapeWhileTheSettingsHaveTheKeyboard) {
+  start();
+  root->showSettings();
+  log.clear();
+
+  EXPECT_TRUE(eventMonitor.press(escapeKey));
+
+  EXPECT_EQ(log, dismissed);
+}
+
+TEST_F(QuillmongerTest, DropsCopiesOfAnApplicationFromTheMomentThatItIsIgnored) {
+  const std::string editor = "file:///usr/share/applications/org.example.Editor.desktop";
+  bundles.add(editor, {"org.example.Editor", "Editor"});
+  bundleProvider.setFrontmostBundle({"org.example.Editor", foundation::Url::parse(editor)});
+  start();
+  copy("before");
+
+  root->ignoreAppsViewModel().addApp();
+  picker.decide(foundation::Url::parse(editor));
+  copy("ignored");
+  EXPECT_EQ(rowCount(), 1U);
+
+  root->ignoreAppsViewModel().removeApp(*root->ignoreAppsViewModel().selectedApp().value());
+  copy("after");
+  EXPECT_EQ(rowCount(), 2U);
 }
 
 TEST_F(QuillmongerTest, CountsTheHistoryAsNoAuxiliaryWindow) {

@@ -48,7 +48,8 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Combine(testing::Bool(),
                      testing::Values(Pair{"primary", "window"}, Pair{"secondary", "window"}, Pair{"tertiary", "window"},
                                      Pair{"accentColor", "window"}, Pair{"selectedPrimary", "highlightColor"},
-                                     Pair{"selectedSecondary", "highlightColor"}, Pair{"primary", "separator"})),
+                                     Pair{"selectedSecondary", "highlightColor"}, Pair{"primary", "separator"},
+                                     Pair{"primary", "field"}, Pair{"secondary", "field"}, Pair{"tertiary", "field"})),
     [](const testing::TestParamInfo<std::tuple<bool, Pair>>& row) {
       const Pair& pair = std::get<1>(row.param);
       return std::string(pair.text) + "_on_" + pair.background + (std::get<0>(row.param) ? "_dark" : "_light");

@@ -72,6 +72,18 @@ TEST_F(ClientTest, StartsTheProgramToToggleAndShowsThen) {
   EXPECT_EQ(heard, (std::vector<CommandWords>{{"show"}}));
 }
 
+TEST_F(ClientTest, StartsTheProgramToShowTheSettings) {
+  surroundings.startPatience = 5000ms;
+  surroundings.startApplication = [this] {
+    startProgram();
+    return true;
+  };
+
+  static_cast<void>(run({"settings"}));
+
+  EXPECT_EQ(heard, (std::vector<CommandWords>{{"settings"}}));
+}
+
 TEST_F(ClientTest, GivesUpOnAStartedProgramThatNeverAnswers) {
   EXPECT_EQ(run({"show"}).exitCode, 1);
   EXPECT_EQ(starts, 1);

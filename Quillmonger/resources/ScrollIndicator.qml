@@ -1,5 +1,4 @@
 import QtQuick
-import Quillmonger.Resources
 
 // Where the visible rows lie in the whole list. Dragging it scrolls.
 Item {

@@ -1,0 +1,136 @@
+#include "tests/gallery/SettingsScenes.h"
+
+#include <QDeadlineTimer>
+#include <QGuiApplication>
+#include <QImage>
+#include <QTest>
+#include <functional>
+#include <optional>
+
+#include "Quillmonger/settings/SettingsKeys.h"
+#include "tests/gallery/SettingsStage.h"
+
+namespace testsupport {
+
+namespace {
+
+struct Scene {
+  const char* name;
+  std::function<QQuickView&(SettingsStage&)> set;
+};
+
+void installAll(SettingsStage& stage) {
+  for (const auto& [name, kind] :
+       {std::pair("Calendar", "Dates"), std::pair("Editor", "Text Editor"), std::pair("Files", "File Manager"),
+        std::pair("Image Viewer", ""), std::pair("KeePassXC", "Password Manager"), std::pair("Mail", "Mail Client"),
+        std::pair("Music", "Player"), std::pair("Éditeur de partitions", ""), std::pair("Terminal", "Terminal"),
+        std::pair("Web", "Browser"),
+        std::pair("An application whose name is so long that no list can show all of it at once", ""),
+        std::pair("مدير الملفات", "")})
+    stage.install(name, kind);
+}
+
+void focus(QQuickView& view, const QString& identifier) {
+  view.requestActivate();
+  static_cast<void>(QTest::qWaitForWindowActive(&view));
+  find(view, identifier)->forceActiveFocus(Qt::TabFocusReason);
+}
+
+void ignoreMany(SettingsStage& stage) {
+  installAll(stage);
+  stage.ignore("KeePassXC");
+  stage.ignore("Terminal");
+  stage.ignore("An application whose name is so long that no list can show all of it at once");
+}
+
+QQuickView& loadedPicker(SettingsStage& stage) {
+  installAll(stage);
+  stage.pickerView().requestActivate();
+  stage.loadApplications();
+  return stage.pickerView();
+}
+
+QQuickView& search(SettingsStage& stage, const char* term) {
+  auto& view = loadedPicker(stage);
+  static_cast<void>(QTest::qWaitForWindowActive(&view));
+  for (const char* letter = term; *letter != 0; ++letter)
+    QTest::keyClick(&view, *letter);
+  return stage.pickerView();
+}
+
+const std::vector<Scene>& scenes() {
+  static const std::vector<Scene> all{
+      {"ignore-fresh", [](SettingsStage& stage) -> QQuickView& { return stage.pane(); }},
+      {"ignore-empty",
+       [](SettingsStage& stage) -> QQuickView& {
+         stage.ignoredApps().removeApp(stage.ignoredApps().apps().value().front());
+         stage.defaults().set(quillmonger::keys::ignoreImages, true);
+         return stage.pane();
+       }},
+      {"ignore-list",
+       [](SettingsStage& stage) -> QQuickView& {
+         ignoreMany(stage);
+         return stage.pane();
+       }},
+      {"ignore-list-focus",
+       [](SettingsStage& stage) -> QQuickView& {
+         ignoreMany(stage);
+         for (const char* name : {"Calendar", "Editor", "Files", "Mail"})
+           stage.ignore(name);
+         focus(stage.pane(), "IgnoredAppsList");
+         return stage.pane();
+       }},
+      {"ignore-switch-focus",
+       [](SettingsStage& stage) -> QQuickView& {
+         focus(stage.pane(), "IgnoreSensitiveToggle");
+         return stage.pane();
+       }},
+      {"ignore-button-focus",
+       [](SettingsStage& stage) -> QQuickView& {
+         focus(stage.pane(), "AddAppButton");
+         return stage.pane();
+       }},
+      {"ignore-menu",
+       [](SettingsStage& stage) -> QQuickView& {
+         ignoreMany(stage);
+         auto* row = findAll(stage.pane(), "IgnoredApp").at(1);
+         QTest::mouseClick(&stage.pane(), Qt::RightButton, {}, row->mapToScene(QPointF(150, 20)).toPoint());
+         return stage.pane();
+       }},
+      {"picker-loading", [](SettingsStage& stage) -> QQuickView& { return stage.pickerView(); }},
+      {"picker", loadedPicker},
+      {"picker-search", [](SettingsStage& stage) -> QQuickView& { return search(stage, "edi"); }},
+      {"picker-no-match", [](SettingsStage& stage) -> QQuickView& { return search(stage, "zebra"); }},
+      {"picker-none",
+       [](SettingsStage& stage) -> QQuickView& {
+         stage.pickerView();
+         stage.loadApplications();
+         return stage.pickerView();
+       }},
+  };
+  return all;
+}
+
+void save(const Scene& scene, const QDir& folder, quillmonger::ColorScheme scheme, const QString& suffix) {
+  SettingsStage stage;
+  stage.defaults().set<std::optional<quillmonger::ColorScheme>>(quillmonger::keys::selectedColorScheme, scheme);
+  QQuickView& view = scene.set(stage);
+  const QDeadlineTimer animationsEnd(250);
+  while (!animationsEnd.hasExpired())
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+  view.grabWindow().save(folder.filePath(QLatin1String(scene.name) + suffix));
+}
+
+}  // namespace
+
+void pictureSettings(const QDir& folder, quillmonger::ColorScheme scheme) {
+  const QString shade = scheme == quillmonger::ColorScheme::dark ? "-dark" : "-light";
+  for (const Scene& scene : scenes()) {
+    save(scene, folder, scheme, shade + ".png");
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    save(scene, folder, scheme, shade + "-mirrored.png");
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+  }
+}
+
+}  // namespace testsupport

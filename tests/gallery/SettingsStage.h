@@ -1,0 +1,81 @@
+#pragma once
+
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickView>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "Quillmonger/resources/Appearance.h"
+#include "Quillmonger/settings/panes/AppPickerViewModel.h"
+#include "Quillmonger/settings/panes/IgnoreAppsViewModel.h"
+#include "Quillmonger/settings/view/AppPickerModel.h"
+#include "Quillmonger/settings/view/IgnoreSettings.h"
+#include "Quillmonger/settings/view/IgnoredAppsModel.h"
+#include "tests/support/FakeAppPicker.h"
+#include "tests/support/FakeApplicationBundles.h"
+#include "tests/support/FakeInstalledApplications.h"
+#include "tests/support/InlineBackgroundQueue.h"
+#include "tests/support/TemporaryFolder.h"
+#include "tests/support/TestDefaults.h"
+#include "tests/support/VirtualRunLoop.h"
+
+namespace testsupport {
+
+/// The real views of the settings, on state that the caller sets. Needs the application object.
+class SettingsStage final {
+ public:
+  SettingsStage();
+  ~SettingsStage();
+
+  defaults::Defaults& defaults() { return m_defaults.defaults; }
+  quillmonger::IgnoreAppsViewModel& ignoredApps() { return m_ignoredApps; }
+  FakeAppPicker& picker() { return m_picker; }
+
+  /// Before the picker is built. The same name gives the same application.
+  void install(const std::string& name, const std::string& genericName = {});
+  /// An installed application's location.
+  [[nodiscard]] foundation::Url locationOf(const std::string& name) const;
+  void ignore(const std::string& name);
+  void setClipboardText(std::string text) { m_clipboardText = std::move(text); }
+  /// What the picker gave; absent while it is open, empty for none.
+  [[nodiscard]] const std::optional<std::string>& picked() const { return m_picked; }
+
+  /// The pane "ignore", as large as it wants to be. Built once, and laid out at each call.
+  QQuickView& pane();
+  /// The picker's list, before the applications have been read.
+  QQuickView& pickerView();
+  /// Lets the applications be read.
+  void loadApplications();
+
+ private:
+  QQuickView& show(std::unique_ptr<QQuickView>& view, const QString& file, const QVariantMap& properties);
+
+  TemporaryFolder m_folder;
+  TestDefaults m_defaults;
+  FakeApplicationBundles m_bundles;
+  FakeAppPicker m_picker;
+  FakeInstalledApplications m_installed;
+  InlineBackgroundQueue m_queue;
+  VirtualRunLoop m_runLoop;
+  std::string m_clipboardText;
+  std::optional<std::string> m_picked;
+  quillmonger::Appearance m_appearance;
+  quillmonger::IgnoreSettings m_settings;
+  quillmonger::IgnoreAppsViewModel m_ignoredApps;
+  quillmonger::IgnoredAppsModel m_ignoredAppsModel;
+  std::unique_ptr<quillmonger::AppPickerViewModel> m_pickerViewModel;
+  std::unique_ptr<quillmonger::AppPickerModel> m_pickerModel;
+  QQmlEngine m_engine;
+  std::unique_ptr<QQuickView> m_pane;
+  std::unique_ptr<QQuickView> m_pickerView;
+};
+
+/// The shown items of a view with this accessibility identifier, from top to bottom.
+std::vector<QQuickItem*> findAll(QQuickView& view, const QString& identifier);
+/// The first of them; null when none is shown.
+QQuickItem* find(QQuickView& view, const QString& identifier);
+
+}  // namespace testsupport
