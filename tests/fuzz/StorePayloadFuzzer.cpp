@@ -87,11 +87,12 @@ class Store final {
     try {
       if (input.byte() % 2 == 0) {
         auto item = m_database->prepare("INSERT INTO item VALUES (?, ?, ?, ?, ?, ?, ?)");
-        bindAll(item, input, {Usual::integer, Usual::blob, Usual::text, Usual::text, Usual::text, Usual::integer,
-                              Usual::integer});
+        bindAll(item, input,
+                {Usual::integer, Usual::blob, Usual::text, Usual::text, Usual::text, Usual::integer, Usual::integer});
       } else {
         auto payload = m_database->prepare("INSERT INTO payload VALUES (?, ?, ?, ?, ?, ?)");
-        bindAll(payload, input, {Usual::integer, Usual::text, Usual::blob, Usual::integer, Usual::integer, Usual::blob});
+        bindAll(payload, input,
+                {Usual::integer, Usual::text, Usual::blob, Usual::integer, Usual::integer, Usual::blob});
       }
     } catch (const StoreFailure&) {
       // The tables themselves refused it.

@@ -28,7 +28,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
   const auto list = platform::UriList::parse(text);
   fuzz::check(list.entries.size() <= platform::UriList::limit);
   for (const auto& entry : list.entries) {
-    fuzz::check(entry.url.find(':') != std::string::npos && entry.url.find_first_of("\r\n\0", 0, 3) == std::string::npos);
+    fuzz::check(entry.url.find(':') != std::string::npos &&
+                entry.url.find_first_of("\r\n\0", 0, 3) == std::string::npos);
     const auto url = foundation::Url::parse(entry.url);
     fuzz::check(!url || entry.isFile == (url->scheme() == "file"));
   }
