@@ -1,6 +1,7 @@
 #include "Platform/x11/X11Thread.h"
 
 #include <poll.h>
+#include <signal.h>
 #include <sys/eventfd.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -15,6 +16,14 @@ namespace {
 
 // A flood of events must not keep tasks and timers from running.
 constexpr int eventsPerTurn = 256;
+
+// A write to a connection that `stop` has shut down must be an error, not the end of the program.
+void blockPipeSignal() {
+  sigset_t signals{};
+  sigemptyset(&signals);
+  sigaddset(&signals, SIGPIPE);
+  pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+}
 
 const xcb_screen_t* screenAt(xcb_connection_t* connection, int index) {
   xcb_screen_iterator_t screens = xcb_setup_roots_iterator(xcb_get_setup(connection));
@@ -83,6 +92,7 @@ void X11Thread::wake() const {
 }
 
 void X11Thread::loop() {
+  blockPipeSignal();
   while (!m_isEnding) {
     bool didWork = handleEvents();
     didWork = fireTimers() || didWork;
