@@ -7,6 +7,7 @@
 #include <memory>
 #include <vector>
 
+#include "tests/support/CapturedOutput.h"
 #include "tests/support/PrivateDisplay.h"
 #include "tests/support/RealRunLoop.h"
 #include "tests/support/x11/KeyboardClient.h"
@@ -36,16 +37,10 @@ class X11PasteKeys : public testing::Test {
   }
   // Long enough for the wait to end in vain, told by the line that it prints then.
   [[nodiscard]] std::string outputOfAPasteInVain() {
-    testing::internal::CaptureStdout();
+    const testsupport::CapturedOutput output;
     m_pasteKeys->postPasteKeyEvents();
-    std::string output;
-    static_cast<void>(m_runLoop.runUntil([&output] {
-      std::cout.flush();
-      output += testing::internal::GetCapturedStdout();
-      testing::internal::CaptureStdout();
-      return output.find('\n') != std::string::npos;
-    }));
-    return output + testing::internal::GetCapturedStdout();
+    static_cast<void>(m_runLoop.runUntil([&output] { return output.text().ends_with('\n'); }));
+    return output.text();
   }
 
   const std::vector<Key> m_paste{{evdevControl, true, 0},
