@@ -1,7 +1,5 @@
 #include "KeyboardShortcuts/KeyboardShortcuts.h"
 
-#include <algorithm>
-#include <limits>
 #include <utility>
 
 #include "Defaults/UserDefaults.h"
@@ -12,24 +10,17 @@ namespace {
 
 std::string storageKey(const Name& name) { return "KeyboardShortcuts_" + name.rawValue; }
 
-bool fits32Bits(std::int64_t number) { return number >= 0 && number <= std::numeric_limits<std::uint32_t>::max(); }
-
-bool contains(const std::vector<Shortcut>& shortcuts, const Shortcut& shortcut) {
-  return std::find(shortcuts.begin(), shortcuts.end(), shortcut) != shortcuts.end();
-}
-
 }  // namespace
 
 KeyboardShortcuts::KeyboardShortcuts(HotKeyService& service, defaults::UserDefaults& store,
                                      foundation::NotificationCenter& notificationCenter)
-    : m_service(service), m_store(store), m_notificationCenter(notificationCenter) {
-  m_service.setHandler([this](std::uint32_t identifier, Kind kind) { dispatch(identifier, kind); });
-}
-
-KeyboardShortcuts::~KeyboardShortcuts() {
-  for (const auto& [identifier, shortcut] : m_hotKeys)
-    m_service.unregisterHotKey(identifier);
-  m_service.setHandler(nullptr);
+    : m_store(store), m_notificationCenter(notificationCenter), m_hotKeys(service) {
+  const auto observe = [&](const char* name, const std::function<void()>& action) {
+    m_observations.push_back(notificationCenter.observe(name, [action](const auto& /*told*/) { action(); }));
+  };
+  observe(menuDidBeginTracking, [this] { m_hotKeys.setMenuOpen(true); });
+  observe(menuDidEndTracking, [this] { m_hotKeys.setMenuOpen(false); });
+  observe("SauceSelectedKeyboardKeyCodesChanged", [this] { renewHotKeys(); });
 }
 
 void KeyboardShortcuts::declare(const Name& name) {
@@ -66,83 +57,74 @@ void KeyboardShortcuts::reset(const std::vector<Name>& names) {
 }
 
 foundation::Subscription KeyboardShortcuts::onKeyDown(const Name& name, Handler handler) {
-  return addHandler(Kind::pressed, name, std::move(handler));
+  return addHandler(EventType::keyDown, name, std::move(handler));
 }
 
 foundation::Subscription KeyboardShortcuts::onKeyUp(const Name& name, Handler handler) {
-  return addHandler(Kind::released, name, std::move(handler));
+  return addHandler(EventType::keyUp, name, std::move(handler));
 }
 
-foundation::Subscription KeyboardShortcuts::addHandler(Kind kind, const Name& name, Handler handler) {
+foundation::Subscription KeyboardShortcuts::addHandler(EventType type, const Name& name, Handler handler) {
   auto& bound = m_bound.try_emplace(name.rawValue).first->second;
   bound.name = name;
   auto subscription =
-      bound.handlers[kind].subscribe([handler = std::move(handler)](const Shortcut& /*fired*/) { handler(); });
-  updateHotKeys();
+      bound.handlers[type].subscribe([handler = std::move(handler)](const Shortcut& /*fired*/) { handler(); });
+  updateHotKey(bound);
   return subscription;
 }
 
 void KeyboardShortcuts::disable(const std::vector<Name>& names) {
-  for (const auto& name : names)
+  for (const auto& name : names) {
     m_disabled.insert(name.rawValue);
-  updateHotKeys();
+    updateHotKey(name);
+  }
 }
 
 void KeyboardShortcuts::enable(const std::vector<Name>& names) {
-  for (const auto& name : names)
+  for (const auto& name : names) {
     m_disabled.erase(name.rawValue);
-  updateHotKeys();
+    updateHotKey(name);
+  }
 }
 
-void KeyboardShortcuts::setEnabled(bool isEnabled) {
-  m_isEnabled = isEnabled;
-  updateHotKeys();
-}
+void KeyboardShortcuts::setEnabled(bool isEnabled) { m_hotKeys.setEnabled(isEnabled); }
 
 void KeyboardShortcuts::changed(const Name& name) {
-  updateHotKeys();
+  updateHotKey(name);
   m_notificationCenter.post("KeyboardShortcuts_shortcutByNameDidChange", nullptr, {{"name", name.rawValue}});
 }
 
-void KeyboardShortcuts::updateHotKeys() {
-  const auto wanted = wantedShortcuts();
-  std::erase_if(m_hotKeys, [&](const auto& hotKey) {
-    if (contains(wanted, hotKey.second)) return false;
-    m_service.unregisterHotKey(hotKey.first);
-    return true;
-  });
-  std::vector<Shortcut> registered;
-  for (const auto& [identifier, shortcut] : m_hotKeys)
-    registered.push_back(shortcut);
-  for (const auto& shortcut : wanted) {
-    if (!contains(registered, shortcut)) registerHotKey(shortcut);
+void KeyboardShortcuts::updateHotKey(const Name& name) {
+  if (const auto bound = m_bound.find(name.rawValue); bound != m_bound.end()) updateHotKey(bound->second);
+}
+
+void KeyboardShortcuts::updateHotKey(Bound& bound) {
+  const auto wanted = m_disabled.contains(bound.name.rawValue) ? std::nullopt : getShortcut(bound.name);
+  if (wanted == bound.registered) return;
+  endHotKey(bound);
+  if (!wanted) return;
+  const auto runAt = [this](EventType type) { return [this, type](const Shortcut& fired) { run(type, fired); }; };
+  if (m_hotKeys.registerShortcut(*wanted, runAt(EventType::keyDown), runAt(EventType::keyUp))) {
+    bound.registered = wanted;
   }
 }
 
-std::vector<Shortcut> KeyboardShortcuts::wantedShortcuts() const {
-  std::vector<Shortcut> wanted;
-  if (!m_isEnabled) return wanted;
-  for (const auto& [rawValue, bound] : m_bound) {
-    const auto shortcut = m_disabled.contains(rawValue) ? std::nullopt : getShortcut(bound.name);
-    if (shortcut && !contains(wanted, *shortcut)) wanted.push_back(*shortcut);
-  }
-  return wanted;
+void KeyboardShortcuts::endHotKey(Bound& bound) {
+  if (bound.registered) m_hotKeys.unregisterShortcut(*bound.registered);
+  bound.registered.reset();
 }
 
-void KeyboardShortcuts::registerHotKey(const Shortcut& shortcut) {
-  if (!fits32Bits(shortcut.carbonKeyCode) || !fits32Bits(shortcut.carbonModifiers)) return;
-  const std::uint32_t identifier = ++m_lastHotKeyId;
-  const auto keyCode = static_cast<std::uint32_t>(shortcut.carbonKeyCode);
-  const auto modifiers = static_cast<std::uint32_t>(shortcut.carbonModifiers);
-  if (m_service.registerHotKey(identifier, keyCode, modifiers)) m_hotKeys.emplace(identifier, shortcut);
+void KeyboardShortcuts::renewHotKeys() {
+  for (auto& [rawValue, bound] : m_bound)
+    endHotKey(bound);
+  for (auto& [rawValue, bound] : m_bound)
+    updateHotKey(bound);
 }
 
-void KeyboardShortcuts::dispatch(std::uint32_t identifier, Kind kind) {
-  const auto hotKey = m_hotKeys.find(identifier);
-  if (m_isPaused || hotKey == m_hotKeys.end()) return;
-  const Shortcut fired = hotKey->second;  // a copy: a handler may change the chords
+void KeyboardShortcuts::run(EventType type, const Shortcut& fired) {
+  if (m_isPaused) return;
   for (auto& [rawValue, bound] : m_bound) {
-    const auto handlers = bound.handlers.find(kind);
+    const auto handlers = bound.handlers.find(type);
     if (handlers == bound.handlers.end() || m_disabled.contains(rawValue)) continue;
     if (getShortcut(bound.name) == fired) handlers->second.send(fired);
   }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <map>
 #include <optional>
@@ -11,7 +10,7 @@
 #include "Foundation/NotificationCenter.h"
 #include "Foundation/Stream.h"
 #include "Foundation/Subscription.h"
-#include "KeyboardShortcuts/HotKeyService.h"
+#include "KeyboardShortcuts/CarbonKeyboardShortcuts.h"
 #include "KeyboardShortcuts/Name.h"
 
 namespace defaults {
@@ -24,17 +23,21 @@ namespace keyboardshortcuts {
 /// name is declared before it is used. A chord that the service refuses stays dead, without a word. Main thread.
 ///
 /// Posts "KeyboardShortcuts_shortcutByNameDidChange" when a stored chord was set, cleared or reset, with the raw value
-/// of its name under "name".
+/// of its name under "name". Whoever opens a menu that takes the keyboard posts `menuDidBeginTracking`, and
+/// `menuDidEndTracking` when it closes: the chords work meanwhile. "SauceSelectedKeyboardKeyCodesChanged" makes the
+/// chords known to the service anew.
 class KeyboardShortcuts final {
  public:
   using Handler = std::function<void()>;
+
+  static constexpr auto menuDidBeginTracking = "NSMenuDidBeginTrackingNotification";
+  static constexpr auto menuDidEndTracking = "NSMenuDidEndTrackingNotification";
 
   /// All outlive this object.
   KeyboardShortcuts(HotKeyService& service, defaults::UserDefaults& store,
                     foundation::NotificationCenter& notificationCenter);
   KeyboardShortcuts(const KeyboardShortcuts&) = delete;
   KeyboardShortcuts& operator=(const KeyboardShortcuts&) = delete;
-  ~KeyboardShortcuts();
 
   /// Stores the name's default chord if nothing is stored for the name. A chord that the user cleared stays cleared.
   void declare(const Name& name);
@@ -54,36 +57,35 @@ class KeyboardShortcuts final {
   void disable(const std::vector<Name>& names);
   void enable(const std::vector<Name>& names);
 
-  /// While false, the service has no chord at all.
-  [[nodiscard]] bool isEnabled() const { return m_isEnabled; }
+  /// While false, no chord works.
+  [[nodiscard]] bool isEnabled() const { return m_hotKeys.isEnabled(); }
   void setEnabled(bool isEnabled);
   /// While true, the chords stay with the service and run no handler.
   [[nodiscard]] bool isPaused() const { return m_isPaused; }
   void setPaused(bool isPaused) { m_isPaused = isPaused; }
 
  private:
-  using Kind = HotKeyService::Kind;
   struct Bound {
     Name name;
-    std::map<Kind, foundation::Stream<Shortcut>> handlers;
+    std::map<EventType, foundation::Stream<Shortcut>> handlers;
+    std::optional<Shortcut> registered;
   };
 
-  foundation::Subscription addHandler(Kind kind, const Name& name, Handler handler);
+  foundation::Subscription addHandler(EventType type, const Name& name, Handler handler);
   void changed(const Name& name);
-  void updateHotKeys();
-  [[nodiscard]] std::vector<Shortcut> wantedShortcuts() const;
-  void registerHotKey(const Shortcut& shortcut);
-  void dispatch(std::uint32_t identifier, Kind kind);
+  void updateHotKey(const Name& name);
+  void updateHotKey(Bound& bound);
+  void endHotKey(Bound& bound);
+  void renewHotKeys();
+  void run(EventType type, const Shortcut& fired);
 
-  HotKeyService& m_service;
   defaults::UserDefaults& m_store;
   foundation::NotificationCenter& m_notificationCenter;
+  CarbonKeyboardShortcuts m_hotKeys;
   std::map<std::string, Bound> m_bound;
   std::set<std::string> m_disabled;
-  std::map<std::uint32_t, Shortcut> m_hotKeys;  // with the service
-  std::uint32_t m_lastHotKeyId = 0;
-  bool m_isEnabled = true;
   bool m_isPaused = false;
+  std::vector<foundation::Subscription> m_observations;
 };
 
 }  // namespace keyboardshortcuts

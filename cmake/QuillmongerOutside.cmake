@@ -8,7 +8,7 @@ find_package(ICU REQUIRED COMPONENTS uc i18n)
 find_package(SQLite3 REQUIRED)
 find_package(nlohmann_json REQUIRED)
 pkg_check_modules(NETTLE REQUIRED IMPORTED_TARGET nettle)
-pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb xcb-xfixes xcb-xtest xcb-xkb xcb-keysyms)
+pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb xcb-xfixes xcb-xinput xcb-xtest xcb-xkb xcb-keysyms)
 pkg_check_modules(GLIB REQUIRED IMPORTED_TARGET glib-2.0)
 
 set(QUILLMONGER_OUTSIDE_posix_INCLUDES "^(sys/.*|arpa/.*|netinet/.*|dirent|errno|fcntl|poll|pwd|sched|signal|spawn|time|unistd)(\\.h)?$")

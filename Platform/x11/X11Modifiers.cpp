@@ -15,6 +15,10 @@ namespace {
 
 constexpr xcb_keycode_t usualLeftControl = 29 + x11KeycodeOffset;
 constexpr xcb_keycode_t usualLeftShift = 42 + x11KeycodeOffset;
+constexpr std::uint32_t commandBit = 0x100;
+constexpr std::uint32_t shiftBit = 0x200;
+constexpr std::uint32_t optionBit = 0x800;
+constexpr std::uint32_t controlBit = 0x1000;
 constexpr int modifierCount = 8;
 constexpr int columns = 4;  // of the keyboard mapping, where a modifier key's symbol can stand
 
@@ -49,6 +53,27 @@ X11Modifiers::X11Modifiers(xcb_connection_t* connection) : m_controlKey(usualLef
     const bool isLock = ((m_locks >> (index / keysPerModifier)) & 1U) != 0;
     if (keys[index] != 0 && !isLock) m_chordKeys.push_back(keys[index]);
   }
+}
+
+std::array<std::pair<std::uint32_t, std::uint16_t>, 4> X11Modifiers::bits() const {
+  return {{{commandBit, m_super},
+           {shiftBit, XCB_MOD_MASK_SHIFT},
+           {optionBit, m_alt},
+           {controlBit, XCB_MOD_MASK_CONTROL}}};
+}
+
+std::uint16_t X11Modifiers::state(std::uint32_t serviceModifiers) const {
+  unsigned state = 0;
+  for (const auto& [service, real] : bits())
+    state |= (serviceModifiers & service) != 0 ? real : 0U;
+  return static_cast<std::uint16_t>(state);
+}
+
+std::uint32_t X11Modifiers::serviceModifiers(std::uint16_t state) const {
+  std::uint32_t modifiers = 0;
+  for (const auto& [service, real] : bits())
+    modifiers |= (state & real) != 0 ? service : 0U;
+  return modifiers;
 }
 
 std::vector<std::uint16_t> X11Modifiers::lockCombinations() const {

@@ -2,7 +2,9 @@
 
 #include <xcb/xcb.h>
 
+#include <array>
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace platform {
@@ -14,9 +16,9 @@ class X11Modifiers final {
   /// Asks the server, and waits for it. What it doesn't answer stands as on an ordinary keyboard.
   explicit X11Modifiers(xcb_connection_t* connection);
 
-  /// Real modifiers as bits of an event's state.
-  [[nodiscard]] std::uint16_t super() const { return m_super; }
-  [[nodiscard]] std::uint16_t alt() const { return m_alt; }
+  /// A chord's modifiers, from the hot key service's bits to those of an event's state and back. Command is Super.
+  [[nodiscard]] std::uint16_t state(std::uint32_t serviceModifiers) const;
+  [[nodiscard]] std::uint32_t serviceModifiers(std::uint16_t state) const;
   /// Every set of lock modifiers that can be on, the empty one included: a chord counts with each of them.
   [[nodiscard]] std::vector<std::uint16_t> lockCombinations() const;
   /// The bits of all modifiers but the locks.
@@ -28,6 +30,8 @@ class X11Modifiers final {
   [[nodiscard]] xcb_keycode_t shiftKey() const { return m_shiftKey; }
 
  private:
+  [[nodiscard]] std::array<std::pair<std::uint32_t, std::uint16_t>, 4> bits() const;
+
   std::uint16_t m_super = XCB_MOD_MASK_4;
   std::uint16_t m_alt = XCB_MOD_MASK_1;
   std::uint16_t m_locks = XCB_MOD_MASK_LOCK;

@@ -1,0 +1,116 @@
+#include "Platform/x11/X11KeyGrabs.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <utility>
+#include <vector>
+
+#include "Foundation/Output.h"
+#include "Platform/x11/Xkb.h"
+
+namespace platform {
+
+namespace {
+
+using keyboardshortcuts::EventType;
+
+// Held keys then repeat their press alone, so that a release is one.
+void askForDetectableAutoRepeat(xcb_connection_t* connection) {
+  const auto use = xcb_xkb_use_extension(connection, XCB_XKB_MAJOR_VERSION, XCB_XKB_MINOR_VERSION);
+  std::free(xcb_xkb_use_extension_reply(connection, use, nullptr));
+  constexpr std::uint32_t flag = XCB_XKB_PER_CLIENT_FLAG_DETECTABLE_AUTO_REPEAT;
+  const auto set = xcb_xkb_per_client_flags(connection, XCB_XKB_ID_USE_CORE_KBD, flag, flag, 0, 0, 0);
+  std::free(xcb_xkb_per_client_flags_reply(connection, set, nullptr));
+}
+
+}  // namespace
+
+X11KeyGrabs::X11KeyGrabs(xcb_connection_t* connection, xcb_window_t root, Tell tell)
+    : m_connection(connection), m_root(root), m_modifiers(connection), m_tell(std::move(tell)) {
+  askForDetectableAutoRepeat(connection);
+}
+
+bool X11KeyGrabs::add(const Identifier& identifier, const Chord& chord) {
+  remove(identifier);
+  if (!isHeldByUs(chord) && !grab(chord)) return false;
+  m_chords.emplace(identifier, chord);
+  return true;
+}
+
+void X11KeyGrabs::remove(const Identifier& identifier) {
+  const auto removed = m_chords.extract(identifier);
+  if (!removed) return;
+  if (!isHeldByUs(removed.mapped())) ungrab(removed.mapped());
+  std::erase_if(m_held, [&identifier](const auto& held) { return held.second == identifier; });
+}
+
+void X11KeyGrabs::handle(const xcb_generic_event_t& event) {
+  switch (event.response_type & 0x7F) {
+    case XCB_KEY_PRESS:
+      press(reinterpret_cast<const xcb_key_press_event_t&>(event));
+      break;
+    case XCB_KEY_RELEASE:
+      release(reinterpret_cast<const xcb_key_release_event_t&>(event));
+      break;
+    case XCB_MAPPING_NOTIFY:
+      renew();
+      break;
+    default:
+      break;
+  }
+}
+
+bool X11KeyGrabs::isHeldByUs(const Chord& chord) const {
+  return std::ranges::any_of(m_chords, [&chord](const auto& entry) { return entry.second == chord; });
+}
+
+// All or nothing: a chord that works only while Num Lock is off would be worse than none.
+bool X11KeyGrabs::grab(const Chord& chord) {
+  const std::uint16_t state = m_modifiers.state(chord.serviceModifiers);
+  std::vector<xcb_void_cookie_t> requests;
+  for (const std::uint16_t locks : m_modifiers.lockCombinations()) {
+    requests.push_back(xcb_grab_key_checked(m_connection, 1, m_root, static_cast<std::uint16_t>(state | locks),
+                                            chord.key, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
+  }
+  bool isGranted = xcb_connection_has_error(m_connection) == 0;
+  for (const xcb_void_cookie_t request : requests) {
+    xcb_generic_error_t* error = xcb_request_check(m_connection, request);
+    isGranted = isGranted && error == nullptr;
+    std::free(error);
+  }
+  if (!isGranted) ungrab(chord);
+  return isGranted;
+}
+
+void X11KeyGrabs::ungrab(const Chord& chord) {
+  const std::uint16_t state = m_modifiers.state(chord.serviceModifiers);
+  for (const std::uint16_t locks : m_modifiers.lockCombinations()) {
+    xcb_ungrab_key(m_connection, chord.key, m_root, static_cast<std::uint16_t>(state | locks));
+  }
+}
+
+void X11KeyGrabs::press(const xcb_key_press_event_t& event) {
+  for (const auto& [identifier, chord] : m_chords) {
+    const std::uint16_t state = m_modifiers.state(chord.serviceModifiers);
+    if (chord.key != event.detail || (event.state & m_modifiers.chordMask()) != state) continue;
+    if (m_held.emplace(event.detail, identifier).second) m_tell(identifier, EventType::keyDown);
+    return;
+  }
+}
+
+// By the key alone: the modifiers may have been let go of before it.
+void X11KeyGrabs::release(const xcb_key_release_event_t& event) {
+  const auto held = m_held.extract(event.detail);
+  if (held) m_tell(held.mapped(), EventType::keyUp);
+}
+
+void X11KeyGrabs::renew() {
+  for (const auto& [identifier, chord] : m_chords)
+    ungrab(chord);
+  m_modifiers = X11Modifiers(m_connection);
+  for (const auto& [identifier, chord] : m_chords) {
+    if (!grab(chord)) foundation::printLine("A global shortcut was lost when the keyboard mapping changed.");
+  }
+}
+
+}  // namespace platform

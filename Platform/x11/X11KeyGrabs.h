@@ -1,0 +1,49 @@
+#pragma once
+
+#include <xcb/xcb.h>
+
+#include <functional>
+#include <map>
+
+#include "KeyboardShortcuts/HotKeyService.h"
+#include "Platform/x11/X11Modifiers.h"
+
+namespace platform {
+
+/// The chords that the server holds for us, as passive grabs of the root window. On the connection's thread.
+class X11KeyGrabs final {
+ public:
+  using Identifier = keyboardshortcuts::HotKeyIdentifier;
+  using Tell = std::function<void(const Identifier&, keyboardshortcuts::EventType)>;
+  struct Chord {
+    xcb_keycode_t key;
+    std::uint32_t serviceModifiers;
+    bool operator==(const Chord&) const = default;
+  };
+
+  /// `tell` is called on the connection's thread.
+  X11KeyGrabs(xcb_connection_t* connection, xcb_window_t root, Tell tell);
+
+  /// False when another program holds the chord.
+  bool add(const Identifier& identifier, const Chord& chord);
+  void remove(const Identifier& identifier);
+
+  void handle(const xcb_generic_event_t& event);
+
+ private:
+  bool grab(const Chord& chord);
+  void ungrab(const Chord& chord);
+  [[nodiscard]] bool isHeldByUs(const Chord& chord) const;
+  void press(const xcb_key_press_event_t& event);
+  void release(const xcb_key_release_event_t& event);
+  void renew();
+
+  xcb_connection_t* m_connection;
+  xcb_window_t m_root;
+  X11Modifiers m_modifiers;
+  Tell m_tell;
+  std::map<Identifier, Chord> m_chords;
+  std::map<xcb_keycode_t, Identifier> m_held;
+};
+
+}  // namespace platform
