@@ -1,16 +1,13 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <thread>
 
-#include "Defaults/CompositeUserDefaultsKeyObservation.h"
 #include "Defaults/Defaults.h"
 
 namespace {
 
 using namespace defaults;
 
-const Key<bool> flag{"flag", true};
 const Key<std::int64_t> number{"number", 10};
 const Key<std::string> name{"name", "x"};
 
@@ -77,10 +74,6 @@ INSTANTIATE_TEST_SUITE_P(
 
 class Observation : public testing::Test {
  protected:
-  std::function<void(const BaseChange&)> counting() {
-    return [this](const BaseChange&) { ++count; };
-  }
-
   UserDefaults store;
   Defaults settings{store};
   int count = 0;
@@ -213,93 +206,6 @@ TEST_F(Observation, MayOutliveItsStore) {
   EXPECT_EQ(count, 0);
 }
 
-TEST_F(Observation, OfSeveralKeysTellsOfEachInEachStore) {
-  UserDefaults other;
-  const CompositeUserDefaultsKeyObservation observation({{store, "number"}, {store, "flag"}, {other, "number"}},
-                                                        ObservationOptions::none, counting());
-
-  settings.set(number, 1);
-  settings.set(flag, false);
-  settings.set(name, "y");
-  Defaults(other).set(number, 2);
-  Defaults(other).set(flag, false);
-
-  EXPECT_EQ(count, 3);
-}
-
-TEST_F(Observation, OfSeveralKeysStartsWithANoticeOfEachWhenAsked) {
-  const CompositeUserDefaultsKeyObservation observation({{store, "number"}, {store, "flag"}},
-                                                        ObservationOptions::initial, counting());
-
-  EXPECT_EQ(count, 2);
-}
-
-TEST_F(Observation, OfSeveralKeysTellsAheadOfTheChangeToo) {
-  std::vector<bool> priors;
-  const CompositeUserDefaultsKeyObservation observation(
-      {{store, "number"}, {store, "flag"}}, ObservationOptions::prior,
-      [&](const BaseChange& change) { priors.push_back(change.isPrior); });
-
-  settings.set(number, 1);
-  settings.set(flag, false);
-
-  EXPECT_EQ(priors, (std::vector<bool>{true, false, true, false}));
-}
-
-TEST_F(Observation, OfSeveralKeysIsTiedToItsOwnerAsAWhole) {
-  auto owner = std::make_shared<int>();
-  CompositeUserDefaultsKeyObservation({{store, "number"}, {store, "flag"}}, ObservationOptions::none, counting())
-      .tieToLifetime(owner);
-
-  settings.set(number, 1);
-  settings.set(flag, false);
-  EXPECT_EQ(count, 2);
-  owner.reset();
-  settings.set(number, 2);
-  settings.set(flag, true);
-
-  EXPECT_EQ(count, 2);
-}
-
-TEST_F(Observation, OfSeveralKeysMayOutliveOneOfItsStores) {
-  auto other = std::make_unique<UserDefaults>();
-  CompositeUserDefaultsKeyObservation observation({{*other, "number"}, {store, "number"}}, ObservationOptions::none,
-                                                  counting());
-
-  other.reset();
-  settings.set(number, 1);
-  observation.invalidate();
-  settings.set(number, 2);
-
-  EXPECT_EQ(count, 1);
-}
-
-TEST_F(Observation, OfSeveralKeysIsNotSetOffByItsOwnCallbackWithoutPropagation) {
-  const CompositeUserDefaultsKeyObservation observation({{store, "number"}, {store, "flag"}}, ObservationOptions::none,
-                                                        [&](const BaseChange&) {
-                                                          ++count;
-                                                          Defaults::withoutPropagation([&] { settings.reset(flag); });
-                                                        });
-
-  settings.set(number, 1);
-
-  EXPECT_EQ(count, 1);
-}
-
-TEST_F(Observation, IsPublishedForSeveralKeysWithoutValues) {
-  const auto publisher = settings.publisher({number, flag, name}, ObservationOptions::initial);
-  auto subscription = publisher.subscribe([&] { ++count; });
-  EXPECT_EQ(count, 3);
-
-  settings.set(number, 1);
-  settings.set(flag, false);
-  EXPECT_EQ(count, 5);
-  subscription.cancel();
-  settings.set(number, 2);
-
-  EXPECT_EQ(count, 5);
-}
-
 TEST_F(Observation, IsPublishedToEachReceiverFromItsOwnStart) {
   Recorder early;
   Recorder late;
@@ -322,56 +228,6 @@ TEST_F(Observation, IsNotMadeByAPublisherThatNobodySubscribedTo) {
   settings.set(number, 1);
 
   EXPECT_EQ(count, 1);
-}
-
-class WithoutPropagation : public Observation {
- protected:
-  UserDefaultsKeyObservation one = settings.observe(flag, ObservationOptions::prior, [this](const auto&) { ++count; });
-  CompositeUserDefaultsKeyObservation several{{{store, "flag"}}, ObservationOptions::none, counting()};
-};
-
-TEST_F(WithoutPropagation, AWriteCallsNoCallbackOfItsThread) {
-  Defaults::withoutPropagation([&] { settings.set(flag, false); });
-
-  EXPECT_FALSE(settings[flag]);
-  EXPECT_EQ(count, 0);
-}
-
-TEST_F(WithoutPropagation, TheSameWriteOfAnotherThreadCallsThemThere) {
-  Defaults::withoutPropagation([&] { std::thread([&] { settings.set(flag, false); }).join(); });
-
-  EXPECT_EQ(count, 3);
-}
-
-TEST_F(WithoutPropagation, TheWritesAfterItCallThemAgain) {
-  Defaults::withoutPropagation([] {});
-  settings.set(flag, false);
-
-  EXPECT_EQ(count, 3);
-}
-
-TEST_F(WithoutPropagation, IsNotNested) {
-  Defaults::withoutPropagation([&] {
-    Defaults::withoutPropagation([] {});
-    settings.set(flag, false);
-  });
-
-  EXPECT_EQ(count, 3);
-}
-
-TEST_F(WithoutPropagation, EndsWithABodyThatThrows) {
-  EXPECT_THROW(Defaults::withoutPropagation([] { throw 1; }), int);
-  settings.set(flag, false);
-
-  EXPECT_EQ(count, 3);
-}
-
-TEST_F(WithoutPropagation, HoldsBackTheInitialNoticeToo) {
-  Defaults::withoutPropagation([&] {
-    const auto observation = settings.observe(flag, ObservationOptions::initial, [this](const auto&) { ++count; });
-  });
-
-  EXPECT_EQ(count, 0);
 }
 
 }  // namespace
