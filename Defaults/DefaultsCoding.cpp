@@ -1,12 +1,17 @@
 #include "Defaults/DefaultsFile.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
+#include <chrono>
 #include <cmath>
 #include <cstdint>
 #include <limits>
 #include <nlohmann/json.hpp>
 #include <utility>
+
+#include "Defaults/Base64.h"
+#include "Defaults/JsonDepth.h"
 
 namespace defaults {
 
@@ -15,26 +20,6 @@ namespace {
 using Json = nlohmann::json;
 
 constexpr int version = 1;
-
-// The parser and the destructor of a document must never meet a document that is deeper than ours can be.
-bool isDepthBounded(std::string_view text) {
-  int depth = 0;
-  bool isInString = false;
-  for (std::size_t index = 0; index < text.size(); ++index) {
-    const char character = text[index];
-    if (isInString) {
-      if (character == '\\') ++index;
-      if (character == '"') isInString = false;
-    } else if (character == '"') {
-      isInString = true;
-    } else if (character == '{' || character == '[') {
-      if (++depth > DefaultsFile::depthLimit) return false;
-    } else if (character == '}' || character == ']') {
-      --depth;
-    }
-  }
-  return true;
-}
 
 // JSON has no words for these.
 Json encodeNumber(double value) {
@@ -72,30 +57,41 @@ std::optional<float> decodeFloat(const Json& json) {
   return static_cast<float>(*number);
 }
 
+std::int64_t encodeDate(foundation::Date date) {
+  return std::chrono::duration_cast<std::chrono::nanoseconds>(date.time_since_epoch()).count();
+}
+
+foundation::Date decodeDate(std::int64_t nanoseconds) {
+  return foundation::Date(
+      std::chrono::duration_cast<foundation::Date::duration>(std::chrono::nanoseconds(nanoseconds)));
+}
+
+Json encodeObject(const Object& object);
+
 struct Encoder {
   Json operator()(bool value) const { return {{"bool", value}}; }
   Json operator()(std::int64_t value) const { return {{"integer", value}}; }
   Json operator()(float value) const { return {{"float", encodeFloat(value)}}; }
   Json operator()(double value) const { return {{"double", encodeNumber(value)}}; }
   Json operator()(const std::string& value) const { return {{"string", value}}; }
-  Json operator()(const std::vector<std::string>& value) const { return {{"strings", value}}; }
+  Json operator()(foundation::Date value) const { return {{"date", encodeDate(value)}}; }
+  Json operator()(const Bytes& value) const { return {{"data", encodeBase64(value)}}; }
+  Json operator()(const Object::List& list) const {
+    const bool isStrings = std::ranges::all_of(list, [](const auto& each) { return each.template as<std::string>(); });
+    Json elements = Json::array();
+    for (const auto& element : list)
+      elements.push_back(isStrings ? Json(*element.as<std::string>()) : encodeObject(element));
+    return {{isStrings ? "strings" : "list", std::move(elements)}};
+  }
+  Json operator()(const Object::Map& map) const {
+    Json elements = Json::object();
+    for (const auto& [name, element] : map)
+      elements[name] = encodeObject(element);
+    return {{"map", std::move(elements)}};
+  }
 };
 
-template <typename T>
-std::optional<Object> asObject(std::optional<T> value) {
-  return value.has_value() ? std::optional<Object>(std::in_place, std::in_place_type<T>, *std::move(value))
-                           : std::nullopt;
-}
-
-std::optional<std::vector<std::string>> decodeStrings(const Json& json) {
-  if (!json.is_array()) return std::nullopt;
-  std::vector<std::string> strings;
-  for (const auto& element : json) {
-    if (!element.is_string()) return std::nullopt;
-    strings.push_back(element.get<std::string>());
-  }
-  return strings;
-}
+Json encodeObject(const Object& object) { return std::visit(Encoder(), object.value()); }
 
 std::optional<std::int64_t> decodeInteger(const Json& json) {
   if (!json.is_number_integer()) return std::nullopt;
@@ -106,16 +102,55 @@ std::optional<std::int64_t> decodeInteger(const Json& json) {
   return json.get<std::int64_t>();
 }
 
+std::optional<Object> decodeObject(const Json& json);
+
+std::optional<Object> decodeString(const Json& json) {
+  return json.is_string() ? std::optional<Object>(json.get<std::string>()) : std::nullopt;
+}
+
+std::optional<Object> decodeList(const Json& json, std::optional<Object> decodeElement(const Json&)) {
+  if (!json.is_array()) return std::nullopt;
+  Object::List list;
+  for (const auto& element : json) {
+    auto object = decodeElement(element);
+    if (!object.has_value()) return std::nullopt;
+    list.push_back(*std::move(object));
+  }
+  return Object(std::move(list));
+}
+
+std::optional<Object> decodeMap(const Json& json) {
+  if (!json.is_object()) return std::nullopt;
+  Object::Map map;
+  for (const auto& [name, element] : json.items()) {
+    auto object = decodeObject(element);
+    if (!object.has_value()) return std::nullopt;
+    map.emplace(name, *std::move(object));
+  }
+  return Object(std::move(map));
+}
+
+std::optional<Object> decodeData(const Json& json) {
+  return json.is_string() ? decodeBase64(json.get_ref<const std::string&>()) : std::nullopt;
+}
+
 std::optional<Object> decodeObject(const Json& json) {
   if (!json.is_object() || json.size() != 1) return std::nullopt;
   const std::string& kind = json.begin().key();
   const Json& value = json.begin().value();
   if (kind == "bool" && value.is_boolean()) return Object(value.get<bool>());
-  if (kind == "integer") return asObject(decodeInteger(value));
-  if (kind == "float") return asObject(decodeFloat(value));
-  if (kind == "double") return asObject(decodeNumber(value));
-  if (kind == "string" && value.is_string()) return Object(value.get<std::string>());
-  if (kind == "strings") return asObject(decodeStrings(value));
+  if (kind == "integer") return decodeInteger(value);
+  if (kind == "float") return decodeFloat(value);
+  if (kind == "double") return decodeNumber(value);
+  if (kind == "string") return decodeString(value);
+  if (kind == "date") {
+    const auto nanoseconds = decodeInteger(value);
+    return nanoseconds.has_value() ? std::optional<Object>(decodeDate(*nanoseconds)) : std::nullopt;
+  }
+  if (kind == "data") return decodeData(value);
+  if (kind == "strings") return decodeList(value, decodeString);
+  if (kind == "list") return decodeList(value, decodeObject);
+  if (kind == "map") return decodeMap(value);
   return std::nullopt;
 }
 
@@ -124,7 +159,7 @@ std::string dump(const Json& json, int indent) { return json.dump(indent, ' ', f
 }  // namespace
 
 std::optional<DefaultsFile::Content> DefaultsFile::decode(std::string_view text) {
-  if (text.size() > sizeLimit || !isDepthBounded(text)) return std::nullopt;
+  if (text.size() > sizeLimit || !isDepthBounded(text, depthLimit)) return std::nullopt;
   const Json document = Json::parse(text, nullptr, false);
   if (!document.is_object() || !document.contains("version") || document["version"] != version) return std::nullopt;
   const auto values = document.find("values");
@@ -145,7 +180,7 @@ std::string DefaultsFile::encode(const Content& content) {
   for (const auto& [name, text] : content.unknown)
     values[name] = Json::parse(text, nullptr, false);
   for (const auto& [name, object] : content.values)
-    values[name] = std::visit(Encoder(), object);
+    values[name] = encodeObject(object);
   return dump({{"version", version}, {"values", std::move(values)}}, 2) + "\n";
 }
 

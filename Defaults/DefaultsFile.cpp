@@ -119,13 +119,14 @@ void DefaultsFile::setAside(foundation::Date now) const {
 }
 
 foundation::Outcome DefaultsFile::write(const Content& content) const {
+  const auto text = encode(content);
+  if (text.size() > sizeLimit) return foundation::Error{"the settings are too large"};
   const auto folder = m_path.parent_path();
   makePrivateFolder(folder);
   std::string temporary = m_path.string() + ".XXXXXX";
   const Descriptor file(mkostemp(temporary.data(), O_CLOEXEC));
   if (!file.isOpen()) return systemError("create");
-  if (!writeAll(file.value(), encode(content)) || fsync(file.value()) != 0 ||
-      rename(temporary.c_str(), m_path.c_str()) != 0) {
+  if (!writeAll(file.value(), text) || fsync(file.value()) != 0 || rename(temporary.c_str(), m_path.c_str()) != 0) {
     const auto error = systemError("write");
     unlink(temporary.c_str());
     return error;

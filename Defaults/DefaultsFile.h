@@ -16,11 +16,21 @@ namespace defaults {
 ///
 ///   {"version": 1, "values": {"historySize": {"integer": 10}, "soundVolume": {"float": 0.45}}}
 ///
-/// Kinds: "bool", "integer", "float", "double", "string", "strings". One thread at a time.
+/// | Kind | Value |
+/// |---|---|
+/// | "bool", "integer", "float", "double", "string" | itself; a number that is not finite is "nan", "inf" or "-inf" |
+/// | "date" | nanoseconds since the start of 1970 in UTC |
+/// | "data" | Base64 |
+/// | "strings" | a list that holds nothing but strings |
+/// | "list" | any other list, each element beside its kind |
+/// | "map" | an object, each element beside its kind |
+///
+/// One thread at a time.
 class DefaultsFile final {
  public:
   static constexpr std::size_t sizeLimit = std::size_t{4} << 20U;
-  static constexpr int depthLimit = 16;
+  /// Of lists and objects within each other. The deepest value that a store takes fits: each of its levels is two here.
+  static constexpr int depthLimit = 3 + 2 * Object::depthLimit;
 
   struct Content {
     Objects values;
@@ -37,7 +47,7 @@ class DefaultsFile final {
   /// and reads as empty; so does one that can't be opened, which stays.
   [[nodiscard]] Content read(foundation::Date now) const;
   /// Replaces the file in one step: at any moment either the old or the new content is there. Makes the folder. Reached
-  /// the disk when it returns.
+  /// the disk when it returns. Fails for what `read` would refuse for its size.
   foundation::Outcome write(const Content& content) const;
 
   /// Absent for anything but a whole, well-formed file within the limits.

@@ -4,19 +4,23 @@
 #include <string>
 #include <utility>
 
-#include "Defaults/Bridge.h"
+#include "Defaults/AnyKey.h"
+#include "Defaults/Bridges.h"
 
 namespace defaults {
 
 /// One setting: the name it is stored under, its value type and its default. Lives for the whole process. Any thread.
 template <typename T>
-class Key final {
+class Key final : public AnyKey {
  public:
   using Value = T;
 
-  Key(std::string name, T defaultValue) : m_name(std::move(name)), m_defaultValue(std::move(defaultValue)) {}
+  /// In the store of the `Defaults` that it is used with.
+  Key(std::string name, T defaultValue) : AnyKey(std::move(name), nullptr), m_defaultValue(std::move(defaultValue)) {}
+  /// In a store of its own, which outlives the key's use.
+  Key(std::string name, T defaultValue, UserDefaults& suite)
+      : AnyKey(std::move(name), &suite), m_defaultValue(std::move(defaultValue)) {}
 
-  [[nodiscard]] const std::string& name() const { return m_name; }
   [[nodiscard]] const T& defaultValue() const { return m_defaultValue; }
 
   /// The value of a stored form; the default when there is none or it is of the wrong kind.
@@ -26,7 +30,6 @@ class Key final {
   }
 
  private:
-  std::string m_name;
   T m_defaultValue;
 };
 

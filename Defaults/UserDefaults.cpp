@@ -3,11 +3,18 @@
 #include <atomic>
 #include <utility>
 
+#include "Foundation/Output.h"
+
 namespace defaults {
 
 namespace {
 
 thread_local bool isHoldingBack = false;
+
+struct HoldingBack {
+  HoldingBack() { isHoldingBack = true; }
+  ~HoldingBack() { isHoldingBack = false; }
+};
 
 bool wantsPrior(ObservationOptions options) { return options == ObservationOptions::prior; }
 
@@ -42,7 +49,14 @@ std::optional<Object> UserDefaults::objectForKey(std::string_view name) const {
   return find(name);
 }
 
-void UserDefaults::setObject(std::string_view name, Object object) { change(name, std::move(object)); }
+void UserDefaults::setObject(std::string_view name, Object object) {
+  if (object.isDeeperThan(Object::depthLimit)) {
+    foundation::printLine("Defaults: a value is nested too deeply and is not stored: ", name);
+    removeObject(name);
+  } else {
+    change(name, std::move(object));
+  }
+}
 
 void UserDefaults::removeObject(std::string_view name) { change(name, std::nullopt); }
 
@@ -113,19 +127,22 @@ foundation::Subscription UserDefaults::addObserver(std::string_view name, Observ
     m_observers->push_back(entry);
   }
   if (wantsInitial(options) && !isHoldingBack) {
-    entry->observer({.isPrior = false, .newValue = objectForKey(name), .oldValue = std::nullopt});
+    entry->observer({.newValue = objectForKey(name), .oldValue = std::nullopt});
   }
-  return foundation::Subscription([entry, observers = std::weak_ptr(m_observers), mutex = m_observersMutex] {
-    entry->isActive = false;
-    const std::lock_guard lock(*mutex);
-    if (const auto present = observers.lock()) std::erase(*present, entry);
-  });
+  // The store alone owns the observer, so that one which holds its own subscription goes with the store.
+  return foundation::Subscription(
+      [weak = std::weak_ptr(entry), observers = std::weak_ptr(m_observers), mutex = m_observersMutex] {
+        const auto ended = weak.lock();  // until after the lock: what the observer holds may use the store as it goes
+        if (!ended) return;
+        ended->isActive = false;
+        const std::lock_guard lock(*mutex);
+        if (const auto present = observers.lock()) std::erase(*present, ended);
+      });
 }
 
 void UserDefaults::withoutPropagation(const std::function<void()>& body) {
-  isHoldingBack = true;
+  const HoldingBack hold;
   body();
-  isHoldingBack = false;
 }
 
 void UserDefaults::didChange(std::string_view) {}

@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <functional>
-#include <map>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -15,13 +14,17 @@
 
 namespace defaults {
 
-using Objects = std::map<std::string, Object, std::less<>>;
+using Objects = Object::Map;
 
 /// Which notices an observer wants besides those after each change. `initialAndPrior` acts as `initial`.
 enum class ObservationOptions : std::uint8_t { none, initial, prior, initialAndPrior };
 
+/// What was done to a key's value. A setting is only ever set as a whole.
+enum class ChangeKind : std::uint8_t { setting };
+
 /// One change, untyped. A removed entry's `newValue` is the registered default, if there is one.
 struct BaseChange {
+  ChangeKind kind = ChangeKind::setting;
   /// Ahead of the change: `newValue` is absent then.
   bool isPrior = false;
   std::optional<Object> newValue;
@@ -43,6 +46,8 @@ class UserDefaults {
 
   /// The stored object, or the registered one.
   [[nodiscard]] std::optional<Object> objectForKey(std::string_view name) const;
+  /// An object deeper than `Object::depthLimit` is not stored: a line on standard output says so, and the entry is
+  /// removed.
   void setObject(std::string_view name, Object object);
   void removeObject(std::string_view name);
   /// What `objectForKey` answers for a name that nothing is stored under. Never written; observers aren't told.

@@ -31,7 +31,7 @@ void KeyboardShortcuts::declare(const Name& name) {
 std::optional<Shortcut> KeyboardShortcuts::getShortcut(const Name& name) const {
   const auto object = m_store.objectForKey(storageKey(name));
   if (!object) return std::nullopt;
-  const auto* text = std::get_if<std::string>(&*object);
+  const auto* text = object->as<std::string>();
   return text == nullptr ? std::nullopt : Shortcut::fromJson(*text);
 }
 

@@ -1,8 +1,10 @@
 #pragma once
 
-#include <optional>
+#include <array>
+#include <cstdint>
+#include <utility>
 
-#include "Defaults/Bridge.h"
+#include "Defaults/RawRepresentableBridge.h"
 
 namespace quillmonger {
 
@@ -11,9 +13,8 @@ enum class ColorScheme { light, dark };
 
 }  // namespace quillmonger
 
-/// Stored as 1 (light) or 2 (dark); 0 and any other integer stand for no forced scheme.
+/// 0 and any other integer stand for no forced scheme.
 template <>
-struct defaults::Bridge<quillmonger::ColorScheme> {
-  static std::optional<Object> serialize(quillmonger::ColorScheme value);
-  static std::optional<quillmonger::ColorScheme> deserialize(const Object& object);
-};
+inline constexpr auto defaults::rawValues<quillmonger::ColorScheme> =
+    std::to_array<std::pair<quillmonger::ColorScheme, std::int64_t>>({{quillmonger::ColorScheme::light, 1},
+                                                                      {quillmonger::ColorScheme::dark, 2}});

@@ -69,7 +69,7 @@ template <>
 struct TextForm<TruncationMode> {
   static constexpr std::string_view expected = "\"head\", \"middle\" or \"tail\"";
   static std::string text(TruncationMode value) {
-    return std::get<std::string>(*defaults::Bridge<TruncationMode>::serialize(value));
+    return *defaults::Bridge<TruncationMode>::serialize(value)->as<std::string>();
   }
   static std::optional<TruncationMode> parse(std::string_view text) {
     for (const auto mode : {TruncationMode::head, TruncationMode::middle, TruncationMode::tail}) {

@@ -9,7 +9,7 @@ std::optional<defaults::Object> defaults::Bridge<TruncationMode>::serialize(Trun
 }
 
 std::optional<TruncationMode> defaults::Bridge<TruncationMode>::deserialize(const Object& object) {
-  const auto* text = std::get_if<std::string>(&object);
+  const auto* text = object.as<std::string>();
   if (text == nullptr) return std::nullopt;
   if (*text == "head") return TruncationMode::head;
   if (*text == "middle") return TruncationMode::middle;

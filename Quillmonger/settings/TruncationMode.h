@@ -4,6 +4,7 @@
 #include <string>
 
 #include "Defaults/Bridge.h"
+#include "Defaults/Object.h"
 
 namespace quillmonger {
 

@@ -39,7 +39,10 @@ DefaultsFile::Content example() {
            {"volume", 0.45F},
            {"delay", 0.15},
            {"name", std::string("\"quoted\" \\ ü\n")},
-           {"list", std::vector<std::string>{"a", ""}}},
+           {"list", Object::List{std::string("a"), std::string()}},
+           {"moment", foundation::Date(std::chrono::nanoseconds(-1))},
+           {"bytes", defaults::Bytes{1, 2, 3}},
+           {"map", Object::Map{{"a", Object::List{true, 0.5F}}}}},
           {}};
 }
 
@@ -79,7 +82,7 @@ TEST_F(DefaultsFileTest, GivesBackNumbersAtTheLimitsOfTheirKinds) {
 TEST_F(DefaultsFileTest, GivesBackNotANumber) {
   const auto content = DefaultsFile::decode(DefaultsFile::encode({{{"a", std::nan("")}}, {}}));
 
-  EXPECT_TRUE(std::isnan(std::get<double>(content->values.at("a"))));
+  EXPECT_TRUE(std::isnan(*content->values.at("a").as<double>()));
 }
 
 TEST_F(DefaultsFileTest, GivesBackEveryFloatExactly) {
@@ -157,6 +160,14 @@ TEST_F(DefaultsFileTest, TakesAFileOfMoreThanTheLimitForDamaged) {
   EXPECT_FALSE(fs::exists(path));
 }
 
+TEST_F(DefaultsFileTest, WritesNoFileThatWouldBeTakenForDamaged) {
+  ASSERT_TRUE(file.write(example()));
+
+  EXPECT_FALSE(file.write({{{"a", std::string(DefaultsFile::sizeLimit, 'a')}}, {}}));
+
+  EXPECT_EQ(read().values, example().values);
+}
+
 TEST_F(DefaultsFileTest, DoesNotWaitForAPipeOfItsName) {
   fs::create_directories(path.parent_path());
   ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
@@ -165,11 +176,11 @@ TEST_F(DefaultsFileTest, DoesNotWaitForAPipeOfItsName) {
 }
 
 TEST_F(DefaultsFileTest, KeepsEntriesOfUnknownKinds) {
-  const std::string unknown = R"({"version":1,"values":{"new":{"date":"2030-01-01"},"odd":7,"known":{"bool":true}}})";
+  const std::string unknown = R"({"version":1,"values":{"new":{"color":"red"},"odd":7,"known":{"bool":true}}})";
 
   const auto content = DefaultsFile::decode(DefaultsFile::encode(*DefaultsFile::decode(unknown)));
 
-  EXPECT_EQ(content->unknown.at("new"), R"({"date":"2030-01-01"})");
+  EXPECT_EQ(content->unknown.at("new"), R"({"color":"red"})");
   EXPECT_EQ(content->unknown.at("odd"), "7");
   EXPECT_EQ(content->values.at("known"), Object(true));
 }

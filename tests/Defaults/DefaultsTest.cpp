@@ -2,13 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <thread>
-
 namespace {
 
 using defaults::Defaults;
 using defaults::Key;
-using defaults::KeyChange;
 using defaults::ObservationOptions;
 using defaults::UserDefaults;
 
@@ -87,43 +84,6 @@ TEST(Defaults, RemovesEveryStoredObjectButNoRegisteredOne) {
   EXPECT_EQ(store.dictionaryRepresentation(), (defaults::Objects{{"flag", true}}));
 }
 
-struct Seen {
-  bool isPrior;
-  std::int64_t newValue;
-  std::int64_t oldValue;
-  bool operator==(const Seen&) const = default;
-};
-
-struct ObservationCase {
-  const char* name;
-  ObservationOptions options;
-  std::vector<Seen> expected;
-};
-
-class Observation : public testing::TestWithParam<ObservationCase> {};
-
-TEST_P(Observation, TellsWhatItsOptionsAskFor) {
-  UserDefaults store;
-  Defaults settings(store);
-  std::vector<Seen> seen;
-  const auto hold = settings.observe<std::int64_t>(number, GetParam().options, [&](const auto& change) {
-    seen.push_back({change.isPrior, change.newValue, change.oldValue});
-  });
-
-  settings.set(number, std::int64_t{50});
-
-  EXPECT_EQ(seen, GetParam().expected);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Options, Observation,
-    testing::Values(ObservationCase{"None", ObservationOptions::none, {{false, 50, 10}}},
-                    ObservationCase{"Initial", ObservationOptions::initial, {{false, 10, 10}, {false, 50, 10}}},
-                    ObservationCase{"Prior", ObservationOptions::prior, {{true, 10, 10}, {false, 50, 10}}},
-                    ObservationCase{
-                        "InitialAndPrior", ObservationOptions::initialAndPrior, {{false, 10, 10}, {false, 50, 10}}}),
-    [](const auto& row) { return row.param.name; });
-
 TEST(Defaults, TellsNothingOfOtherKeysAndNothingAfterTheEndOfTheObservation) {
   UserDefaults store;
   Defaults settings(store);
@@ -179,41 +139,26 @@ TEST(Defaults, AnObservationMayOutliveItsStore) {
   EXPECT_FALSE(hold.isActive());
 }
 
-TEST(Defaults, AWriteWithoutPropagationIsToldOnNoCallbackOfThatThread) {
-  UserDefaults store;
-  Defaults settings(store);
+TEST(Defaults, ReadsWritesAndFollowsAKeyWithAStoreOfItsOwnThere) {
+  UserDefaults standard;
+  UserDefaults own;
+  Defaults settings(standard);
+  const Key<bool> key("flag", true, own);
+  settings.declare(key);
   int count = 0;
-  const auto hold = settings.updates<bool>(flag, Defaults::Initial::no, [&](bool) { ++count; });
+  const auto observation = settings.observe(key, ObservationOptions::none, [&](const auto&) { ++count; });
+  const auto updates = settings.updates(key, Defaults::Initial::no, [&](bool) { ++count; });
+  const auto subscription = settings.publisher({key}, ObservationOptions::none).subscribe([&] { ++count; });
 
-  Defaults::withoutPropagation([&] { settings.set(flag, false); });
+  settings.set(key, false);
+  settings.set(flag, true);
 
-  EXPECT_FALSE(settings[flag]);
-  EXPECT_EQ(count, 0);
-}
-
-TEST(Defaults, AWriteOfAnotherThreadIsToldDuringWithoutPropagation) {
-  UserDefaults store;
-  Defaults settings(store);
-  int count = 0;
-  const auto hold = settings.updates<bool>(flag, Defaults::Initial::no, [&](bool) { ++count; });
-
-  Defaults::withoutPropagation([&] { std::thread([&] { settings.set(flag, false); }).join(); });
-
-  EXPECT_EQ(count, 1);
-}
-
-TEST(Defaults, WithoutPropagationIsNotNested) {
-  UserDefaults store;
-  Defaults settings(store);
-  int count = 0;
-  const auto hold = settings.updates<bool>(flag, Defaults::Initial::no, [&](bool) { ++count; });
-
-  Defaults::withoutPropagation([&] {
-    Defaults::withoutPropagation([] {});
-    settings.set(flag, false);
-  });
-
-  EXPECT_EQ(count, 1);
+  EXPECT_FALSE(settings[key]);
+  EXPECT_EQ(count, 3);
+  EXPECT_EQ(own.storedObjects(), (defaults::Objects{{"flag", false}}));
+  settings.reset(key);
+  EXPECT_EQ(own.dictionaryRepresentation(), (defaults::Objects{{"flag", true}}));
+  EXPECT_EQ(standard.dictionaryRepresentation(), (defaults::Objects{{"flag", true}}));
 }
 
 }  // namespace

@@ -87,7 +87,7 @@ TEST_F(FileUserDefaultsTest, WritesNothingWithoutAChange) {
 
 TEST_F(FileUserDefaultsTest, KeepsAValueOfAnUnknownKindUntilItsKeyIsWritten) {
   fs::create_directories(path.parent_path());
-  std::ofstream(path) << R"({"version":1,"values":{"a":{"date":"x"},"b":{"date":"y"}}})";
+  std::ofstream(path) << R"({"version":1,"values":{"a":{"color":"x"},"b":{"color":"y"}}})";
   {
     FileUserDefaults store(path, runLoop);
     store.removeObject("b");
@@ -97,6 +97,22 @@ TEST_F(FileUserDefaultsTest, KeepsAValueOfAnUnknownKindUntilItsKeyIsWritten) {
 
   EXPECT_TRUE(content.unknown.contains("a"));
   EXPECT_FALSE(content.unknown.contains("b"));
+}
+
+TEST_F(FileUserDefaultsTest, KeepsNothingThatIsNestedTooDeeplyAndEverythingElse) {
+  Object deep = Object::List();
+  for (int depth = 0; depth < Object::depthLimit; ++depth)
+    deep = Object(Object::List{deep});
+  {
+    FileUserDefaults store(path, runLoop);
+    store.setObject("a", true);
+    testing::internal::CaptureStdout();
+    store.setObject("b", deep);
+    EXPECT_NE(testing::internal::GetCapturedStdout().find("too deeply"), std::string::npos);
+  }
+
+  EXPECT_EQ(onDisk("a"), Object(true));
+  EXPECT_EQ(onDisk("b"), std::nullopt);
 }
 
 TEST_F(FileUserDefaultsTest, GoesOnWithNothingStoredAfterADamagedFile) {

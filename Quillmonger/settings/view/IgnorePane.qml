@@ -33,20 +33,16 @@ Item {
         SwitchSetting {
             width: parent.width
             switchName: "IgnoreSensitiveToggle"
-            title: qsTrId("settings_ignore_sensitive_title")
+            toggle: pane.settings.ignoreSensitiveData
             note: qsTrId("settings_ignore_sensitive_description")
-            isOn: pane.settings.ignoreSensitiveData
             theme: pane.theme
-            onToggled: pane.settings.ignoreSensitiveData = !pane.settings.ignoreSensitiveData
         }
 
         SwitchSetting {
             width: parent.width
             switchName: "IgnoreImagesToggle"
-            title: qsTrId("settings_ignore_images_title")
-            isOn: pane.settings.ignoreImages
+            toggle: pane.settings.ignoreImages
             theme: pane.theme
-            onToggled: pane.settings.ignoreImages = !pane.settings.ignoreImages
         }
 
         Rectangle {

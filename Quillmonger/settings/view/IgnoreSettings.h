@@ -3,34 +3,28 @@
 #include <QtQml/qqmlregistration.h>
 #include <QObject>
 
-#include "Defaults/Defaults.h"
+#include "Quillmonger/settings/view/ToggleModel.h"
 
 namespace quillmonger {
 
-/// The switches of the pane "ignore". A change is written at once, and one from elsewhere is seen at once. Main thread.
+/// The switches of the pane "ignore". Main thread.
 class IgnoreSettings final : public QObject {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("made by the program")
-  Q_PROPERTY(bool ignoreSensitiveData READ ignoreSensitiveData WRITE setIgnoreSensitiveData NOTIFY changed)
-  Q_PROPERTY(bool ignoreImages READ ignoreImages WRITE setIgnoreImages NOTIFY changed)
+  Q_PROPERTY(quillmonger::ToggleModel* ignoreSensitiveData READ ignoreSensitiveData CONSTANT)
+  Q_PROPERTY(quillmonger::ToggleModel* ignoreImages READ ignoreImages CONSTANT)
 
  public:
   /// `defaults` outlives this object.
   explicit IgnoreSettings(defaults::Defaults& defaults);
 
-  [[nodiscard]] bool ignoreSensitiveData() const;
-  void setIgnoreSensitiveData(bool isOn);
-  [[nodiscard]] bool ignoreImages() const;
-  void setIgnoreImages(bool isOn);
-
- signals:
-  void changed();
+  [[nodiscard]] ToggleModel* ignoreSensitiveData() { return &m_ignoreSensitiveData; }
+  [[nodiscard]] ToggleModel* ignoreImages() { return &m_ignoreImages; }
 
  private:
-  defaults::Defaults& m_defaults;
-  foundation::Subscription m_sensitiveSubscription;
-  foundation::Subscription m_imagesSubscription;
+  ToggleModel m_ignoreSensitiveData;
+  ToggleModel m_ignoreImages;
 };
 
 }  // namespace quillmonger

@@ -1,16 +1,15 @@
 import QtQuick
 import Quillmonger.Resources
+import Quillmonger.Settings
 
 // A setting that is on or off: its title, what it means, and the switch.
 Item {
     id: setting
 
-    required property string title
-    required property bool isOn
+    required property ToggleModel toggle
     required property Theme theme
     property string note: ""
     property alias switchName: control.objectName
-    signal toggled()
 
     implicitHeight: words.implicitHeight
 
@@ -19,7 +18,7 @@ Item {
         anchors { left: parent.left; right: control.left; rightMargin: 16 }
         spacing: 3
 
-        TapHandler { onTapped: setting.toggled() }
+        TapHandler { onTapped: setting.toggle.flip() }
 
         Text {
             width: parent.width
@@ -28,7 +27,7 @@ Item {
             renderType: Text.NativeRendering
             font.pixelSize: setting.theme.bodyFontSize
             color: setting.theme.primary
-            text: setting.title
+            text: setting.toggle.label
             Accessible.ignored: true
         }
 
@@ -48,10 +47,10 @@ Item {
     Switch {
         id: control
         anchors { right: parent.right; top: parent.top }
-        text: setting.title
+        text: setting.toggle.label
         note: setting.note
-        isOn: setting.isOn
+        isOn: setting.toggle.isOn
         theme: setting.theme
-        onToggled: setting.toggled()
+        onToggled: setting.toggle.flip()
     }
 }
