@@ -1,6 +1,7 @@
 #include "KeyboardShortcuts/CarbonKeyboardShortcuts.h"
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 #include <utility>
 
@@ -53,11 +54,10 @@ void CarbonKeyboardShortcuts::setMenuOpen(bool isMenuOpen) {
 
 void CarbonKeyboardShortcuts::updateEventHandler() {
   if (m_isEnabled && !m_isMenuOpen) {
-    std::erase_if(m_hotKeys, [this](auto& entry) { return !entry.second.carbonHotKey && !giveToService(entry.second); });
+    giveAllToService();
     m_service.setRawKeyHandler({});
-    m_service.setHotKeyHandler([this](const HotKeyIdentifier& identifier, EventType type) {
-      return handleHotKey(identifier, type);
-    });
+    m_service.setHotKeyHandler(
+        [this](const HotKeyIdentifier& identifier, EventType type) { return handleHotKey(identifier, type); });
     return;
   }
   takeAllFromService();
@@ -75,11 +75,17 @@ bool CarbonKeyboardShortcuts::giveToService(HotKey& hotKey) {
   const Shortcut& shortcut = hotKey.shortcut;
   if (!fits32Bits(shortcut.carbonKeyCode) || !fits32Bits(shortcut.carbonModifiers)) return false;
   const HotKeyIdentifier identifier{signature, static_cast<std::uint32_t>(hotKey.carbonHotKeyId)};
-  const bool isRegistered =
-      m_service.registerHotKey(identifier, static_cast<std::uint32_t>(shortcut.carbonKeyCode),
-                               static_cast<std::uint32_t>(shortcut.carbonModifiers));
+  const bool isRegistered = m_service.registerHotKey(identifier, static_cast<std::uint32_t>(shortcut.carbonKeyCode),
+                                                     static_cast<std::uint32_t>(shortcut.carbonModifiers));
   if (isRegistered) hotKey.carbonHotKey = identifier;
   return isRegistered;
+}
+
+void CarbonKeyboardShortcuts::giveAllToService() {
+  for (auto entry = m_hotKeys.begin(); entry != m_hotKeys.end();) {
+    const bool isThere = entry->second.carbonHotKey || giveToService(entry->second);
+    entry = isThere ? std::next(entry) : m_hotKeys.erase(entry);
+  }
 }
 
 void CarbonKeyboardShortcuts::takeFromService(HotKey& hotKey) {
@@ -94,8 +100,8 @@ void CarbonKeyboardShortcuts::takeAllFromService() {
 
 EventStatus CarbonKeyboardShortcuts::handleHotKey(const HotKeyIdentifier& identifier, EventType type) {
   if (identifier.signature != signature) return EventStatus::eventNotHandledErr;
-  const auto hotKey = std::ranges::find_if(
-      m_hotKeys, [&](const auto& entry) { return entry.second.carbonHotKey == identifier; });
+  const auto hotKey =
+      std::ranges::find_if(m_hotKeys, [&](const auto& entry) { return entry.second.carbonHotKey == identifier; });
   if (hotKey == m_hotKeys.end()) return EventStatus::eventNotHandledErr;
   return run(hotKey->second, type);
 }

@@ -34,6 +34,7 @@ class CarbonKeyboardShortcuts final {
  private:
   void updateEventHandler();
   [[nodiscard]] bool giveToService(HotKey& hotKey);
+  void giveAllToService();
   void takeFromService(HotKey& hotKey);
   void takeAllFromService();
   EventStatus handleHotKey(const HotKeyIdentifier& identifier, EventType type);

@@ -25,8 +25,7 @@ struct HotKeyIdentifier {
 class HotKeyService {
  public:
   using HotKeyHandler = std::function<EventStatus(const HotKeyIdentifier&, EventType)>;
-  using RawKeyHandler =
-      std::function<EventStatus(std::uint32_t keyCode, std::uint32_t modifiers, EventType)>;
+  using RawKeyHandler = std::function<EventStatus(std::uint32_t keyCode, std::uint32_t modifiers, EventType)>;
 
   HotKeyService() = default;
   HotKeyService(const HotKeyService&) = delete;

@@ -24,11 +24,13 @@ class BenchClipboard final : public quillmonger::ClipboardManaging {
 
 class NoHotKeys final : public keyboardshortcuts::HotKeyService {
  public:
-  void setHandler(Handler /*handler*/) override {}
-  bool registerHotKey(std::uint32_t /*identifier*/, std::uint32_t /*keyCode*/, std::uint32_t /*modifiers*/) override {
+  void setHotKeyHandler(HotKeyHandler /*handler*/) override {}
+  void setRawKeyHandler(RawKeyHandler /*handler*/) override {}
+  bool registerHotKey(const keyboardshortcuts::HotKeyIdentifier& /*identifier*/, std::uint32_t /*keyCode*/,
+                      std::uint32_t /*modifiers*/) override {
     return false;
   }
-  void unregisterHotKey(std::uint32_t /*identifier*/) override {}
+  void unregisterHotKey(const keyboardshortcuts::HotKeyIdentifier& /*identifier*/) override {}
 };
 
 class NoKeyEvents final : public quillmonger::LocalEventMonitoring {

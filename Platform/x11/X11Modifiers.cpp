@@ -56,10 +56,8 @@ X11Modifiers::X11Modifiers(xcb_connection_t* connection) : m_controlKey(usualLef
 }
 
 std::array<std::pair<std::uint32_t, std::uint16_t>, 4> X11Modifiers::bits() const {
-  return {{{commandBit, m_super},
-           {shiftBit, XCB_MOD_MASK_SHIFT},
-           {optionBit, m_alt},
-           {controlBit, XCB_MOD_MASK_CONTROL}}};
+  return {
+      {{commandBit, m_super}, {shiftBit, XCB_MOD_MASK_SHIFT}, {optionBit, m_alt}, {controlBit, XCB_MOD_MASK_CONTROL}}};
 }
 
 std::uint16_t X11Modifiers::state(std::uint32_t serviceModifiers) const {

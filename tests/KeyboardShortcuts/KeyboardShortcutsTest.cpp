@@ -199,12 +199,65 @@ TEST_F(KeyboardShortcutsTest, RegistersNoChordThatDoesNotFitTheService) {
   EXPECT_EQ(service.count(), 0U);
 }
 
-TEST_F(KeyboardShortcutsTest, IgnoresAnUnknownIdentifier) {
+TEST_F(KeyboardShortcutsTest, AHotKeyFiresThroughTheRawPathWhileAMenuIsOpenAndThroughTheNormalOneAfterwards) {
   listen(show);
 
-  service.sendUnknownIdentifier();
+  notificationCenter.post(KeyboardShortcuts::menuDidBeginTracking);
+  EXPECT_EQ(service.count(), 0U);
+  EXPECT_FALSE(service.listens());
+  service.press(chordV);
+  EXPECT_EQ(log, Log{"show down"});
 
-  EXPECT_EQ(log, Log{});
+  notificationCenter.post(KeyboardShortcuts::menuDidEndTracking);
+  EXPECT_FALSE(service.watchesRawKeys());
+  EXPECT_TRUE(service.isRegistered(chordV));
+  service.press(chordV);
+  EXPECT_EQ(log, (Log{"show down", "show down"}));
+}
+
+TEST_F(KeyboardShortcutsTest, GivesTheChordsToTheServiceAnewWhenTheKeysOfTheLayoutChange) {
+  listen(show);
+  const auto before = service.hotKeys();
+
+  notificationCenter.post("SauceSelectedKeyboardKeyCodesChanged");
+
+  EXPECT_TRUE(service.isRegistered(chordV));
+  EXPECT_NE(service.hotKeys(), before);
+  EXPECT_EQ(service.count(), 1U);
+}
+
+TEST_F(KeyboardShortcutsTest, TriesARefusedChordAgainWhenTheKeysOfTheLayoutChange) {
+  service.refuse(chordV);
+  listen(show);
+  service.allow(chordV);
+
+  notificationCenter.post("SauceSelectedKeyboardKeyCodesChanged");
+
+  EXPECT_TRUE(service.isRegistered(chordV));
+}
+
+TEST_F(KeyboardShortcutsTest, KeepsTheChordOfTheOtherNameWhenOneOfTwoChangesIt) {
+  shortcuts.setShortcut(Shortcut{9, 0x300}, other);
+  listen(show);
+  listen(other);
+  ASSERT_EQ(service.count(chordV), 2U);
+
+  shortcuts.setShortcut(Shortcut{7, 0x300}, other);
+
+  EXPECT_EQ(service.count(chordV), 1U);
+  service.press(chordV);
+  EXPECT_EQ(log, Log{"show down"});
+}
+
+TEST_F(KeyboardShortcutsTest, RunsNoHandlerOfADisabledNameWhoseChordAnotherNameHas) {
+  shortcuts.setShortcut(Shortcut{9, 0x300}, other);
+  listen(show);
+  listen(other);
+
+  shortcuts.disable({other});
+  service.press(chordV);
+
+  EXPECT_EQ(log, Log{"show down"});
 }
 
 }  // namespace

@@ -13,9 +13,13 @@
 
 namespace {
 
-using Kind = keyboardshortcuts::HotKeyService::Kind;
+using keyboardshortcuts::EventStatus;
+using keyboardshortcuts::EventType;
+using keyboardshortcuts::HotKeyIdentifier;
 using testsupport::KeyboardClient;
 
+constexpr HotKeyIdentifier seven{0x4B424853, 7};
+constexpr HotKeyIdentifier eight{0x4B424853, 8};
 constexpr std::uint32_t evdevV = 47;
 constexpr std::uint32_t evdevShift = 42;
 constexpr std::uint32_t evdevSuper = 125;
@@ -28,7 +32,10 @@ constexpr std::uint16_t shiftAndSuperState = XCB_MOD_MASK_SHIFT | XCB_MOD_MASK_4
 class X11HotKeys : public testing::Test {
  protected:
   X11HotKeys() : m_user(m_display.name()), m_hotKeys(platform::X11HotKeys::connect(m_runLoop, m_display.name())) {
-    m_hotKeys->setHandler([this](std::uint32_t identifier, Kind kind) { m_told.emplace_back(identifier, kind); });
+    m_hotKeys->setHotKeyHandler([this](const HotKeyIdentifier& identifier, EventType type) {
+      m_told.emplace_back(identifier.id, type);
+      return EventStatus::noErr;
+    });
   }
 
   [[nodiscard]] bool isTold(std::size_t count) {
@@ -46,7 +53,7 @@ class X11HotKeys : public testing::Test {
     m_user.release(evdevSuper);
   }
 
-  using Told = std::vector<std::pair<std::uint32_t, Kind>>;
+  using Told = std::vector<std::pair<std::uint32_t, EventType>>;
   testsupport::PrivateDisplay m_display;
   testsupport::RealRunLoop m_runLoop;
   KeyboardClient m_user;
@@ -55,17 +62,17 @@ class X11HotKeys : public testing::Test {
 };
 
 TEST_F(X11HotKeys, TellPressAndReleaseOfAChord) {
-  ASSERT_TRUE(m_hotKeys->registerHotKey(7, virtualV, shiftAndCommand));
+  ASSERT_TRUE(m_hotKeys->registerHotKey(seven, virtualV, shiftAndCommand));
 
   pressChord();
   releaseChord();
 
   ASSERT_TRUE(isTold(2));
-  EXPECT_EQ(m_told, (Told{{7, Kind::pressed}, {7, Kind::released}}));
+  EXPECT_EQ(m_told, (Told{{7, EventType::keyDown}, {7, EventType::keyUp}}));
 }
 
 TEST_F(X11HotKeys, TellTheReleaseWhenTheModifiersWentFirst) {
-  ASSERT_TRUE(m_hotKeys->registerHotKey(7, virtualV, shiftAndCommand));
+  ASSERT_TRUE(m_hotKeys->registerHotKey(seven, virtualV, shiftAndCommand));
   pressChord();
 
   m_user.release(evdevSuper);
@@ -73,11 +80,11 @@ TEST_F(X11HotKeys, TellTheReleaseWhenTheModifiersWentFirst) {
   m_user.release(evdevV);
 
   ASSERT_TRUE(isTold(2));
-  EXPECT_EQ(m_told.back(), std::pair(std::uint32_t{7}, Kind::released));
+  EXPECT_EQ(m_told.back(), std::pair(std::uint32_t{7}, EventType::keyUp));
 }
 
 TEST_F(X11HotKeys, WorkWhateverLockIsOn) {
-  ASSERT_TRUE(m_hotKeys->registerHotKey(7, virtualV, shiftAndCommand));
+  ASSERT_TRUE(m_hotKeys->registerHotKey(seven, virtualV, shiftAndCommand));
   m_user.tap(evdevCapsLock);
   m_user.tap(evdevNumLock);
 
@@ -94,7 +101,7 @@ TEST_F(X11HotKeys, TellAHeldKeyAsOnePress) {
   KeyboardClient other(m_display.name());
   other.showWindow();
   other.focusWindow();
-  ASSERT_TRUE(m_hotKeys->registerHotKey(7, virtualV, shiftAndCommand));
+  ASSERT_TRUE(m_hotKeys->registerHotKey(seven, virtualV, shiftAndCommand));
   // The same key without the modifiers reaches the window, and shows that keys do repeat here.
   m_user.press(evdevV);
   ASSERT_TRUE(m_runLoop.runUntil([&other] { return other.receivedKeys().size() > 4; }));
@@ -106,34 +113,95 @@ TEST_F(X11HotKeys, TellAHeldKeyAsOnePress) {
   releaseChord();
 
   ASSERT_TRUE(isTold(2));
-  EXPECT_EQ(m_told, (Told{{7, Kind::pressed}, {7, Kind::released}}));
+  EXPECT_EQ(m_told, (Told{{7, EventType::keyDown}, {7, EventType::keyUp}}));
+}
+
+TEST_F(X11HotKeys, TellTheFirstOfTwoHotKeysOfOneChord) {
+  ASSERT_TRUE(m_hotKeys->registerHotKey(eight, virtualV, shiftAndCommand));
+  ASSERT_TRUE(m_hotKeys->registerHotKey(seven, virtualV, shiftAndCommand));
+
+  pressChord();
+  releaseChord();
+
+  ASSERT_TRUE(isTold(2));
+  EXPECT_EQ(m_told, (Told{{7, EventType::keyDown}, {7, EventType::keyUp}}));
+}
+
+TEST_F(X11HotKeys, KeepTheChordForTheSecondHotKeyWhenTheFirstGoes) {
+  ASSERT_TRUE(m_hotKeys->registerHotKey(seven, virtualV, shiftAndCommand));
+  ASSERT_TRUE(m_hotKeys->registerHotKey(eight, virtualV, shiftAndCommand));
+  m_hotKeys->unregisterHotKey(seven);
+
+  pressChord();
+  releaseChord();
+
+  ASSERT_TRUE(isTold(2));
+  EXPECT_EQ(m_told.front(), std::pair(std::uint32_t{8}, EventType::keyDown));
+}
+
+TEST_F(X11HotKeys, TellRawKeysPastTheKeyboardGrabOfAMenu) {
+  std::vector<std::pair<std::uint32_t, std::uint32_t>> pressed;
+  m_hotKeys->setRawKeyHandler([&pressed](std::uint32_t keyCode, std::uint32_t modifiers, EventType type) {
+    if (type == EventType::keyDown) pressed.emplace_back(keyCode, modifiers);
+    return EventStatus::noErr;
+  });
+  KeyboardClient menu(m_display.name());
+  menu.showWindow();
+  ASSERT_TRUE(menu.grabKeyboard());
+  ASSERT_TRUE(m_hotKeys->registerHotKey(seven, virtualV, shiftAndCommand));  // by now the raw keys are watched
+
+  pressChord();
+  releaseChord();
+
+  ASSERT_TRUE(m_runLoop.runUntil([&pressed] { return pressed.size() >= 3; }));
+  EXPECT_EQ(pressed.back(), std::pair(virtualV, shiftAndCommand));
+  EXPECT_TRUE(m_told.empty());
+}
+
+TEST_F(X11HotKeys, TellNoRawKeysOnceNobodyListens) {
+  std::size_t count = 0;
+  const auto listen = [&count](std::uint32_t, std::uint32_t, EventType) {
+    ++count;
+    return EventStatus::noErr;
+  };
+  m_hotKeys->setRawKeyHandler(listen);
+  m_hotKeys->setRawKeyHandler({});
+  ASSERT_TRUE(m_hotKeys->registerHotKey(seven, virtualV, shiftAndCommand));
+
+  pressChord();
+  releaseChord();
+
+  ASSERT_TRUE(isTold(2));
+  EXPECT_EQ(count, 0U);
 }
 
 TEST_F(X11HotKeys, RefuseAChordThatAnotherProgramHolds) {
   ASSERT_TRUE(m_user.grab(evdevV, shiftAndSuperState));
 
-  EXPECT_FALSE(m_hotKeys->registerHotKey(7, virtualV, shiftAndCommand));
+  EXPECT_FALSE(m_hotKeys->registerHotKey(seven, virtualV, shiftAndCommand));
 }
 
 TEST_F(X11HotKeys, LeaveNothingGrabbedOfARefusedChord) {
   KeyboardClient other(m_display.name());
   ASSERT_TRUE(other.grab(evdevV, shiftAndSuperState | XCB_MOD_MASK_LOCK));
 
-  ASSERT_FALSE(m_hotKeys->registerHotKey(7, virtualV, shiftAndCommand));
+  ASSERT_FALSE(m_hotKeys->registerHotKey(seven, virtualV, shiftAndCommand));
 
   EXPECT_TRUE(m_runLoop.runUntil([this] { return m_user.grab(evdevV, shiftAndSuperState); }));
 }
 
 TEST_F(X11HotKeys, GiveTheChordBackWhenItIsUnregistered) {
-  ASSERT_TRUE(m_hotKeys->registerHotKey(7, virtualV, shiftAndCommand));
+  ASSERT_TRUE(m_hotKeys->registerHotKey(seven, virtualV, shiftAndCommand));
   ASSERT_FALSE(m_user.grab(evdevV, shiftAndSuperState));
 
-  m_hotKeys->unregisterHotKey(7);
+  m_hotKeys->unregisterHotKey(seven);
 
   EXPECT_TRUE(m_runLoop.runUntil([this] { return m_user.grab(evdevV, shiftAndSuperState); }));
 }
 
-TEST_F(X11HotKeys, RefuseAKeyThatNoKeyboardHas) { EXPECT_FALSE(m_hotKeys->registerHotKey(7, 0xFFFF, shiftAndCommand)); }
+TEST_F(X11HotKeys, RefuseAKeyThatNoKeyboardHas) {
+  EXPECT_FALSE(m_hotKeys->registerHotKey(seven, 0xFFFF, shiftAndCommand));
+}
 
 TEST_F(X11HotKeys, AreAbsentWithoutAnXServer) {
   EXPECT_EQ(platform::X11HotKeys::connect(m_runLoop, "/nowhere:0"), nullptr);

@@ -61,6 +61,13 @@ bool KeyboardClient::grab(std::uint32_t evdevKey, std::uint16_t modifiers) {
   return error == nullptr;
 }
 
+bool KeyboardClient::grabKeyboard() {
+  const auto cookie =
+      xcb_grab_keyboard(m_connection, 1, m_window, XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+  const ReplyPointer<xcb_grab_keyboard_reply_t> reply(xcb_grab_keyboard_reply(m_connection, cookie, nullptr));
+  return reply && reply->status == XCB_GRAB_STATUS_SUCCESS;
+}
+
 void KeyboardClient::showWindow() {
   xcb_map_window(m_connection, m_window);
   settle();

@@ -33,6 +33,9 @@ class KeyboardClient final {
   /// Whether this program got the chord for itself.
   [[nodiscard]] bool grab(std::uint32_t evdevKey, std::uint16_t modifiers);
 
+  /// Takes every key of the keyboard, as an open menu does.
+  [[nodiscard]] bool grabKeyboard();
+
   [[nodiscard]] xcb_window_t window() const { return m_window; }
   void showWindow();
   void hideWindow();
