@@ -1,7 +1,6 @@
 #include "Platform/keyboard/XkbInputSources.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace platform {
 
@@ -27,10 +26,10 @@ bool typesLatinLetters(const XkbKeymap& keymap, std::size_t layout) {
 
 enum class Enabled { no, yes };
 
-sauce::InputSource describe(const XkbKeymap& keymap, std::size_t layout, std::optional<std::string> identifier,
+sauce::InputSource describe(const XkbKeymap& keymap, std::size_t layout, const std::optional<std::string>& identifier,
                             Enabled enabled) {
   const auto name = keymap.layoutName(layout);
-  sauce::InputSource source(identifier ? std::move(identifier) : name);
+  sauce::InputSource source(identifier ? identifier : name);
   source.isASCIICapable = typesLatinLetters(keymap, layout);
   source.isEnableCapable = true;
   source.isSelectCapable = true;
@@ -45,8 +44,8 @@ XkbInputSources::XkbInputSources(std::optional<XkbKeymap> keymap, const std::vec
                                  std::size_t selected) {
   const std::size_t count = keymap ? keymap->layoutCount() : 0;
   for (std::size_t index = 0; index < count; ++index) {
-    auto identifier = identifiers.size() < count ? std::nullopt : std::optional(identifiers[index]);
-    m_layouts.push_back({describe(*keymap, index, std::move(identifier), Enabled::yes), *keymap, index});
+    const auto identifier = identifiers.size() < count ? std::nullopt : std::optional(identifiers[index]);
+    m_layouts.push_back({describe(*keymap, index, identifier, Enabled::yes), *keymap, index});
   }
   const bool hasLatin = std::ranges::any_of(m_layouts, [](const Layout& it) { return it.source.isASCIICapable; });
   const auto latin = hasLatin ? std::nullopt : XkbKeymap::compile(standInIdentifier);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -87,6 +88,16 @@ TEST(XkbInputSources, AreTheUSLayoutWhereThereIsNoKeymap) {
   EXPECT_EQ(sources.selected().id, "us");
   EXPECT_EQ(sources.asciiCapable().id, "us");
   EXPECT_TRUE(sources.hasLayoutData(sources.selected()));
+}
+
+TEST(XkbInputSources, AreStillOneWhereTheSystemHasNoLayoutFilesEither) {
+  ASSERT_EQ(setenv("XKB_CONFIG_ROOT", "/nowhere", 1), 0);
+  const XkbInputSources sources(std::nullopt, {}, 0);
+  unsetenv("XKB_CONFIG_ROOT");
+
+  EXPECT_EQ(sources.selected().id, "us");
+  EXPECT_EQ(sources.asciiCapable().id, "us");
+  EXPECT_FALSE(sources.hasLayoutData(sources.selected()));
 }
 
 TEST(XkbInputSources, SelectTheFirstForALayoutThatIsNotThere) {
