@@ -20,8 +20,4 @@ struct Shortcut {
   [[nodiscard]] static std::optional<Shortcut> fromJson(std::string_view text);
 };
 
-/// Event flags (command 0x100000, shift 0x20000, option 0x80000, control 0x40000) as the service's bits. Other flags
-/// are dropped.
-[[nodiscard]] std::int64_t carbonModifiers(std::uint32_t eventFlags);
-
 }  // namespace keyboardshortcuts

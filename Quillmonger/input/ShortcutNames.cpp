@@ -1,13 +1,15 @@
 #include "Quillmonger/input/ShortcutNames.h"
 
 #include "Quillmonger/input/KeyEvent.h"
+#include "Sauce/ModifierTransformer.h"
 
 namespace quillmonger::shortcutname {
 
 namespace {
 
 keyboardshortcuts::Name shiftCommand(const char* rawValue, std::int64_t keyCode) {
-  return {rawValue, keyboardshortcuts::Shortcut{keyCode, keyboardshortcuts::carbonModifiers(shiftFlag | commandFlag)}};
+  return {rawValue,
+          keyboardshortcuts::Shortcut{keyCode, sauce::ModifierTransformer::serviceBits(shiftFlag | commandFlag)}};
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 
 namespace {
 
-using keyboardshortcuts::carbonModifiers;
 using keyboardshortcuts::Shortcut;
 
 TEST(Shortcut, ComesBackFromItsStoredForm) {
@@ -25,13 +24,5 @@ INSTANTIATE_TEST_SUITE_P(Texts, NoShortcut,
                                          R"({"carbonKeyCode":"9","carbonModifiers":768})",
                                          R"({"carbonKeyCode":9.5,"carbonModifiers":768})", std::string(100000, '['),
                                          "{\"carbonKeyCode\":9,\"carbonModifiers\":768" + std::string(300, ' ') + "}"));
-
-TEST(Shortcut, TranslatesEachEventFlagAndDropsOthers) {
-  EXPECT_EQ(carbonModifiers(0x100000), 0x100);
-  EXPECT_EQ(carbonModifiers(0x20000), 0x200);
-  EXPECT_EQ(carbonModifiers(0x80000), 0x800);
-  EXPECT_EQ(carbonModifiers(0x40000), 0x1000);
-  EXPECT_EQ(carbonModifiers(0x810008), 0);
-}
 
 }  // namespace

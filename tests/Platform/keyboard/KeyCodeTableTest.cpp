@@ -6,6 +6,8 @@
 #include <set>
 #include <string>
 
+#include "Sauce/Key.h"
+
 namespace {
 
 using platform::evdevKey;
@@ -31,7 +33,11 @@ INSTANTIATE_TEST_SUITE_P(
                     Position{"Digit9", 10, 25}, Position{"Backspace", 14, 51}, Position{"Return", 28, 36},
                     Position{"V", 47, 9}, Position{"P", 25, 35}, Position{"Comma", 51, 43}, Position{"LeftAlt", 56, 58},
                     Position{"RightAlt", 100, 61}, Position{"KeypadEnter", 96, 76}, Position{"Up", 103, 126},
-                    Position{"Down", 108, 125}, Position{"LeftSuper", 125, 55}),
+                    Position{"Down", 108, 125}, Position{"LeftSuper", 125, 55}, Position{"Section", 86, 10},
+                    Position{"Yen", 124, 93}, Position{"Underscore", 89, 94}, Position{"KeypadComma", 121, 95},
+                    Position{"Eisu", 123, 102}, Position{"Kana", 122, 104}, Position{"KeypadClear", 69, 71},
+                    Position{"KeypadEquals", 117, 81}, Position{"Help", 110, 114}, Position{"PageUp", 104, 116},
+                    Position{"F13", 183, 105}, Position{"F17", 187, 64}, Position{"F20", 190, 90}),
     [](const testing::TestParamInfo<Position>& position) { return std::string(position.param.name); });
 
 TEST(KeyCodeTable, GivesNoTwoKeysTheSameCode) {
@@ -40,6 +46,16 @@ TEST(KeyCodeTable, GivesNoTwoKeysTheSameCode) {
   for (std::uint32_t key = 0; key < 256; ++key) {
     const auto code = virtualKeyCode(key);
     EXPECT_TRUE(!code || seen.insert(*code).second) << key;
+  }
+}
+
+TEST(KeyCodeTable, KnowsThePositionOfEveryKeyThatHasOne) {
+  for (std::size_t index = 0; index < sauce::keyCount; ++index) {
+    const auto key = static_cast<sauce::Key>(index);
+    const auto code = sauce::qwertyKeyCode(key);
+    if (code) {
+      EXPECT_TRUE(evdevKey(*code)) << sauce::rawValue(key);
+    }
   }
 }
 

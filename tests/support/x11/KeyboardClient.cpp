@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "Platform/x11/X11Requests.h"
+#include "Platform/x11/Xkb.h"
 
 namespace testsupport {
 
@@ -51,6 +52,13 @@ void KeyboardClient::release(std::uint32_t evdevKey) { send(XCB_KEY_RELEASE, evd
 void KeyboardClient::tap(std::uint32_t evdevKey) {
   press(evdevKey);
   release(evdevKey);
+}
+
+void KeyboardClient::lockGroup(std::uint8_t group) {
+  const ReplyPointer<xcb_xkb_use_extension_reply_t> isThere(xcb_xkb_use_extension_reply(
+      m_connection, xcb_xkb_use_extension(m_connection, XCB_XKB_MAJOR_VERSION, XCB_XKB_MINOR_VERSION), nullptr));
+  xcb_xkb_latch_lock_state(m_connection, XCB_XKB_ID_USE_CORE_KBD, 0, 0, 1, group, 0, 0, 0);
+  settle();
 }
 
 bool KeyboardClient::grab(std::uint32_t evdevKey, std::uint16_t modifiers) {

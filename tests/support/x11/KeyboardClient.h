@@ -30,6 +30,9 @@ class KeyboardClient final {
   /// Presses and releases a lock key.
   void tap(std::uint32_t evdevKey);
 
+  /// Switches to a group of the keymap, as a layout indicator does.
+  void lockGroup(std::uint8_t group);
+
   /// Whether this program got the chord for itself.
   [[nodiscard]] bool grab(std::uint32_t evdevKey, std::uint16_t modifiers);
 
