@@ -1,6 +1,8 @@
 #include "Foundation/Text.h"
 
+#include <unicode/locid.h>
 #include <unicode/uchar.h>
+#include <unicode/unistr.h>
 #include <unicode/utf8.h>
 
 #include <cstdint>
@@ -95,5 +97,15 @@ std::string_view trimmed(std::string_view text) {
 }
 
 bool isBlank(std::string_view text) { return trimmed(text).empty(); }
+
+std::string lowercased(std::string_view text) {
+  std::string result;
+  return icu::UnicodeString::fromUTF8(text).toLower(icu::Locale::getRoot()).toUTF8String(result);
+}
+
+std::string uppercased(std::string_view text) {
+  std::string result;
+  return icu::UnicodeString::fromUTF8(text).toUpper(icu::Locale::getRoot()).toUTF8String(result);
+}
 
 }  // namespace foundation

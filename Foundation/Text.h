@@ -18,4 +18,8 @@ namespace foundation {
 /// Whether nothing is left of `text` once it is trimmed. Stops at the first other character.
 [[nodiscard]] bool isBlank(std::string_view text);
 
+/// In the letters' other case, by the rules that no language adds to. Text that isn't valid UTF-8 is mended first.
+[[nodiscard]] std::string lowercased(std::string_view text);
+[[nodiscard]] std::string uppercased(std::string_view text);
+
 }  // namespace foundation

@@ -2,6 +2,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include "Sauce/ModifierTransformer.h"
+
 namespace keyboardshortcuts {
 
 namespace {
@@ -12,6 +14,17 @@ constexpr auto modifiersMember = "carbonModifiers";
 constexpr std::size_t longestText = 256;
 
 }  // namespace
+
+std::optional<Shortcut> Shortcut::of(sauce::Key key, std::uint32_t eventFlags) {
+  const auto keyCode = sauce::qwertyKeyCode(key);
+  if (!keyCode) return std::nullopt;
+  return Shortcut{*keyCode, sauce::ModifierTransformer::serviceBits(eventFlags)};
+}
+
+std::optional<Shortcut> Shortcut::of(const Event& event) {
+  if (event.type != Event::Type::keyDown && event.type != Event::Type::keyUp) return std::nullopt;
+  return Shortcut{event.keyCode, sauce::ModifierTransformer::serviceBits(event.modifierFlags)};
+}
 
 std::string Shortcut::toJson() const {
   return nlohmann::json{{codeMember, carbonKeyCode}, {modifiersMember, carbonModifiers}}.dump();
@@ -29,3 +42,9 @@ std::optional<Shortcut> Shortcut::fromJson(std::string_view text) {
 }
 
 }  // namespace keyboardshortcuts
+
+std::size_t std::hash<keyboardshortcuts::Shortcut>::operator()(
+    const keyboardshortcuts::Shortcut& shortcut) const noexcept {
+  const std::hash<std::int64_t> hashOf;
+  return hashOf(shortcut.carbonKeyCode) * 31 + hashOf(shortcut.carbonModifiers);
+}

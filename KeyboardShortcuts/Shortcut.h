@@ -1,9 +1,14 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+
+#include "KeyboardShortcuts/Event.h"
+#include "Sauce/Key.h"
 
 namespace keyboardshortcuts {
 
@@ -14,6 +19,11 @@ struct Shortcut {
 
   bool operator==(const Shortcut&) const = default;
 
+  /// The key at its place on the ANSI keyboard, with modifiers as event flags. Absent for a key without such a place.
+  [[nodiscard]] static std::optional<Shortcut> of(sauce::Key key, std::uint32_t eventFlags);
+  /// What a press or release stands for; absent for any other event.
+  [[nodiscard]] static std::optional<Shortcut> of(const Event& event);
+
   /// The stored form: a JSON object with the two members.
   [[nodiscard]] std::string toJson() const;
   /// Absent for anything that isn't such an object.
@@ -21,3 +31,8 @@ struct Shortcut {
 };
 
 }  // namespace keyboardshortcuts
+
+template <>
+struct std::hash<keyboardshortcuts::Shortcut> {
+  std::size_t operator()(const keyboardshortcuts::Shortcut& shortcut) const noexcept;
+};

@@ -24,6 +24,7 @@ constexpr std::chrono::seconds patience{1};
 constexpr int treeDepthLimit = 32;
 constexpr xcb_keysym_t letterV = 'v';
 constexpr xcb_keycode_t positionV = 47 + x11KeycodeOffset;
+constexpr int coreGroups = 2;  // that a reader of the core mapping can tell apart
 
 // In lower case; whatever a desktop entry doesn't tell.
 constexpr auto terminalClasses = std::to_array<std::string_view>(
@@ -56,7 +57,9 @@ class X11PasteKeys::Injector final {
         m_connection, xcb_xkb_use_extension(m_connection, XCB_XKB_MAJOR_VERSION, XCB_XKB_MINOR_VERSION), nullptr));
   }
 
-  void start() {
+  void start(std::uint16_t keyCode) {
+    const auto key = evdevKey(keyCode);
+    m_keyOfV = key ? static_cast<xcb_keycode_t>(*key + x11KeycodeOffset) : positionV;
     m_deadline = std::chrono::steady_clock::now() + patience;
     attempt();
   }
@@ -142,12 +145,16 @@ class X11PasteKeys::Injector final {
   void press(const X11Modifiers& modifiers, bool withShift) const {
     std::vector<xcb_keycode_t> keys{modifiers.controlKey()};
     if (withShift) keys.push_back(modifiers.shiftKey());
-    keys.push_back(keyOfV());
+    keys.push_back(m_keyOfV);
+    const ReplyPointer<xcb_xkb_get_state_reply_t> state(
+        xcb_xkb_get_state_reply(m_connection, xcb_xkb_get_state(m_connection, XCB_XKB_ID_USE_CORE_KBD), nullptr));
+    if (state) lock(0, groupOfV(state->group));
     for (const xcb_keycode_t key : keys)
       send(XCB_KEY_PRESS, key);
     std::ranges::reverse(keys);
     for (const xcb_keycode_t key : keys)
       send(XCB_KEY_RELEASE, key);
+    if (state) lock(state->lockedMods, static_cast<std::uint8_t>(state->lockedGroup));
     xcb_flush(m_connection);
   }
 
@@ -155,30 +162,27 @@ class X11PasteKeys::Injector final {
     xcb_test_fake_input(m_connection, type, key, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
   }
 
-  // The key that types "v" in the active layout, else in the first one, else the one that does on an ANSI keyboard:
-  // under a layout without Latin letters, programs go by the other layouts of the key.
-  [[nodiscard]] xcb_keycode_t keyOfV() const {
-    const xcb_setup_t& setup = *xcb_get_setup(m_connection);
-    const auto count = static_cast<std::uint8_t>(setup.max_keycode - setup.min_keycode + 1);
-    const ReplyPointer<xcb_get_keyboard_mapping_reply_t> mapping(xcb_get_keyboard_mapping_reply(
-        m_connection, xcb_get_keyboard_mapping(m_connection, setup.min_keycode, count), nullptr));
-    if (!mapping) return positionV;
-    const xcb_keysym_t* symbols = xcb_get_keyboard_mapping_keysyms(mapping.get());
-    for (const int column : {2 * activeGroup(), 0}) {
-      for (int key = 0; column < mapping->keysyms_per_keycode && key < count; ++key) {
-        if (symbols[key * mapping->keysyms_per_keycode + column] == letterV) {
-          return static_cast<xcb_keycode_t>(setup.min_keycode + key);
-        }
-      }
-    }
-    return positionV;
+  // With Caps Lock on, a program that compares letters takes the chord for another one.
+  void lock(std::uint8_t modifiers, std::uint8_t group) const {
+    xcb_xkb_latch_lock_state(m_connection, XCB_XKB_ID_USE_CORE_KBD, XCB_MOD_MASK_LOCK, modifiers & XCB_MOD_MASK_LOCK, 1,
+                             group, 0, 0, 0);
   }
 
-  // The core mapping has the first two groups side by side; a third one stands where nobody agrees on.
-  [[nodiscard]] int activeGroup() const {
-    const ReplyPointer<xcb_xkb_get_state_reply_t> state(
-        xcb_xkb_get_state_reply(m_connection, xcb_xkb_get_state(m_connection, XCB_XKB_ID_USE_CORE_KBD), nullptr));
-    return state && state->group == 1 ? 1 : 0;
+  // The group under which the key types "v": the active one, or another where the active one is for another script and
+  // a program that looks at the letter alone would miss the chord.
+  [[nodiscard]] std::uint8_t groupOfV(std::uint8_t active) const {
+    const ReplyPointer<xcb_get_keyboard_mapping_reply_t> mapping(
+        xcb_get_keyboard_mapping_reply(m_connection, xcb_get_keyboard_mapping(m_connection, m_keyOfV, 1), nullptr));
+    if (!mapping) return active;
+    const xcb_keysym_t* symbols = xcb_get_keyboard_mapping_keysyms(mapping.get());
+    const auto typesV = [&](int group) {
+      return 2 * group < mapping->keysyms_per_keycode && symbols[2 * group] == letterV;
+    };
+    if (active >= coreGroups || typesV(active)) return active;
+    for (std::uint8_t group = 0; group < coreGroups; ++group) {
+      if (typesV(group)) return group;
+    }
+    return active;
   }
 
   X11Thread& m_thread;
@@ -188,6 +192,7 @@ class X11PasteKeys::Injector final {
   xcb_atom_t m_clipboard;
   xcb_atom_t m_wmState;
   xcb_atom_t m_processId;
+  xcb_keycode_t m_keyOfV = positionV;
   std::chrono::steady_clock::time_point m_deadline;
   foundation::Subscription m_next;
 };
@@ -210,8 +215,8 @@ X11PasteKeys::X11PasteKeys(std::unique_ptr<X11Thread> thread, std::unique_ptr<In
 
 X11PasteKeys::~X11PasteKeys() = default;
 
-void X11PasteKeys::postPasteKeyEvents() {
-  m_thread->run([injector = m_injector.get()] { injector->start(); });
+void X11PasteKeys::postPasteKeyEvents(std::uint16_t keyCode) {
+  m_thread->run([injector = m_injector.get(), keyCode] { injector->start(keyCode); });
 }
 
 }  // namespace platform

@@ -12,7 +12,7 @@ namespace platform {
 
 /// Presses Control and V, with Shift for a terminal, through XTest: once the clipboard is what this program wrote last,
 /// a window of another program has the keyboard, and the user holds no modifier. Waits for that on a thread of its own,
-/// at most a second.
+/// at most a second. Lock keys are off for that moment, and a layout without "v" gives way to one that has it.
 class X11PasteKeys final : public quillmonger::PasteKeyPosting {
  public:
   /// Whether the application of this window class is a terminal, beyond the ones that are known here. Called on the
@@ -28,7 +28,7 @@ class X11PasteKeys final : public quillmonger::PasteKeyPosting {
                                                              const std::string& display = {});
   ~X11PasteKeys() override;
 
-  void postPasteKeyEvents() override;
+  void postPasteKeyEvents(std::uint16_t keyCode) override;
 
  private:
   class Injector;

@@ -12,6 +12,9 @@
 namespace defaults {
 class Defaults;
 }
+namespace sauce {
+class Sauce;
+}
 
 namespace quillmonger {
 
@@ -20,8 +23,9 @@ namespace quillmonger {
 class PasteInjection final : public PasteStep {
  public:
   /// All outlive this object.
-  PasteInjection(PermissionsManaging& permissionsManager, PasteKeyPosting& pasteKeys, foundation::RunLoop& runLoop,
-                 foundation::NotificationCenter& notificationCenter, const defaults::Defaults& defaults);
+  PasteInjection(PermissionsManaging& permissionsManager, const sauce::Sauce& sauce, PasteKeyPosting& pasteKeys,
+                 foundation::RunLoop& runLoop, foundation::NotificationCenter& notificationCenter,
+                 const defaults::Defaults& defaults);
 
   /// The one way to take the history off the screen and give the front back. Set before the first paste.
   void setDismissal(std::function<void()> dismissal) { m_dismissal = std::move(dismissal); }
@@ -29,7 +33,10 @@ class PasteInjection final : public PasteStep {
   void pasteIntoFrontmostApplication(const void* sender) override;
 
  private:
+  void postPasteKeyEvents();
+
   PermissionsManaging& m_permissionsManager;
+  const sauce::Sauce& m_sauce;
   PasteKeyPosting& m_pasteKeys;
   foundation::RunLoop& m_runLoop;
   foundation::NotificationCenter& m_notificationCenter;

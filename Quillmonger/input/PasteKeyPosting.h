@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 namespace quillmonger {
 
 /// Presses the desktop's paste keys in whatever application gets the focus once this program has hidden itself.
@@ -13,7 +15,9 @@ class PasteKeyPosting {
 
   /// Goes out when the clipboard is known to hold what was written, another window has the focus and the user holds no
   /// modifier, each waited for within a bound; a wait in vain is told on standard output, and no key is pressed then.
-  virtual void postPasteKeyEvents() = 0;
+  ///
+  /// `keyCode`: the virtual key code, by position, of the key that types "v".
+  virtual void postPasteKeyEvents(std::uint16_t keyCode) = 0;
 };
 
 }  // namespace quillmonger

@@ -37,6 +37,13 @@ constexpr auto entries = std::to_array<Entry>({
     {"byte_count_zero", "Zero KB", "The size of nothing."},
     {"cancel_string", "Cancel", "The word 'cancel'."},
     {"delete_string", "Delete", "The word 'delete'."},
+    {"dialog_deny_button", "Not Now", "deny button"},
+    {"dialog_description",
+     "The copy is on the clipboard: paste it with the application's own keys. To let Quillmonger do that, allow it to "
+     "press keys in the system's settings, and paste again.",
+     "description for the accessibility dialog"},
+    {"dialog_message", "Quillmonger may not paste into other applications yet", "message for the accessibility dialog"},
+    {"dialog_open_button", "Open System Settings", "open system settings button"},
     {"empty_space_text", "Nothing copied yet. Your next copy shows up here.",
      "Text shown when the user has no items copied to their clipboard (empty state)."},
     {"error_alert_email_subject", "Quillmonger problem report",

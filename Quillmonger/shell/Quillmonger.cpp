@@ -51,8 +51,8 @@ void openUrl(const std::string& text) {
 Quillmonger::Quillmonger(const Platform& platform)
     : m_platform(platform),
       m_oculetManager(makeOculetManager()),
-      m_pasteInjection(m_permissionsManager, platform.pasteKeys, platform.runLoop, platform.notificationCenter,
-                       platform.defaults),
+      m_pasteInjection(platform.permissionsManager, platform.sauce, platform.pasteKeys, platform.runLoop,
+                       platform.notificationCenter, platform.defaults),
       m_ignoredApps(platform.defaults, platform.applicationBundles),
       m_clipboardManager({platform.pasteboard, platform.context, platform.bundleProvider, m_pasteInjection,
                           platform.runLoop, platform.notificationCenter, platform.defaults, m_ignoredApps}),

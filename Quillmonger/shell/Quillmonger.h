@@ -21,7 +21,6 @@
 #include "Quillmonger/input/LocalEventMonitoring.h"
 #include "Quillmonger/input/PasteInjection.h"
 #include "Quillmonger/input/PasteKeyPosting.h"
-#include "Quillmonger/input/PermissionsManager.h"
 #include "Quillmonger/search/SearchManager.h"
 #include "Quillmonger/search/SearchViewModel.h"
 #include "Quillmonger/settings/panes/AppPicker.h"
@@ -50,6 +49,8 @@ class Quillmonger final {
     const ApplicationNaming& applicationNaming;
     const PictureReading& pictureReading;
     foundation::TextLookup texts;
+    PermissionsManaging& permissionsManager;
+    const sauce::Sauce& sauce;
     PasteKeyPosting& pasteKeys;
     LocalEventMonitoring& eventMonitoring;
     Application& application;
@@ -69,7 +70,7 @@ class Quillmonger final {
   [[nodiscard]] SearchViewModel& searchViewModel() { return m_searchViewModel; }
   /// Made when it is first asked for: it reads the applications that it lists.
   [[nodiscard]] IgnoreAppsViewModel& ignoreAppsViewModel();
-  [[nodiscard]] PermissionsManaging& permissionsManager() { return m_permissionsManager; }
+  [[nodiscard]] PermissionsManaging& permissionsManager() { return m_platform.permissionsManager; }
   [[nodiscard]] WindowManager& windowManager() { return m_windowManager; }
 
   /// The program has been launched: shows the Getting Started guide while the setting `firstLaunch` is on, and starts
@@ -99,7 +100,6 @@ class Quillmonger final {
 
   Platform m_platform;
   std::shared_ptr<const OculetManager> m_oculetManager;
-  PermissionsManager m_permissionsManager;
   PasteInjection m_pasteInjection;
   IgnoredApps m_ignoredApps;
   ClipboardManager m_clipboardManager;

@@ -45,4 +45,9 @@ TEST(Text, IsBlankWhenNothingIsLeft) {
   EXPECT_FALSE(isBlank("\xC3"));
 }
 
+TEST(Text, ChangesTheCaseOfLettersAsNoLanguageInParticularDoes) {
+  EXPECT_EQ(foundation::lowercased("AZ\u00C9\u0394I1"), "az\u00E9\u03B4i1");
+  EXPECT_EQ(foundation::uppercased("az\u00E9\u03B4i\u00DF"), "AZ\u00C9\u0394ISS");
+}
+
 }  // namespace

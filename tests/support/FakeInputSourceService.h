@@ -15,7 +15,7 @@
 namespace testsupport {
 
 /// Input sources without a desktop: the test says which there are, what they type and which is selected.
-class FakeInputSourceService final : public sauce::InputSourceService {
+class FakeInputSourceService : public sauce::InputSourceService {
  public:
   using Texts = std::map<sauce::KeyCode, std::string>;
 
@@ -62,6 +62,18 @@ class FakeInputSourceService final : public sauce::InputSourceService {
   mutable std::vector<sauce::KeyCode> m_translated;
   foundation::Stream<std::monostate> m_selectedChanged;
   foundation::Stream<std::monostate> m_enabledChanged;
+};
+
+/// A desktop with one layout, which types "v" at its usual place.
+class LatinInputSource final : public FakeInputSourceService {
+ public:
+  LatinInputSource() {
+    const sauce::InputSource source("us");
+    setTexts(source, {{9, "v"}});
+    setEnabled({source});
+    setSelected(source);
+    setASCIICapable(source);
+  }
 };
 
 }  // namespace testsupport

@@ -23,14 +23,18 @@
 #include "Platform/qt/QtPictureReading.h"
 #include "Platform/qt/QtRunLoop.h"
 #include "Platform/x11/X11HotKeys.h"
+#include "Platform/x11/X11InputSources.h"
 #include "Platform/x11/X11PasteKeys.h"
 #include "Platform/x11/X11Pasteboard.h"
+#include "Platform/x11/X11PostEventAccess.h"
 #include "Platform/x11/X11WindowSystem.h"
 #include "Quillmonger/capture/ContextProvider.h"
 #include "Quillmonger/shell/DialogManager.h"
+#include "Quillmonger/shell/PermissionsManager.h"
 #include "Quillmonger/shell/Quillmonger.h"
 #include "Quillmonger/shell/app/Views.h"
 #include "Quillmonger/shell/command/CommandLine.h"
+#include "Sauce/Sauce.h"
 
 namespace quillmonger {
 
@@ -69,6 +73,9 @@ class Composition final {
   std::unique_ptr<platform::X11HotKeys> m_hotKeys;
   std::unique_ptr<platform::X11Pasteboard> m_pasteboard;
   std::unique_ptr<platform::X11PasteKeys> m_pasteKeys;
+  std::unique_ptr<platform::X11InputSources> m_inputSources;
+  platform::X11PostEventAccess m_postEventAccess;
+  sauce::Sauce m_sauce;
   platform::DesktopApplicationBundles m_applicationBundles;
   platform::DesktopApplicationNaming m_applicationNaming;
   platform::QtPictureReading m_pictureReading;
@@ -81,6 +88,7 @@ class Composition final {
   Views m_views;
 
   DialogManager m_dialogManager;
+  PermissionsManager m_permissionsManager;
   ContextProvider m_contextProvider;
   keyboardshortcuts::KeyboardShortcuts m_shortcuts;
   Quillmonger m_root;

@@ -20,6 +20,7 @@ using Key = KeyboardClient::Key;
 constexpr std::uint32_t evdevControl = 29;
 constexpr std::uint32_t evdevShift = 42;
 constexpr std::uint32_t evdevV = 47;
+constexpr std::uint16_t virtualV = 9;
 
 class X11PasteKeys : public testing::Test {
  protected:
@@ -38,7 +39,7 @@ class X11PasteKeys : public testing::Test {
   // Long enough for the wait to end in vain, told by the line that it prints then.
   [[nodiscard]] std::string outputOfAPasteInVain() {
     const testsupport::CapturedOutput output;
-    m_pasteKeys->postPasteKeyEvents();
+    m_pasteKeys->postPasteKeyEvents(virtualV);
     static_cast<void>(m_runLoop.runUntil([&output] { return output.text().ends_with('\n'); }));
     return output.text();
   }
@@ -57,7 +58,7 @@ class X11PasteKeys : public testing::Test {
 };
 
 TEST_F(X11PasteKeys, PressControlAndVInTheFocusedWindow) {
-  m_pasteKeys->postPasteKeyEvents();
+  m_pasteKeys->postPasteKeyEvents(virtualV);
 
   ASSERT_TRUE(isPasted());
   EXPECT_EQ(m_target.receivedKeys(), m_paste);
@@ -66,7 +67,7 @@ TEST_F(X11PasteKeys, PressControlAndVInTheFocusedWindow) {
 TEST_F(X11PasteKeys, AddShiftForATerminal) {
   m_target.setWindowClass("xterm", "XTerm");
 
-  m_pasteKeys->postPasteKeyEvents();
+  m_pasteKeys->postPasteKeyEvents(virtualV);
 
   ASSERT_TRUE(isPasted(6));
   EXPECT_EQ(m_target.receivedKeys()[1], (Key{evdevShift, true, XCB_MOD_MASK_CONTROL}));
@@ -76,7 +77,7 @@ TEST_F(X11PasteKeys, AddShiftForATerminal) {
 TEST_F(X11PasteKeys, AddShiftForWhatTheCallerCallsATerminal) {
   m_target.setWindowClass("our-terminal", "Whatever");
 
-  m_pasteKeys->postPasteKeyEvents();
+  m_pasteKeys->postPasteKeyEvents(virtualV);
 
   ASSERT_TRUE(isPasted(6));
   EXPECT_EQ(m_target.receivedKeys()[1].evdev, evdevShift);
@@ -84,7 +85,7 @@ TEST_F(X11PasteKeys, AddShiftForWhatTheCallerCallsATerminal) {
 
 TEST_F(X11PasteKeys, WaitUntilTheUserLetsGoOfTheModifiers) {
   m_us.press(evdevShift);
-  m_pasteKeys->postPasteKeyEvents();
+  m_pasteKeys->postPasteKeyEvents(virtualV);
   ASSERT_TRUE(isPasted(1));  // the user's Shift, which the window sees too
 
   m_us.release(evdevShift);
@@ -98,7 +99,7 @@ TEST_F(X11PasteKeys, WaitUntilAnotherWindowHasTheFocus) {
   m_us.showWindow();
   m_us.setWindowProcess(static_cast<std::uint32_t>(getpid()));
   m_us.focusWindow();
-  m_pasteKeys->postPasteKeyEvents();
+  m_pasteKeys->postPasteKeyEvents(virtualV);
 
   m_target.focusWindow();
 

@@ -8,15 +8,20 @@
 #include <vector>
 
 #include "Quillmonger/settings/SettingsKeys.h"
+#include "Quillmonger/shell/PermissionsManager.h"
+#include "Sauce/Sauce.h"
+#include "tests/support/FakeAlert.h"
 #include "tests/support/FakeAppPicker.h"
 #include "tests/support/FakeApplication.h"
 #include "tests/support/FakeApplicationBundles.h"
 #include "tests/support/FakeApplicationNaming.h"
 #include "tests/support/FakeBundleProvider.h"
 #include "tests/support/FakeHotKeyService.h"
+#include "tests/support/FakeInputSourceService.h"
 #include "tests/support/FakeLocalEventMonitor.h"
 #include "tests/support/FakePasteKeys.h"
 #include "tests/support/FakePasteboard.h"
+#include "tests/support/FakePostEventAccess.h"
 #include "tests/support/FakeStoreContext.h"
 #include "tests/support/FakeWindow.h"
 #include "tests/support/InlineBackgroundQueue.h"
@@ -50,10 +55,27 @@ class QuillmongerTest : public testing::Test {
   }
 
   quillmonger::Quillmonger& makeRoot() {
-    root = std::make_unique<quillmonger::Quillmonger>(quillmonger::Quillmonger::Platform{
-        runLoop, queue, notificationCenter, settings.defaults, shortcuts, context, pasteboard, bundleProvider, bundles,
-        naming, pictures, testsupport::englishText, pasteKeys, eventMonitor, application, gettingStartedWindow,
-        appWindow, settingsWindow, picker});
+    root = std::make_unique<quillmonger::Quillmonger>(quillmonger::Quillmonger::Platform{runLoop,
+                                                                                         queue,
+                                                                                         notificationCenter,
+                                                                                         settings.defaults,
+                                                                                         shortcuts,
+                                                                                         context,
+                                                                                         pasteboard,
+                                                                                         bundleProvider,
+                                                                                         bundles,
+                                                                                         naming,
+                                                                                         pictures,
+                                                                                         testsupport::englishText,
+                                                                                         permissions,
+                                                                                         sauce,
+                                                                                         pasteKeys,
+                                                                                         eventMonitor,
+                                                                                         application,
+                                                                                         gettingStartedWindow,
+                                                                                         appWindow,
+                                                                                         settingsWindow,
+                                                                                         picker});
     settle();
     return *root;
   }
@@ -101,6 +123,12 @@ class QuillmongerTest : public testing::Test {
   testsupport::FakeApplicationBundles bundles;
   testsupport::FakeApplicationNaming naming;
   testsupport::FakePictureReading pictures;
+  testsupport::FakePostEventAccess access;
+  testsupport::FakeAlert alert{quillmonger::Alert::firstButton};
+  quillmonger::PermissionsManager permissions{access, alert, testsupport::englishText, [](const foundation::Url&) {},
+                                              runLoop};
+  testsupport::LatinInputSource inputSources;
+  sauce::Sauce sauce{inputSources, notificationCenter};
   testsupport::FakePasteKeys pasteKeys;
   testsupport::FakeLocalEventMonitor eventMonitor;
   testsupport::FakeApplication application{log};
@@ -521,6 +549,23 @@ TEST_F(QuillmongerTest, LetsNoUrlWriteALineOfItsOwn) {
 
   EXPECT_EQ(std::count(lines.begin(), lines.end(), '\n'), 2);
   EXPECT_LT(lines.size(), 8192U);
+}
+
+TEST_F(QuillmongerTest, WithoutThePermissionThePasteEndsWithTheItemOnThePasteboardAndTheHistoryHidden) {
+  access.setAllowed(false);
+  startAndShow();
+  copy("kept");
+  int succeededCount = 0;
+  const auto hold = notificationCenter.observe("PasteSucceeded", [&](const auto&) { ++succeededCount; });
+  log.clear();
+
+  eventMonitor.press(returnKey);
+  settle();
+
+  EXPECT_EQ(log, dismissed);
+  EXPECT_EQ(pasteKeys.postedCount(), 0);
+  EXPECT_EQ(succeededCount, 0);
+  EXPECT_EQ(access.requestCount(), 1);
 }
 
 }  // namespace
