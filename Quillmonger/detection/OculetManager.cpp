@@ -22,12 +22,16 @@ bool OculetManager::mayDetect(std::string_view start) const {
                      [start](const auto& detector) { return detector->mayDetect(start); });
 }
 
-std::shared_ptr<const OculetManager> makeOculetManager() {
+OculetManager::Detectors makeDetectors() {
   OculetManager::Detectors detectors;
   detectors.push_back(std::make_unique<DateDetector>());
   detectors.push_back(std::make_unique<ColorDetector>());
   detectors.push_back(std::make_unique<JsonDetector>());
-  return std::make_shared<const OculetManager>(std::move(detectors));
+  return detectors;
+}
+
+std::shared_ptr<const OculetManager> makeOculetManager() {
+  return std::make_shared<const OculetManager>(makeDetectors());
 }
 
 }  // namespace quillmonger

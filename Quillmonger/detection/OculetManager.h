@@ -26,6 +26,8 @@ class OculetManager final {
 };
 
 /// The detectors of dates, colours and JSON, in this order.
+[[nodiscard]] OculetManager::Detectors makeDetectors();
+/// A manager of these detectors.
 [[nodiscard]] std::shared_ptr<const OculetManager> makeOculetManager();
 
 }  // namespace quillmonger

@@ -1,10 +1,13 @@
 #include "Quillmonger/history/ClipboardItemViewModel.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <limits>
 #include <string_view>
 #include <utility>
 
 #include "Defaults/Defaults.h"
+#include "Foundation/Fatal.h"
 #include "Foundation/Output.h"
 #include "Foundation/Text.h"
 #include "Quillmonger/capture/PasteboardTypes.h"
@@ -212,7 +215,11 @@ void ClipboardItemViewModel::paste(Invert invert) {
   const bool isTextAlone = !isImage() && !isFileURL() && isSettingOn != (invert == Invert::yes);
   m_services->clipboard.writeToPasteboard(*m_item, isTextAlone ? RemoveFormatting::yes : RemoveFormatting::no);
   m_services->clipboard.pasteIntoFrontmostApplication();
-  m_item->setTimesPasted(m_item->timesPasted() + 1);
+  const std::int64_t count = m_item->timesPasted();
+  if (count == std::numeric_limits<std::int64_t>::max()) {
+    foundation::stopProcess("A record was pasted too often to be counted.");
+  }
+  m_item->setTimesPasted(count + 1);
 }
 
 }  // namespace quillmonger

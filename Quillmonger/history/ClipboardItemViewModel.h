@@ -83,7 +83,8 @@ class ClipboardItemViewModel final : public Searchable, public std::enable_share
   [[nodiscard]] bool hasOculetResults() const;
 
   /// The one way to paste an item: puts it on the pasteboard, has it pasted into the application in front, and counts.
-  /// `invert` reverses the setting `alwaysPasteWithoutFormatting`, which pictures and files don't heed.
+  /// `invert` reverses the setting `alwaysPasteWithoutFormatting`, which pictures and files don't heed. Stops the
+  /// process for a record that was pasted more often than 64 bits can count.
   void paste(Invert invert);
 
   bool operator==(const ClipboardItemViewModel& other) const { return m_id == other.m_id; }

@@ -1,9 +1,21 @@
 #include "Quillmonger/search/SearchViewModel.h"
 
+#include <algorithm>
+
 #include "Defaults/Defaults.h"
 #include "Quillmonger/settings/SettingsKeys.h"
 
 namespace quillmonger {
+
+namespace {
+
+// What the settings file says can be any number, or none; a timer can't.
+foundation::Seconds pauseOf(double setting) {
+  constexpr double longest = 3600;
+  return foundation::Seconds(setting > 0 ? std::min(setting, longest) : 0);
+}
+
+}  // namespace
 
 SearchViewModel::SearchViewModel(foundation::RunLoop& runLoop, defaults::Defaults& defaults)
     : m_runLoop(runLoop), m_defaults(defaults) {
@@ -24,8 +36,8 @@ void SearchViewModel::termChanged(const std::string& term) {
 }
 
 void SearchViewModel::startPause() {
-  const foundation::Seconds interval{m_defaults[keys::searchDebounceInterval]};
-  m_pause = m_runLoop.after(interval, [this] { m_debouncedSearchTerm.set(m_lastTerm); });
+  const auto pause = pauseOf(m_defaults[keys::searchDebounceInterval]);
+  m_pause = m_runLoop.after(pause, [this] { m_debouncedSearchTerm.set(m_lastTerm); });
 }
 
 }  // namespace quillmonger

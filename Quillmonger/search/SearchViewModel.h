@@ -22,8 +22,8 @@ class SearchViewModel final {
 
   /// The text of the field, at every keystroke. The field writes it, and so does whoever opens the window.
   [[nodiscard]] foundation::Published<std::string>& searchTerm() { return m_searchTerm; }
-  /// The term that a search should use: `searchTerm`, once it has rested for the setting `searchDebounceInterval`.
-  /// A term that came back to its old value within the pause is told again.
+  /// The term that a search should use: `searchTerm`, once it has rested for the setting `searchDebounceInterval`, an
+  /// hour at most. A term that came back to its old value within the pause is told again.
   [[nodiscard]] foundation::Published<std::string>& debouncedSearchTerm() { return m_debouncedSearchTerm; }
 
  private:

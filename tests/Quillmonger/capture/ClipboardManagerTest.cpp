@@ -426,6 +426,15 @@ TEST_F(ClipboardManagerTest, DropsACopyOfAnIgnoredApplicationAndSaysSo) {
   EXPECT_TRUE(added.empty());
 }
 
+TEST_F(ClipboardManagerTest, DropsACopyOfTheBuiltInIgnoredApplicationFromTheFirstRunOn) {
+  startListening();
+  bundleProvider.setFrontmostBundle({"com.apple.keychainaccess", std::nullopt});
+
+  copyText("hello");
+
+  EXPECT_TRUE(added.empty());
+}
+
 TEST_F(ClipboardManagerTest, KeepsACopyOfAnApplicationThatIsNotIgnored) {
   startListening();
   settings.defaults.set(keys::ignoredApps, {"file:///apps/keys.desktop"});

@@ -29,7 +29,8 @@ TEST_F(DateLocaleTest, TheMonthComesFirstWhereTheIdentifierEndsInUS) {
     setLocale(locale);
     EXPECT_EQ(detect("03/04/2024"), march4) << locale;
   }
-  for (const auto* const locale : {"en_GB", "de_DE", "fr_FR", "en_CA", "ja_JP", "en_US_POSIX", "en"}) {
+  for (const auto* const locale :
+       {"en_GB", "de_DE", "fr_FR", "en_CA", "ja_JP", "tr_TR", "el_GR", "ar_EG", "en_US_POSIX", "en"}) {
     setLocale(locale);
     EXPECT_EQ(detect("03/04/2024"), april3) << locale;
   }
@@ -51,6 +52,10 @@ TEST_F(DateLocaleTest, TheLongFormIsInTheWordsOfTheLocale) {
   EXPECT_EQ(detect("水曜日, 01-5月-24 12:30:45 +0000"), noonOfMay1);
   setLocale("tr_TR");
   EXPECT_EQ(detect("Çarşamba, 01-May-24 12:30:45 +0000"), noonOfMay1);
+  setLocale("el_GR");
+  EXPECT_EQ(detect("Τετάρτη, 01-Μαΐ-24 12:30:45 +0000"), noonOfMay1);
+  setLocale("ar_EG");
+  EXPECT_EQ(detect("الأربعاء, ٠١-مايو-٢٤ ١٢:٣٠:٤٥ +0000"), noonOfMay1);
 }
 
 TEST_F(DateLocaleTest, NumbersMayBeInTheDigitsOfAnyScript) {
@@ -74,6 +79,25 @@ TEST_F(DateLocaleTest, TheIsoFormDoesNotDependOnTheLocale) {
   for (const auto* const locale : {"en_US", "ar_EG", "fa_IR", "th_TH", "tr_TR"}) {
     setLocale(locale);
     EXPECT_EQ(detect("2024-05-01T12:30:45Z"), noonOfMay1) << locale;
+  }
+}
+
+TEST_F(DateLocaleTest, AnIntegerDoesNotDependOnTheLocale) {
+  for (const auto* const locale : {"en_US", "de_DE", "tr_TR", "el_GR", "ar_EG", "ja_JP"}) {
+    setLocale(locale);
+    EXPECT_EQ(detect("1700000000123"), 1700000000) << locale;
+    EXPECT_EQ(detect("-1"), -1) << locale;
+    EXPECT_EQ(detect("99999999999999999999"), std::nullopt) << locale;
+  }
+}
+
+TEST_F(DateLocaleTest, ADayThatDoesNotExistIsNoDateInAnyLocale) {
+  for (const auto* const locale : {"en_US", "de_DE", "tr_TR", "el_GR", "ar_EG", "ja_JP"}) {
+    setLocale(locale);
+    EXPECT_EQ(detect("2024-02-30"), std::nullopt) << locale;
+    EXPECT_EQ(detect("30/02/2024"), std::nullopt) << locale;
+    EXPECT_EQ(detect(""), std::nullopt) << locale;
+    EXPECT_EQ(detect("12a"), std::nullopt) << locale;
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <nlohmann/json.hpp>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "Quillmonger/detection/JsonDetector.h"
@@ -29,6 +30,33 @@ std::string randomString(RandomText& random) {
   return text + "\"";
 }
 
+// A number of any length, such as "-0.0501E+07". Not 0 with an exponent: readers differ on one that is too large.
+std::string randomNumber(RandomText& random) {
+  const auto digits = [&random](std::size_t most) {
+    std::string text;
+    for (std::size_t i = 1 + random.below(most); i > 0; --i)
+      text += static_cast<char>('0' + random.below(10));
+    return text;
+  };
+  std::string text = random.below(2) == 0 ? "-" : "";
+  text += random.below(3) == 0 ? "0." + digits(25) + "1" : "7" + digits(25);
+  if (random.below(2) == 0) text += random.oneOf<std::string>({"e", "E", "e+", "E+", "e-", "E-"}) + digits(2);
+  return text;
+}
+
+// What of a document is neither within a string nor white space, so that a number is its digits.
+std::string skeleton(std::string_view json) {
+  std::string text;
+  bool isInString = false;
+  for (std::size_t at = 0; at < json.size(); ++at) {
+    const char byte = json[at];
+    if (byte == '"') isInString = !isInString;
+    if (isInString && byte == '\\') ++at;
+    if (!isInString && std::string_view(" \t\r\n").find(byte) == std::string_view::npos) text += byte;
+  }
+  return text;
+}
+
 std::string randomValue(RandomText& random, int depth);
 
 std::string randomContainer(RandomText& random, int depth) {
@@ -47,7 +75,7 @@ std::string randomContainer(RandomText& random, int depth) {
 
 std::string randomValue(RandomText& random, int depth) {
   const std::size_t kind = random.below(depth > 0 ? 5 : 3);
-  if (kind == 0) return random.oneOf(numbers);
+  if (kind == 0) return random.below(2) == 0 ? random.oneOf(numbers) : randomNumber(random);
   if (kind == 1) return random.oneOf(words);
   return kind == 2 ? randomString(random) : randomContainer(random, depth);
 }
@@ -65,6 +93,19 @@ TEST(JsonRandomTest, RewritingKeepsEveryValueAndTheOrderOfTheKeys) {
     const auto expected = nlohmann::ordered_json::parse(result.json);
     ASSERT_EQ(nlohmann::ordered_json::parse(*minified), expected) << result.json;
     ASSERT_EQ(nlohmann::ordered_json::parse(*beautified), expected) << result.json;
+  }
+}
+
+TEST(JsonRandomTest, RewritingKeepsTheTextOfEveryNumber) {
+  RandomText random(3);
+  for (int i = 0; i < 4000; ++i) {
+    const JsonResult result(randomContainer(random, 5));
+    const auto minified = result.minified();
+    const auto beautified = result.beautified();
+
+    ASSERT_TRUE(minified && beautified) << result.json;
+    ASSERT_EQ(skeleton(*minified), skeleton(result.json)) << result.json;
+    ASSERT_EQ(skeleton(*beautified), skeleton(result.json)) << result.json;
   }
 }
 

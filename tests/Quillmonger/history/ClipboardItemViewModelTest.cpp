@@ -6,33 +6,22 @@
 #include <string>
 
 #include "Foundation/Text.h"
-#include "Quillmonger/settings/SettingsKeys.h"
+#include "tests/support/InLocale.h"
 #include "tests/support/ItemServices.h"
 #include "tests/support/Records.h"
 
 namespace {
 
 using namespace quillmonger;
-using Invert = ClipboardItemViewModel::Invert;
-using RemoveFormatting = ClipboardManaging::RemoveFormatting;
 using testsupport::makeRecord;
 using Record = std::shared_ptr<ClipboardItem>;
 
 class ClipboardItemViewModelTest : public testing::Test, protected testsupport::ItemServices {
  protected:
+  testsupport::InLocale locale{"en_US"};
+
   std::shared_ptr<ClipboardItemViewModel> viewModelOf(Record record) {
     return std::make_shared<ClipboardItemViewModel>(std::move(record), services);
-  }
-  Record excelCopy() {
-    Payload payload;
-    payload.emplace(pasteboardtype::NSPasteboardTypeString, foundation::Data("1\t2"));
-    payload.emplace(pasteboardtype::NSPasteboardTypePNG, foundation::Data("pixels"));
-    return std::make_shared<ClipboardItem>(std::move(payload), "com.microsoft.Excel", std::nullopt,
-                                           testsupport::VirtualRunLoop::startDate());
-  }
-  RemoveFormatting pasted(const Record& record, Invert invert) {
-    viewModelOf(record)->paste(invert);
-    return clipboard.writes().back().removeFormatting;
   }
 };
 
@@ -72,46 +61,14 @@ TEST_F(ClipboardItemViewModelTest, TakesWhatIsNoLocationForNoFile) {
   EXPECT_EQ(viewModel->fileURL(), std::nullopt);
 }
 
-TEST_F(ClipboardItemViewModelTest, TakesASpreadsheetsTableForTextAndPastesItAsSuch) {
-  settings.defaults.set(keys::alwaysPasteWithoutFormatting, true);
-  const auto record = excelCopy();
+TEST_F(ClipboardItemViewModelTest, GivesThePlainTextBesideALocationThatIsNone) {
+  Payload payload;
+  payload.emplace(pasteboardtype::NSPasteboardTypeFileURL, foundation::Data("no location"));
+  payload.emplace(pasteboardtype::NSPasteboardTypeString, foundation::Data(" plain "));
+  const auto record = std::make_shared<ClipboardItem>(std::move(payload), std::nullopt, std::nullopt,
+                                                      testsupport::VirtualRunLoop::startDate());
 
-  EXPECT_FALSE(viewModelOf(record)->isImage());
-  EXPECT_EQ(pasted(record, Invert::no), RemoveFormatting::yes);
-}
-
-TEST_F(ClipboardItemViewModelTest, ReversesTheFormattingSettingForOnePaste) {
-  const auto record = makeRecord("text");
-  EXPECT_EQ(pasted(record, Invert::no), RemoveFormatting::no);
-  EXPECT_EQ(pasted(record, Invert::yes), RemoveFormatting::yes);
-
-  settings.defaults.set(keys::alwaysPasteWithoutFormatting, true);
-
-  EXPECT_EQ(pasted(record, Invert::no), RemoveFormatting::yes);
-  EXPECT_EQ(pasted(record, Invert::yes), RemoveFormatting::no);
-}
-
-TEST_F(ClipboardItemViewModelTest, PastesPicturesAndFilesWithAllTypesInAnyCase) {
-  settings.defaults.set(keys::alwaysPasteWithoutFormatting, true);
-  const auto picture = makeRecord("pixels", {}, pasteboardtype::NSPasteboardTypePNG);
-  const auto file = makeRecord("file:///a", {}, pasteboardtype::NSPasteboardTypeFileURL);
-
-  EXPECT_EQ(pasted(picture, Invert::no), RemoveFormatting::no);
-  EXPECT_EQ(pasted(picture, Invert::yes), RemoveFormatting::no);
-  EXPECT_EQ(pasted(file, Invert::no), RemoveFormatting::no);
-}
-
-TEST_F(ClipboardItemViewModelTest, WritesPastesAndCountsInThisOrder) {
-  const auto record = makeRecord("text");
-  std::size_t pastesWhenCounted = 0;
-  const auto hold = record->onChange([&] { pastesWhenCounted = clipboard.writeCountsAtPaste().size(); });
-
-  viewModelOf(record)->paste(Invert::no);
-
-  EXPECT_EQ(clipboard.writes().size(), 1U);
-  EXPECT_EQ(clipboard.writeCountsAtPaste(), std::vector<std::size_t>{1});
-  EXPECT_EQ(pastesWhenCounted, 1U);
-  EXPECT_EQ(record->timesPasted(), 1);
+  EXPECT_EQ(viewModelOf(record)->text().view, "plain");
 }
 
 TEST_F(ClipboardItemViewModelTest, GivesTheApplicationsNameWhileItIsThere) {

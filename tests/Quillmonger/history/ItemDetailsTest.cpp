@@ -1,34 +1,18 @@
 #include "Quillmonger/history/ItemDetails.h"
 
 #include <gtest/gtest.h>
-#include <unicode/locid.h>
 
 #include <limits>
 #include <string>
 
+#include "tests/support/InLocale.h"
 #include "tests/support/ItemServices.h"
 
 namespace {
 
 using namespace quillmonger;
 using testsupport::englishText;
-
-class InLocale final {
- public:
-  explicit InLocale(const char* name) {
-    UErrorCode status = U_ZERO_ERROR;
-    icu::Locale::setDefault(icu::Locale(name), status);
-  }
-  InLocale(const InLocale&) = delete;
-  InLocale& operator=(const InLocale&) = delete;
-  ~InLocale() {
-    UErrorCode status = U_ZERO_ERROR;
-    icu::Locale::setDefault(m_before, status);
-  }
-
- private:
-  icu::Locale m_before = icu::Locale::getDefault();
-};
+using testsupport::InLocale;
 
 TEST(ByteCount, IsCountedInThousandsWithMoreDecimalsTheLargerItIs) {
   const InLocale locale("en_US");
@@ -52,13 +36,31 @@ TEST(ByteCount, GoesToTheNextUnitWhenItRoundsUpToIt) {
   EXPECT_EQ(byteCountText(999'950'000, englishText), "1 GB");
 }
 
-TEST(ByteCount, IsWrittenAsTheLocaleWritesNumbers) {
-  const InLocale locale("de_DE");
+struct Numbers {
+  const char* locale;
+  const char* megabytes;
+  const char* picture;
+  const char* lines;
+};
+class ItemDetails : public testing::TestWithParam<Numbers> {};
 
-  EXPECT_EQ(byteCountText(1'234'567, englishText), "1,2 MB");
-  EXPECT_EQ(pictureSizeText({1920, 1080}), "1.920×1.080");
-  EXPECT_EQ(lineCountText(1'200, englishText), "1.200 lines");
+TEST_P(ItemDetails, AreWrittenAsTheLocaleWritesNumbers) {
+  const InLocale locale(GetParam().locale);
+
+  EXPECT_EQ(byteCountText(1'234'567, englishText), GetParam().megabytes);
+  EXPECT_EQ(pictureSizeText({1920, 1080}), GetParam().picture);
+  EXPECT_EQ(lineCountText(1'200, englishText), GetParam().lines);
+  EXPECT_EQ(byteCountText(0, englishText), "Zero KB");
 }
+
+INSTANTIATE_TEST_SUITE_P(Locales, ItemDetails,
+                         testing::Values(Numbers{"en_US", "1.2 MB", "1,920×1,080", "1,200 lines"},
+                                         Numbers{"de_DE", "1,2 MB", "1.920×1.080", "1.200 lines"},
+                                         Numbers{"tr_TR", "1,2 MB", "1.920×1.080", "1.200 lines"},
+                                         Numbers{"el_GR", "1,2 MB", "1.920×1.080", "1.200 lines"},
+                                         Numbers{"ar_EG", "١٫٢ MB", "١٬٩٢٠×١٬٠٨٠", "١٬٢٠٠ lines"},
+                                         Numbers{"ja_JP", "1.2 MB", "1,920×1,080", "1,200 lines"}),
+                         [](const auto& numbers) { return std::string(numbers.param.locale); });
 
 TEST(ByteCount, HasAPlaceForTheLargestNumber) {
   const InLocale locale("en_US");

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
+#include <set>
+
 namespace {
 
 using namespace quillmonger;
@@ -50,6 +53,23 @@ TEST(Action, HearsTheLeftOptionKeyOnBothEdgesAndTheRightOneNever) {
   EXPECT_EQ(actionForEvent({KeyEvent::Type::flagsChanged, 58, optionFlag}), Action::optionChanged);
   EXPECT_EQ(actionForEvent({KeyEvent::Type::flagsChanged, 58, 0}), Action::optionChanged);
   EXPECT_EQ(actionForEvent({KeyEvent::Type::flagsChanged, 61, optionFlag}), Action::none);
+}
+
+TEST(Action, MeansNothingForEveryOtherKeyWhateverTheModifiers) {
+  const std::set<std::uint16_t> known{18, 19, 20, 21, 22, 23, 25, 26, 28, 36, 43, 51, 53, 58, 125, 126};
+  for (std::uint32_t keyCode = 0; keyCode <= 0xFFFF; ++keyCode) {
+    const auto code = static_cast<std::uint16_t>(keyCode);
+    if (known.contains(code)) continue;
+    ASSERT_EQ(actionFor(code), Action::none) << keyCode;
+    ASSERT_EQ(actionFor(code, commandFlag | optionFlag | shiftFlag | controlFlag), Action::none) << keyCode;
+  }
+}
+
+TEST(Action, AsksForCommandWhateverElseIsHeld) {
+  EXPECT_EQ(actionFor(18, commandFlag | optionFlag), Action::select);
+  EXPECT_EQ(actionFor(51, commandFlag | shiftFlag), Action::deleteItem);
+  for (const std::uint16_t keyCode : std::initializer_list<std::uint16_t>{18, 43, 51})
+    EXPECT_EQ(actionFor(keyCode, optionFlag | shiftFlag | controlFlag), Action::none) << keyCode;
 }
 
 TEST(Action, MeansNothingForTheKeypadsEnter) { EXPECT_EQ(actionFor(76), Action::none); }

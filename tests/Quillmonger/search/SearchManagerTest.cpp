@@ -97,12 +97,22 @@ TEST_F(SearchManagerTest, FindsNothingForAnInvalidExpression) {
   EXPECT_EQ(find("("), Texts{});
 }
 
+TEST_F(SearchManagerTest, CompletesForAnExpressionThatWouldRunForEver) {
+  settings.defaults.set(keys::searchRegex, true);
+  add(std::string(64, 'a') + "!", 1s, std::string(64, 'a') + "!");
+  add("aaa", 2s);
+
+  EXPECT_EQ(find("(a+)+$"), Texts{"aaa"});
+}
+
 TEST_F(SearchManagerTest, ReturnsEveryItemForAnAnchorAlone) {
   settings.defaults.set(keys::searchRegex, true);
   add("a", 1s);
   add("b", 2s);
 
   EXPECT_EQ(find("^^"), (Texts{"a", "b"}));
+  EXPECT_EQ(results->front().match, std::nullopt);
+  EXPECT_EQ(find("$"), (Texts{"a", "b"}));
   EXPECT_EQ(find("^b"), Texts{"b"});
 }
 
@@ -171,6 +181,13 @@ TEST_F(SearchManagerTest, LeavesTheApplicationNameOutWhenTheSettingSaysSo) {
   EXPECT_EQ(find("Safari"), Texts{});
 }
 
+TEST_F(SearchManagerTest, FindsTheTextOfAnItemWhoseApplicationIsGone) {
+  add("page", 1s);
+  add("other", 2s);
+
+  EXPECT_EQ(find("page"), Texts{"page"});
+}
+
 TEST_F(SearchManagerTest, FindsAnItemWithoutTextByItsApplicationName) {
   add("", 1s, "Painter");
 
@@ -194,6 +211,20 @@ TEST_F(SearchManagerTest, GivesAShortHistoryToOneWorkerAndALongOneToTwo) {
 
   EXPECT_EQ(queue.performedCounts(), (std::vector<std::size_t>{1, 2}));
   EXPECT_EQ(results->size(), 500U);
+}
+
+TEST_F(SearchManagerTest, GivesALongHistoryToOneWorkerOnOneProcessor) {
+  testsupport::InlineBackgroundQueue oneProcessor(1);
+  SearchManager<Note> frugal(oneProcessor, runLoop, settings.defaults);
+  for (int count = 0; count < 1000; ++count)
+    add("x", 1s);
+
+  frugal.search(quillmonger::SearchItems<Note>(notes), "x", [this](const auto& found) { results = found; });
+  oneProcessor.run();
+  runLoop.runPosted();
+
+  EXPECT_EQ(oneProcessor.performedCounts(), std::vector<std::size_t>{1});
+  EXPECT_EQ(results->size(), 1000U);
 }
 
 TEST_F(SearchManagerTest, PutsTheFindsOfBothWorkersIntoOneOrder) {

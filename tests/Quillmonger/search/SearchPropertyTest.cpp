@@ -16,6 +16,7 @@
 #include "Quillmonger/search/SearchManager.h"
 #include "Quillmonger/settings/SettingsKeys.h"
 #include "tests/Quillmonger/search/Note.h"
+#include "tests/support/InLocale.h"
 #include "tests/support/InlineBackgroundQueue.h"
 #include "tests/support/TestDefaults.h"
 #include "tests/support/VirtualRunLoop.h"
@@ -32,11 +33,12 @@ using testsupport::Note;
 namespace keys = quillmonger::keys;
 
 // What folds, composes, joins or looks alike in some script.
-constexpr std::array<const char*, 40> pieces{
-    "a",      "A",  "b",      "s",      "S",      "\u00DF", "\u1E9E",     "\u017F",     "i",      "I",
-    "ı",      "İ",  "Σ",      "σ",      "ς",      "e",      "\u0301",     "é",          "É",      "k",
-    "\u212A", "f",  "\uFB01", "\uFB03", " ",      "\n",     "\r",         "\r\n",       "\u1112", "\u1161",
-    "\u11AB", "한", "👍",      "🏽",   "\u200D", "👩",      "\U0001F1E9", "\U0001F1EA", "क",      "ि"};
+constexpr std::array<const char*, 48> pieces{
+    "ά",      "Α",      "\u0345", "ا",      "\u0654",     "ب",          "か",     "\u3099", "a",      "A",
+    "b",      "s",      "S",      "\u00DF", "\u1E9E",     "\u017F",     "i",      "I",      "ı",      "İ",
+    "Σ",      "σ",      "ς",      "e",      "\u0301",     "é",          "É",      "k",      "\u212A", "f",
+    "\uFB01", "\uFB03", " ",      "\n",     "\r",         "\r\n",       "\u1112", "\u1161", "\u11AB", "한",
+    "👍",      "🏽",   "\u200D", "👩",      "\U0001F1E9", "\U0001F1EA", "क",      "ि"};
 
 std::string randomText(std::mt19937& random, std::size_t pieceCount) {
   std::string text;
@@ -85,15 +87,6 @@ std::optional<CharacterRange> expectedMatch(const std::vector<icu::UnicodeString
 
 class SearchProperty : public testing::TestWithParam<const char*> {
  protected:
-  void SetUp() override {
-    UErrorCode status = U_ZERO_ERROR;
-    icu::Locale::setDefault(icu::Locale(GetParam()), status);
-  }
-  void TearDown() override {
-    UErrorCode status = U_ZERO_ERROR;
-    icu::Locale::setDefault(m_before, status);
-  }
-
   std::map<const Note*, std::optional<CharacterRange>> find(const std::vector<std::shared_ptr<Note>>& notes,
                                                             const std::string& term) {
     std::map<const Note*, std::optional<CharacterRange>> found;
@@ -109,7 +102,7 @@ class SearchProperty : public testing::TestWithParam<const char*> {
   testsupport::TestDefaults m_settings;
 
  private:
-  icu::Locale m_before = icu::Locale::getDefault();
+  testsupport::InLocale m_locale{GetParam()};
   testsupport::VirtualRunLoop m_runLoop;
   testsupport::InlineBackgroundQueue m_queue;
   SearchManager<Note> m_manager{m_queue, m_runLoop, m_settings.defaults};
@@ -142,7 +135,7 @@ TEST_P(SearchProperty, FindsTheFirstRunOfCharactersThatIsTheTerm) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Locales, SearchProperty, testing::Values("en_US", "tr_TR", "de_DE"),
+INSTANTIATE_TEST_SUITE_P(Locales, SearchProperty, testing::Values("en_US", "de_DE", "tr_TR", "el_GR", "ar_EG", "ja_JP"),
                          [](const auto& locale) { return std::string(locale.param); });
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -101,6 +102,32 @@ TEST_F(SearchViewModelTest, FollowsTheFieldAfterTheSettingChanged) {
   runLoop.advance(500ms);
 
   EXPECT_EQ(terms, Terms{"abc"});
+}
+
+TEST_F(SearchViewModelTest, TellsATermWithoutAPauseForASettingThatIsNoPause) {
+  for (const double setting : {0.0, -1.0, -1e300, std::numeric_limits<double>::quiet_NaN()}) {
+    settings.defaults.set(keys::searchDebounceInterval, setting);
+    runLoop.advance(0s);
+    terms.clear();
+
+    type("abc" + std::to_string(setting));
+    runLoop.advance(0s);
+
+    EXPECT_EQ(terms.size(), 1U) << setting;
+  }
+}
+
+TEST_F(SearchViewModelTest, TellsATermAfterAnHourForASettingThatIsLonger) {
+  for (const double setting : {1e6, 1e300, std::numeric_limits<double>::infinity()}) {
+    settings.defaults.set(keys::searchDebounceInterval, setting);
+    runLoop.advance(1h);
+    terms.clear();
+
+    type("abc" + std::to_string(setting));
+    runLoop.advance(1h);
+
+    EXPECT_EQ(terms.size(), 1U) << setting;
+  }
 }
 
 TEST(SearchViewModel, TellsThePresentTermOneIntervalAfterItIsMade) {

@@ -1,7 +1,6 @@
 #include "Quillmonger/search/TextMatcher.h"
 
 #include <gtest/gtest.h>
-#include <unicode/locid.h>
 #include <unicode/uchar.h>
 #include <unicode/unistr.h>
 
@@ -11,6 +10,7 @@
 #include <string_view>
 
 #include "Quillmonger/search/FoldedText.h"
+#include "tests/support/InLocale.h"
 
 namespace {
 
@@ -79,18 +79,33 @@ TEST(TextMatcher, FindsATermBehindCharactersThatFoldToMore) {
 }
 
 TEST(TextMatcher, FoldsCaseAsTheLocaleHasIt) {
-  UErrorCode status = U_ZERO_ERROR;
-  const icu::Locale before = icu::Locale::getDefault();
-  icu::Locale::setDefault(icu::Locale("tr"), status);
+  for (const auto* const turkic : {"tr_TR", "az_AZ"}) {
+    const testsupport::InLocale locale(turkic);
+    EXPECT_EQ(find("i", "\u0130"), range(0, 0)) << turkic;
+    EXPECT_EQ(find("i", "I"), std::nullopt) << turkic;
+    EXPECT_EQ(find("\u0131", "I"), range(0, 0)) << turkic;
+    EXPECT_EQ(find("abc", "ABC"), range(0, 2)) << turkic;
+  }
+  for (const auto* const other : {"en_US", "de_DE", "el_GR", "ar_EG", "ja_JP"}) {
+    const testsupport::InLocale locale(other);
+    EXPECT_EQ(find("i", "I"), range(0, 0)) << other;
+    EXPECT_EQ(find("\u0131", "I"), std::nullopt) << other;
+  }
+}
 
-  const auto dotted = find("i", "\u0130");
-  const auto dotless = find("i", "I");
-  const auto other = find("abc", "ABC");
-  icu::Locale::setDefault(before, status);
+TEST(TextMatcher, TakesAFinalSigmaForASigma) {
+  const testsupport::InLocale locale("el_GR");
 
-  EXPECT_EQ(dotted, range(0, 0));
-  EXPECT_EQ(dotless, std::nullopt);
-  EXPECT_EQ(other, range(0, 2));
+  EXPECT_EQ(find("ΟΔΟΣ", "η οδος"), range(2, 5));
+  EXPECT_EQ(find("οδοσ", "ΟΔΟΣ"), range(0, 3));
+  EXPECT_EQ(find("οδοσ", "οδος", sameCase), std::nullopt);
+}
+
+TEST(TextMatcher, FindsScriptsWithoutCaseInWholeCharacters) {
+  EXPECT_EQ(find("كتاب", "هذا كتاب"), range(4, 7));
+  EXPECT_EQ(find("ب", "بَ"), std::nullopt) << "a letter that carries a vowel sign";
+  EXPECT_EQ(find("が", "か\u3099"), range(0, 0));
+  EXPECT_EQ(find("か", "か\u3099"), std::nullopt);
 }
 
 TEST(TextMatcher, TakesABrokenTermAsItsReplacement) { EXPECT_EQ(find("\xFF", "a\uFFFD"), range(1, 1)); }
@@ -126,6 +141,7 @@ TEST(TextMatcher, TakesAnchorsAsTermsOtherwise) {
   EXPECT_FALSE(isInert("^", anyCase));
   EXPECT_FALSE(isInert("^a", expression));
   EXPECT_FALSE(isInert("^$", expression));
+  EXPECT_FALSE(isInert(" ", anyCase));
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/FakeInstalledApplications.h"
+#include "tests/support/InLocale.h"
 
 namespace {
 
@@ -11,6 +12,9 @@ using Names = std::vector<std::string>;
 
 class ApplicationFinderTest : public testing::Test {
  protected:
+  // The order is the locale's.
+  testsupport::InLocale english{"en_US"};
+
   void install(const std::string& name, const std::string& genericName = {}, std::vector<std::string> keywords = {}) {
     installed.install("id-" + std::to_string(++count), name, genericName, std::move(keywords));
   }
@@ -33,6 +37,18 @@ TEST_F(ApplicationFinderTest, GivesAllInAlphabeticalOrderWhateverCaseAndAccents)
   EXPECT_EQ(find("  ").size(), 7U);
 }
 
+TEST_F(ApplicationFinderTest, OrdersAsTheLanguageOfTheUserDoes) {
+  for (const char* name : {"Zebra", "Ökonomie", "Orca"})
+    install(name);
+
+  for (const auto* const locale : {"en_US", "de_DE", "el_GR", "ar_EG", "ja_JP", "en_US_POSIX"}) {
+    const testsupport::InLocale user(locale);
+    EXPECT_EQ(find(""), (Names{"Ökonomie", "Orca", "Zebra"})) << locale;
+  }
+  const testsupport::InLocale swedish("sv_SE");
+  EXPECT_EQ(find(""), (Names{"Orca", "Zebra", "Ökonomie"}));
+}
+
 TEST_F(ApplicationFinderTest, OrdersApplicationsOfOneNameByTheirIdentifier) {
   installed.install("b", "Files");
   installed.install("a", "Files");
@@ -52,7 +68,10 @@ TEST_P(ApplicationFinderFinds, WhateverCaseAndAccents) {
   install(GetParam().name);
   install("something else");
 
-  EXPECT_EQ(find(GetParam().term), Names{GetParam().name});
+  for (const auto* const locale : {"en_US", "de_DE", "tr_TR", "el_GR", "ar_EG", "ja_JP"}) {
+    const testsupport::InLocale user(locale);
+    EXPECT_EQ(find(GetParam().term), Names{GetParam().name}) << locale;
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(Names, ApplicationFinderFinds,
@@ -60,7 +79,8 @@ INSTANTIATE_TEST_SUITE_P(Names, ApplicationFinderFinds,
                                          Search{"Søk", "sok"}, Search{"Ελλάδα", "ελλαδα"},
                                          Search{"E\xCC\x81t\xC3\xA9", "ete"}, Search{"Почта", "поч"},
                                          Search{"日本語入力", "入力"}, Search{"ＴＥＸＴ", "text"},
-                                         Search{"GNU Image Program", " image p "}));
+                                         Search{"GNU Image Program", " image p "}, Search{"IDLE", "idle"},
+                                         Search{"İzleme", "izle"}, Search{"كتاب", "كت"}));
 
 TEST_F(ApplicationFinderTest, FindsByGenericNameKeywordsAndIdentifier) {
   install("Falkon", "Web Browser");
