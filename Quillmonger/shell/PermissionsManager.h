@@ -5,9 +5,9 @@
 #include "Foundation/RunLoop.h"
 #include "Foundation/TextLookup.h"
 #include "Quillmonger/capture/PermissionsManaging.h"
+#include "Quillmonger/input/PostEventAccess.h"
 #include "Quillmonger/shell/Alert.h"
 #include "Quillmonger/shell/DialogManager.h"
-#include "Quillmonger/input/PostEventAccess.h"
 
 namespace quillmonger {
 
