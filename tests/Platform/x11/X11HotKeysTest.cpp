@@ -94,6 +94,40 @@ TEST_F(X11HotKeys, WorkWhateverLockIsOn) {
   EXPECT_TRUE(isTold(2));
 }
 
+TEST_F(X11HotKeys, WorkWhateverLayoutIsActive) {
+  testsupport::ChildProcess layouts({"setxkbmap", "-layout", "us,ru"}, {m_display.environment()});
+  ASSERT_TRUE(m_runLoop.runUntil([&layouts] { return layouts.isFinished(); }));
+  ASSERT_EQ(layouts.exitCode(), 0);
+  ASSERT_TRUE(m_hotKeys->registerHotKey(seven, virtualV, shiftAndCommand));
+  m_user.lockGroup(1);
+
+  pressChord();
+  releaseChord();
+
+  EXPECT_TRUE(isTold(2));
+}
+
+TEST_F(X11HotKeys, FollowAChangeOfTheKeyboardMapping) {
+  ASSERT_TRUE(m_hotKeys->registerHotKey(seven, virtualV, shiftAndCommand));
+  testsupport::ChildProcess layouts({"setxkbmap", "-layout", "de", "-option", "altwin:swap_alt_win"},
+                                    {m_display.environment()});
+  ASSERT_TRUE(m_runLoop.runUntil([&layouts] { return layouts.isFinished(); }));
+  ASSERT_EQ(layouts.exitCode(), 0);
+  constexpr std::uint32_t evdevAlt = 56;  // types Super now
+
+  const bool isFollowed = m_runLoop.runUntil([this] {
+    m_user.press(evdevAlt);
+    m_user.press(evdevShift);
+    m_user.press(evdevV);
+    m_user.release(evdevV);
+    m_user.release(evdevShift);
+    m_user.release(evdevAlt);
+    return !m_told.empty();
+  });
+
+  EXPECT_TRUE(isFollowed);
+}
+
 TEST_F(X11HotKeys, TellAHeldKeyAsOnePress) {
   testsupport::ChildProcess fast({"xset", "r", "rate", "20", "200"}, {m_display.environment()});
   ASSERT_TRUE(m_runLoop.runUntil([&fast] { return fast.isFinished(); }));

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "tests/support/CapturedOutput.h"
+#include "tests/support/ChildProcess.h"
 #include "tests/support/PrivateDisplay.h"
 #include "tests/support/RealRunLoop.h"
 #include "tests/support/x11/KeyboardClient.h"
@@ -20,7 +21,10 @@ using Key = KeyboardClient::Key;
 constexpr std::uint32_t evdevControl = 29;
 constexpr std::uint32_t evdevShift = 42;
 constexpr std::uint32_t evdevV = 47;
+constexpr std::uint32_t evdevPeriod = 52;
+constexpr std::uint32_t evdevCapsLock = 58;
 constexpr std::uint16_t virtualV = 9;
+constexpr std::uint16_t virtualPeriod = 47;
 
 class X11PasteKeys : public testing::Test {
  protected:
@@ -138,6 +142,47 @@ TEST_F(X11PasteKeys, PressNothingWhileAModifierStaysHeld) {
   EXPECT_EQ(outputOfAPasteInVain(), "Paste keys not pressed: a modifier key is held\n");
 
   EXPECT_EQ(m_target.receivedKeys().size(), 1U);
+}
+
+TEST_F(X11PasteKeys, PressTheKeyThatTheyAreGiven) {
+  m_pasteKeys->postPasteKeyEvents(virtualPeriod);
+
+  ASSERT_TRUE(isPasted());
+  EXPECT_EQ(m_target.receivedKeys()[1].evdev, evdevPeriod);
+}
+
+TEST_F(X11PasteKeys, LeaveCapsLockOutOfTheChordAndOnAfterwards) {
+  m_us.tap(evdevCapsLock);
+  ASSERT_TRUE(isPasted(2));
+
+  m_pasteKeys->postPasteKeyEvents(virtualV);
+
+  ASSERT_TRUE(isPasted(6));
+  const auto keys = m_target.receivedKeys();
+  EXPECT_EQ(std::vector<Key>(keys.begin() + 2, keys.end()), m_paste);
+  m_us.tap(evdevV);
+  ASSERT_TRUE(isPasted(8));
+  EXPECT_EQ(m_target.receivedKeys().back().state, XCB_MOD_MASK_LOCK);
+}
+
+TEST_F(X11PasteKeys, PressTheKeyUnderTheLayoutThatHasTheLetterAndGoBackToTheUsersOwn) {
+  testsupport::ChildProcess layouts({"setxkbmap", "-layout", "us,ru"}, {m_display.environment()});
+  ASSERT_TRUE(m_runLoop.runUntil([&layouts] { return layouts.isFinished(); }));
+  ASSERT_EQ(layouts.exitCode(), 0);
+  m_us.lockGroup(1);
+  m_us.tap(evdevV);
+  ASSERT_TRUE(isPasted(2));
+  const auto underRussian = m_target.receivedKeys().back().state;
+
+  m_pasteKeys->postPasteKeyEvents(virtualV);
+
+  ASSERT_TRUE(isPasted(6));
+  const auto keys = m_target.receivedKeys();
+  EXPECT_EQ(std::vector<Key>(keys.begin() + 2, keys.end()), m_paste);
+  m_us.tap(evdevV);
+  ASSERT_TRUE(isPasted(8));
+  EXPECT_NE(underRussian, 0);
+  EXPECT_EQ(m_target.receivedKeys().back().state, underRussian);
 }
 
 }  // namespace
