@@ -64,9 +64,6 @@ class Desktop:
         try:
             self._start_bus()
             self._start_display()
-            if self.window_manager:
-                self.spawn([self.window_manager])
-                wait_until(self._has_window_manager, "the window manager")
         except BaseException:
             self.__exit__()
             raise
@@ -101,11 +98,21 @@ class Desktop:
             pass_fds=[writing], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         os.close(writing)
         self.processes.append(server)
+        self.server = server
         with os.fdopen(reading) as numbers:
             number = numbers.readline().strip()
         if not number:
             raise RuntimeError("Xvfb did not start")
         self.environment["DISPLAY"] = f":{number}"
+        if self.window_manager:
+            self.spawn([self.window_manager])
+            wait_until(self._has_window_manager, "the window manager")
+
+    def replace_display(self):
+        """The display's server dies, and another one takes its place."""
+        self.server.kill()
+        self.server.wait()
+        self._start_display()
 
     def _has_window_manager(self):
         answer = self.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], check=False)

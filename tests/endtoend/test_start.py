@@ -58,6 +58,19 @@ class TheStart(RoadCase):
         self.desktop.start_app()
         self.assertEqual(self.desktop.texts(), ["saved at the end"])
 
+    def test_losing_the_display_saves_and_ends(self):
+        self.desktop.start_app()
+        self.desktop.copy("the last words")
+        self.desktop.wait_for_text("the last words")
+
+        self.desktop.replace_display()
+        self.desktop.app.wait(10)
+
+        self.assertEqual(self.desktop.app.returncode, 1)
+        self.assertIn("The history is saved.", self.desktop.log.read_text())
+        self.desktop.start_app()
+        self.assertEqual(self.desktop.texts(), ["the last words"])
+
     def test_a_store_that_is_no_store_gives_the_alert_then_the_stop_and_is_left_alone(self):
         self.desktop.quillmonger("defaults", "write", "firstLaunch", "false")
         self.desktop.data.mkdir(parents=True)

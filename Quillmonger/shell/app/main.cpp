@@ -10,8 +10,10 @@
 #include <memory>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
+#include "Foundation/Output.h"
 #include "Platform/freedesktop/SingleInstance.h"
 #include "Platform/freedesktop/XdgFolders.h"
 #include "Platform/qt/QtTerminationSignals.h"
@@ -34,6 +36,16 @@ void prepareToolkit() {
   QGuiApplication::setQuitOnLastWindowClosed(false);
 }
 
+quillmonger::Composition* running = nullptr;
+
+// The toolkit calls exit when the display is gone. Nothing on the stack ends then, while the services' threads go on.
+void saveAtExit() {
+  if (running == nullptr) return;
+  std::exchange(running, nullptr)->saveChanges();
+  foundation::printLine("Quillmonger lost the display. The history is saved.");
+  std::_Exit(EXIT_FAILURE);
+}
+
 int run(int argc, char** argv, const platform::XdgFolders& folders, const std::vector<std::string>& arguments) {
   prepareToolkit();
   QGuiApplication application(argc, argv);
@@ -46,7 +58,11 @@ int run(int argc, char** argv, const platform::XdgFolders& folders, const std::v
   const platform::QtTerminationSignals termination([&composition] { composition.quit(); });
   QObject::connect(&application, &QCoreApplication::aboutToQuit, [&composition] { composition.saveChanges(); });
   composition.launch(arguments);
-  return QGuiApplication::exec();
+  running = &composition;
+  std::atexit(&saveAtExit);
+  const int exitCode = QGuiApplication::exec();
+  running = nullptr;
+  return exitCode;
 }
 
 // The right to be the one that runs. Null when another one runs, which has got the words then.
