@@ -34,7 +34,7 @@ std::string encodeJson(Json value) {
 
 std::optional<Json> decodeJson(std::string_view text) {
   if (text.size() > jsonSizeLimit) return std::nullopt;
-  const std::string bracketed = "[" + std::string(text) + "]";
+  const std::string bracketed = std::string("[").append(text).append("]");
   if (!isDepthBounded(bracketed, Object::depthLimit + 1)) return std::nullopt;
   Json list = Json::parse(bracketed, nullptr, false);
   if (!list.is_array() || list.size() != 1) return std::nullopt;

@@ -56,7 +56,7 @@ BENCHMARK_CAPTURE(match, color, "#ff8000");
 std::string document() {
   constexpr std::string_view record =
       R"({"id": 123456, "name": "Ann \"A.\" Example", "url": "https://example.org/a/b", "tags": ["a", "b"], "x": -1.5e3},)";
-  std::string text = "[" + repeated(record, documentSize / record.size() * record.size());
+  std::string text = std::string("[").append(repeated(record, documentSize / record.size() * record.size()));
   text.back() = ']';
   return text;
 }
@@ -72,7 +72,7 @@ void judgeJson(benchmark::State& state) {
 BENCHMARK(judgeJson)->Unit(benchmark::kMillisecond);
 
 void judgeOneLongString(benchmark::State& state) {
-  const std::string text = "[\"" + repeated(proseWithDigits, documentSize) + "\"]";
+  const std::string text = std::string("[\"").append(repeated(proseWithDigits, documentSize)).append("\"]");
   const JsonDetector detector;
   for (auto step : state) {
     const auto result = detector.detect(text);
