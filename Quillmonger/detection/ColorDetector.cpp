@@ -103,9 +103,10 @@ bool startsLikeCall(std::string_view text) {
 }
 
 bool looksLikeCall(std::string_view text) {
-  // A line end may follow the closing parenthesis.
-  const bool endsInAscii = text.back() > ' ';
-  return startsLikeCall(text) && (text.back() == ')' || !endsInAscii);
+  // A line end may follow the closing parenthesis, which is the only one.
+  constexpr std::size_t longestEnd = std::string_view(")\u2029").size();
+  const std::size_t closing = startsLikeCall(text) ? text.find(')') : std::string_view::npos;
+  return closing != std::string_view::npos && text.size() - closing <= longestEnd;
 }
 
 }  // namespace

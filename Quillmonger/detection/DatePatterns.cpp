@@ -5,6 +5,7 @@
 #include <unicode/smpdtfmt.h>
 #include <unicode/unistr.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <memory>
@@ -26,6 +27,18 @@ Patterns patternsFor(const icu::Locale& locale) {
 
 icu::UnicodeString toUtf16(std::string_view text) {
   return icu::UnicodeString::fromUTF8({text.data(), static_cast<std::int32_t>(text.size())});
+}
+
+bool isAscii(std::string_view text) {
+  return std::ranges::all_of(text, [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+}
+
+// The two bytes of CR LF are one character, the only one of ASCII that has more than one.
+std::size_t countOfLineEnds(std::string_view text) {
+  std::size_t count = 0;
+  for (std::size_t at = text.find("\r\n"); at != std::string_view::npos; at = text.find("\r\n", at + 2))
+    ++count;
+  return count;
 }
 
 }  // namespace
@@ -51,6 +64,7 @@ std::optional<double> readDatePattern(std::string_view text) {
 
 bool hasAtMostCharacters(std::string_view text, std::size_t count) {
   if (text.size() <= count) return true;
+  if (isAscii(text)) return text.size() - countOfLineEnds(text) <= count;
   UErrorCode status = U_ZERO_ERROR;
   const std::unique_ptr<icu::BreakIterator> characters(
       icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));

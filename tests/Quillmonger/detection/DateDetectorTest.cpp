@@ -42,6 +42,8 @@ TEST_F(DateDetectorTest, ACharacterIsWhatAUserPerceives) {
   EXPECT_FALSE(hasAtMostCharacters("e\u0301e\u0301", 1));
   EXPECT_TRUE(hasAtMostCharacters("\r\n👩‍👩‍👧", 2));
   EXPECT_FALSE(hasAtMostCharacters("\r\n👩‍👩‍👧a", 2));
+  EXPECT_TRUE(hasAtMostCharacters("\r\na\r\n\n", 4));
+  EXPECT_FALSE(hasAtMostCharacters("\r\na\n\r\r", 4));
 }
 
 TEST_F(DateDetectorTest, TheEmptyTextIsNoDate) { EXPECT_EQ(detect(""), std::nullopt); }
