@@ -6,6 +6,8 @@
 #include <atomic>
 #include <utility>
 
+#include "Foundation/BackgroundThread.h"
+
 namespace platform {
 
 QtBackgroundQueue::QtBackgroundQueue() {
@@ -16,7 +18,12 @@ QtBackgroundQueue::QtBackgroundQueue() {
 
 QtBackgroundQueue::~QtBackgroundQueue() { m_pool.waitForDone(); }
 
-void QtBackgroundQueue::async(std::function<void()> work) { m_pool.start(std::move(work)); }
+void QtBackgroundQueue::async(std::function<void()> work) {
+  m_pool.start([work = std::move(work)] {
+    foundation::becomeBackgroundThread();
+    work();
+  });
+}
 
 void QtBackgroundQueue::concurrentPerform(std::size_t count, const std::function<void(std::size_t)>& work) {
   std::atomic<std::size_t> next = 0;
@@ -29,6 +36,7 @@ void QtBackgroundQueue::concurrentPerform(std::size_t count, const std::function
   // Helpers only from free threads: waiting for a busy pool could wait for this very work.
   while (static_cast<std::size_t>(helpers) + 1 < std::min(count, activeProcessorCount()) &&
          m_pool.tryStart([&perform, &finished] {
+           foundation::becomeBackgroundThread();
            perform();
            finished.release();
          })) {

@@ -5,6 +5,7 @@
 #include <exception>
 #include <string>
 
+#include "Foundation/BackgroundThread.h"
 #include "Quillmonger/capture/StoreSchema.h"
 #include "Quillmonger/capture/StoredBlob.h"
 
@@ -52,7 +53,10 @@ StoreWriter::StoreWriter(SqliteDatabase database, std::shared_ptr<StoreBlobs> bl
     m_mustClean = true;
     m_changed.notify_all();
   });
-  m_thread = std::thread([this] { run(); });
+  m_thread = std::thread([this] {
+    foundation::becomeBackgroundThread();
+    run();
+  });
 }
 
 StoreWriter::~StoreWriter() {
