@@ -89,7 +89,7 @@ RegularExpressionMatcher::RegularExpressionMatcher(std::string_view expression, 
 RegularExpressionMatcher::~RegularExpressionMatcher() = default;
 
 std::optional<CharacterRange> RegularExpressionMatcher::find(std::string_view text) {
-  if (!m_engine || text.size() > longestText || m_engine->deadline.isPast()) return std::nullopt;
+  if (!m_engine || text.empty() || text.size() > longestText || m_engine->deadline.isPast()) return std::nullopt;
   if (!m_engine->setText(text)) return std::nullopt;
   auto* expression = m_engine->expression.getAlias();
   UErrorCode status = U_ZERO_ERROR;

@@ -8,6 +8,7 @@ namespace quillmonger {
 /// slice takes the remainder. Any thread.
 class SearchSlices final {
  public:
+  /// No processor for a long list stops the process.
   SearchSlices(std::size_t itemCount, std::size_t processorCount);
 
   /// At least 1.

@@ -23,7 +23,8 @@ class TextMatcher {
   TextMatcher& operator=(const TextMatcher&) = delete;
   virtual ~TextMatcher() = default;
 
-  /// The first occurrence in `text`, which is valid UTF-8. An empty one counts as one character wide.
+  /// The first occurrence in `text`, which is valid UTF-8. An empty one counts as one character wide, so that an empty
+  /// text has none.
   [[nodiscard]] virtual std::optional<CharacterRange> find(std::string_view text) = 0;
   /// What the folded form (`FoldedText`) of every text that `find` finds something in contains; empty when no such
   /// thing is known.

@@ -7,11 +7,14 @@
 #include <string>
 
 #include "Quillmonger/detection/ColorText.h"
+#include "tests/Quillmonger/detection/LocaleFixture.h"
 #include "tests/Quillmonger/detection/RandomText.h"
 
 namespace quillmonger {
 
 namespace {
+
+class ColorLocaleTest : public LocaleFixture {};
 
 const ColorDetector& detector() {
   static const ColorDetector theDetector;
@@ -88,6 +91,17 @@ TEST(ColorDetectorTest, OneLineEndMayFollow) {
 }
 
 TEST(ColorDetectorTest, ALongSCountsAsAnSAsCaseIsIgnored) { EXPECT_EQ(hexOf("h\u017Fl(0,0%,100%)"), "#FFFFFF"); }
+
+TEST_F(ColorLocaleTest, ANotationDoesNotDependOnTheLocale) {
+  for (const auto* const locale : {"en_US", "de_DE", "tr_TR", "el_GR", "ar_EG", "ja_JP"}) {
+    setLocale(locale);
+    const ColorDetector fresh;
+    for (const auto* const text : {"#AbC", "0xABCDEF", "RGB(1, 2, 3)", "HSL(120, 50.5%, 25%)"})
+      EXPECT_NE(fresh.detect(text), nullptr) << locale << ' ' << text;
+    for (const auto* const text : {"0XABC", "#ffff", "rgb(256,0,0)", "hsl(120, 50,5%, 25%)", "hsl(361, 0%, 0%)"})
+      EXPECT_EQ(fresh.detect(text), nullptr) << locale << ' ' << text;
+  }
+}
 
 TEST(ColorDetectorTest, HslInDigitsOfAnotherScriptIsNothing) { EXPECT_EQ(hexOf("hsl(\u0661,0%,100%)"), "nothing"); }
 

@@ -4,7 +4,13 @@
 
 #include <charconv>
 #include <clocale>
+#include <cstdlib>
+#include <fstream>
 #include <string>
+#include <thread>
+
+#include "tests/support/ChildProcess.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace quillmonger {
 
@@ -15,6 +21,32 @@ constexpr double byteMaximum = 255;
 RGBColor colorOf(unsigned number) {
   return {(number >> 16U) / byteMaximum, (number >> 8U & 0xFFU) / byteMaximum, (number & 0xFFU) / byteMaximum};
 }
+
+// Makes a locale with a decimal comma that of the C library for as long as it lives. Few machines have one, so it is
+// compiled first.
+class CommaLocale final {
+ public:
+  CommaLocale() {
+    const auto source = m_folder.path() / "source";
+    std::ofstream(source) << "LC_NUMERIC\ndecimal_point \",\"\nthousands_sep \".\"\ngrouping 3;3\nEND LC_NUMERIC\n";
+    // Of the other parts of a locale it has none, which -c permits.
+    testsupport::ChildProcess compiler({"localedef", "--quiet", "-c", "-i", source, m_folder.path() / "comma"});
+    while (!compiler.isFinished())
+      std::this_thread::yield();
+    setenv("LOCPATH", m_folder.path().c_str(), 1);
+    std::setlocale(LC_NUMERIC, "comma");
+  }
+  CommaLocale(const CommaLocale&) = delete;
+  CommaLocale& operator=(const CommaLocale&) = delete;
+  ~CommaLocale() {
+    std::setlocale(LC_NUMERIC, m_before.c_str());
+    unsetenv("LOCPATH");
+  }
+
+ private:
+  const testsupport::TemporaryFolder m_folder;
+  const std::string m_before = std::setlocale(LC_NUMERIC, nullptr);
+};
 
 TEST(ColorTextTest, ParseHexTakesThreeOrSixDigits) {
   EXPECT_EQ(parseHex("#123456"), colorOf(0x123456));
@@ -50,12 +82,10 @@ TEST(ColorTextTest, HslHasOneDecimalUnlessItIsZero) {
 }
 
 TEST(ColorTextTest, HslHasADecimalPointInEveryLocale) {
-  const std::string locale = std::setlocale(LC_NUMERIC, nullptr);
-  std::setlocale(LC_NUMERIC, "de_DE.UTF-8");
-  const std::string text = hslString({0.5, 0.505, 0.5});
-  std::setlocale(LC_NUMERIC, locale.c_str());
+  const CommaLocale locale;
+  ASSERT_STREQ(std::localeconv()->decimal_point, ",");
 
-  EXPECT_EQ(text, "hsl(180, 50.5%, 50%)");
+  EXPECT_EQ(hslString({0.5, 0.505, 0.5}), "hsl(180, 50.5%, 50%)");
 }
 
 // The colors with one amount of red.

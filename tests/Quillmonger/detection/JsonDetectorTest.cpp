@@ -57,6 +57,11 @@ TEST(JsonDetectorTest, WhatTheReaderRefusesIsPrintedWithoutTheText) {
   EXPECT_EQ(printedFor(R"(["secret\x"])").find("secret"), std::string::npos);
 }
 
+TEST(JsonDetectorTest, AKeyWithoutQuotesIsRefused) {
+  EXPECT_NE(printedFor("{a}"), "");
+  EXPECT_NE(printedFor("{a:1}"), "");
+}
+
 TEST(JsonDetectorTest, OnlyTheGrammarOfJsonIsRead) {
   for (const auto text : {"[1,]"sv,
                           "[,1]"sv,

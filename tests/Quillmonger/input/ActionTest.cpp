@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <initializer_list>
 #include <set>
+#include <vector>
 
 namespace {
 
@@ -72,7 +75,55 @@ TEST(Action, AsksForCommandWhateverElseIsHeld) {
     EXPECT_EQ(actionFor(keyCode, optionFlag | shiftFlag | controlFlag), Action::none) << keyCode;
 }
 
+TEST(Action, StandsInItsDeclaredOrder) {
+  const std::array declared{Action::select,       Action::deleteItem, Action::moveDown,      Action::moveUp,
+                            Action::openSettings, Action::dismiss,    Action::optionChanged, Action::none};
+
+  for (std::size_t place = 0; place < declared.size(); ++place)
+    EXPECT_EQ(static_cast<std::size_t>(declared[place]), place);
+}
+
+TEST(Action, IsThatOfTheFirstRuleThatFits) {
+  enum class Modifiers { any, command };
+  struct Rule {
+    std::vector<std::uint16_t> keyCodes;
+    Modifiers modifiers;
+    Action action;
+  };
+  const std::vector<Rule> rules{{{18, 19, 20, 21, 23, 22, 26, 28, 25}, Modifiers::command, Action::select},
+                                {{36}, Modifiers::any, Action::select},
+                                {{126}, Modifiers::any, Action::moveUp},
+                                {{125}, Modifiers::any, Action::moveDown},
+                                {{43}, Modifiers::command, Action::openSettings},
+                                {{53}, Modifiers::any, Action::dismiss},
+                                {{58}, Modifiers::any, Action::optionChanged},
+                                {{51}, Modifiers::command, Action::deleteItem}};
+  const auto expected = [&rules](std::uint16_t keyCode, std::uint32_t flags) {
+    for (const Rule& rule : rules) {
+      const bool isKey = std::find(rule.keyCodes.begin(), rule.keyCodes.end(), keyCode) != rule.keyCodes.end();
+      if (isKey && (rule.modifiers == Modifiers::any || (flags & commandFlag) != 0)) return rule.action;
+    }
+    return Action::none;
+  };
+
+  for (std::uint16_t keyCode = 0; keyCode < 256; ++keyCode) {
+    for (std::uint32_t held = 0; held < 16; ++held) {
+      const std::uint32_t flags = held * shiftFlag;
+      for (const auto type : {KeyEvent::Type::keyDown, KeyEvent::Type::flagsChanged})
+        ASSERT_EQ(actionForEvent({type, keyCode, flags}), expected(keyCode, flags)) << keyCode << " with " << held;
+    }
+  }
+}
+
 TEST(Action, MeansNothingForTheKeypadsEnter) { EXPECT_EQ(actionFor(76), Action::none); }
+
+TEST(QuickPasteIndex, IsThePlaceInTheListOfKeyCodesAndElseNone) {
+  EXPECT_EQ(quickPasteKeyCodes, (std::array<std::uint16_t, 9>{18, 19, 20, 21, 23, 22, 26, 28, 25}));
+  for (std::size_t place = 0; place < quickPasteKeyCodes.size(); ++place)
+    EXPECT_EQ(quickPasteIndex(quickPasteKeyCodes[place]), static_cast<int>(place));
+  EXPECT_EQ(quickPasteIndex(0), -1);
+  EXPECT_EQ(quickPasteIndex(0xFFFF), -1);
+}
 
 TEST(QuickPasteIndex, FollowsTheOrderOfTheDigits) {
   const int expected[] = {0, 1, 2, 3, 5, 4, -1, 8, 6, -1, 7};

@@ -31,6 +31,27 @@ TEST(BaseEventManager, SwallowsTheEventsThatItsHandlerConsumesAlone) {
   EXPECT_EQ(handler.actions, (std::vector<Action>{Action::dismiss, Action::none}));
 }
 
+// What edits the search field unless Command is held.
+TEST(BaseEventManager, LetsCommaAndDeleteWithoutCommandThroughToTheSearchField) {
+  testsupport::FakeLocalEventMonitor keys;
+  const DismissHandler handler(keys);
+
+  EXPECT_FALSE(keys.press(43));
+  EXPECT_FALSE(keys.press(51));
+
+  EXPECT_EQ(handler.actions, (std::vector<Action>{Action::none, Action::none}));
+}
+
+TEST(BaseEventManager, HearsBothEdgesOfTheLeftOptionKey) {
+  testsupport::FakeLocalEventMonitor keys;
+  const DismissHandler handler(keys);
+
+  keys.send({KeyEvent::Type::flagsChanged, 58, optionFlag});
+  keys.send({KeyEvent::Type::flagsChanged, 58, 0});
+
+  EXPECT_EQ(handler.actions, (std::vector<Action>{Action::optionChanged, Action::optionChanged}));
+}
+
 TEST(BaseEventManager, EndsItsMonitorWithItself) {
   testsupport::FakeLocalEventMonitor keys;
   std::optional<DismissHandler> handler(std::in_place, keys);
@@ -38,6 +59,7 @@ TEST(BaseEventManager, EndsItsMonitorWithItself) {
   handler.reset();
 
   EXPECT_FALSE(keys.hasMonitors());
+  EXPECT_FALSE(keys.press(53)) << "an event without an owner passes";
 }
 
 TEST(BaseEventManagerDeathTest, StopsTheProcessWithoutAHandlerOfItsSubclass) {

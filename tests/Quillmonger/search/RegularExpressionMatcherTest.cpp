@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include "tests/support/InLocale.h"
+
 namespace {
 
 using quillmonger::CharacterRange;
@@ -32,6 +34,21 @@ TEST(RegularExpressionMatcher, CountsCharactersAsTheUserSeesThem) {
 }
 
 TEST(RegularExpressionMatcher, IsOneCharacterWideForAnEmptyMatch) { EXPECT_EQ(find("a*", "bcd"), range(0, 0)); }
+
+TEST(RegularExpressionMatcher, FindsNothingInAnEmptyText) {
+  for (const auto* const expression : {"a*", "^$", ".*", "()"})
+    EXPECT_EQ(find(expression, ""), std::nullopt) << expression;
+}
+
+TEST(RegularExpressionMatcher, FindsTheSameInEveryLocale) {
+  for (const auto* const name : {"en_US", "de_DE", "tr_TR", "el_GR", "ar_EG", "ja_JP"}) {
+    const testsupport::InLocale locale(name);
+    EXPECT_EQ(find("a.c", "xABCy"), range(1, 3)) << name;
+    EXPECT_EQ(find("i+", "xIIy"), range(1, 2)) << name;
+    EXPECT_EQ(find("i+", "xIIy", {.isCaseSensitive = true}), std::nullopt) << name;
+    EXPECT_EQ(find("(", "("), std::nullopt) << name;
+  }
+}
 
 TEST(RegularExpressionMatcher, FindsNothingForAnInvalidExpression) {
   EXPECT_EQ(find("(", "("), std::nullopt);

@@ -194,6 +194,47 @@ TEST_F(SearchManagerTest, FindsAnItemWithoutTextByItsApplicationName) {
   EXPECT_EQ(find("paint"), Texts{""});
 }
 
+TEST_F(SearchManagerTest, FindsAnItemWithoutTextByItsApplicationNameAloneForAnExpressionThatMatchesNothingToo) {
+  settings.defaults.set(keys::searchRegex, true);
+  add("", 1s, "Painter");
+  add("", 2s);
+
+  EXPECT_EQ(find("x*"), Texts{""});
+  EXPECT_EQ(results->front().score, 1.0);
+  EXPECT_EQ(results->front().match, std::nullopt);
+}
+
+TEST_F(SearchManagerTest, TakesAnAnchorBesideAnythingElseForAnOrdinaryExpression) {
+  settings.defaults.set(keys::searchRegex, true);
+  add("ab", 1s);
+  add("ba", 2s);
+
+  EXPECT_EQ(find("^a"), Texts{"ab"});
+  EXPECT_EQ(find("^$"), Texts{});
+}
+
+TEST_F(SearchManagerTest, HeedsTheSettingForCaseInTheApplicationNameToo) {
+  settings.defaults.set(keys::searchCaseSensitive, true);
+  add("page", 1s, "Safari");
+
+  EXPECT_EQ(find("safari"), Texts{});
+  EXPECT_EQ(find("Safari"), Texts{"page"});
+}
+
+TEST_F(SearchManagerTest, FindsALongHistoryWholeWhateverItsLength) {
+  for (const int count : {499, 500, 501, 1000, 1001}) {
+    notes.clear();
+    for (int age = 1; age <= count; ++age)
+      add(std::to_string(age), std::chrono::seconds(age));
+
+    const auto found = find("");
+
+    ASSERT_EQ(found.size(), static_cast<std::size_t>(count));
+    for (std::size_t row = 0; row < found.size(); ++row)
+      ASSERT_EQ(found[row], std::to_string(row + 1)) << count;
+  }
+}
+
 TEST_F(SearchManagerTest, KeepsTheOrderOfItemsOfTheSameMoment) {
   add("first", 1s);
   add("second", 1s);
@@ -248,6 +289,18 @@ TEST_F(SearchManagerTest, ReturnsAtOnceAndCompletesOnTheMainQueue) {
   runLoop.runPosted();
 
   EXPECT_NE(results, nullptr);
+}
+
+TEST_F(SearchManagerTest, CompletesOnceForEachSearch) {
+  int completions = 0;
+  for (int count = 0; count < 3; ++count)
+    manager->search(quillmonger::SearchItems<Note>(notes), "a", [&completions](const auto&) { ++completions; });
+  queue.run();
+  runLoop.runPosted();
+  queue.run();
+  runLoop.runPosted();
+
+  EXPECT_EQ(completions, 3);
 }
 
 TEST_F(SearchManagerTest, CompletesNothingOnceItIsGoneBeforeTheWorkBegins) {

@@ -33,6 +33,11 @@ TEST(SearchSlices, GivesTheRemainderToTheLastWorker) {
 
 TEST(SearchSlices, HasOneWorkerForOneProcessor) { EXPECT_EQ(SearchSlices(1000, 1).count(), 1U); }
 
+TEST(SearchSlicesDeathTest, StopsTheProcessForALongListWithoutAProcessor) {
+  EXPECT_EQ(SearchSlices(499, 0).count(), 1U);
+  EXPECT_DEATH(SearchSlices(500, 0), "A search needs a processor.");
+}
+
 TEST(SearchSlices, HasOneEmptySliceForAnEmptyList) {
   EXPECT_EQ(SearchSlices(0, 8).count(), 1U);
   EXPECT_EQ(SearchSlices(0, 8).end(0), 0U);
