@@ -46,8 +46,10 @@ TEST_F(QuickPasteTest, PastesTheFirstThreeRowsByTheThreeChordsInTheirOrder) {
 }
 
 TEST_F(QuickPasteTest, EnablesTheChordsInTheOrderOfTheRows) {
-  settings.defaults.set(keys::quickPaste, true);
   makeViewModel();
+  ASSERT_EQ(hotKeys.count(), 0U);
+
+  settings.defaults.set(keys::quickPaste, true);
 
   std::vector<Chord> enabled;
   for (const auto& [identifier, chord] : hotKeys.hotKeys())
