@@ -19,6 +19,7 @@ class FakeApplicationBundles final : public quillmonger::ApplicationBundles {
   void add(std::string url, quillmonger::ApplicationBundle bundle) {
     m_bundles.insert_or_assign(std::move(url), std::move(bundle));
   }
+  void remove(const std::string& url) { m_bundles.erase(url); }
 
  private:
   std::map<std::string, quillmonger::ApplicationBundle> m_bundles;

@@ -19,6 +19,8 @@ class FakeApplicationNaming final : public quillmonger::ApplicationNaming {
   void setDisplayName(const foundation::Url& bundleUrl, std::string name) {
     m_names.insert_or_assign(bundleUrl.absoluteString(), std::move(name));
   }
+  /// As if the application had been removed.
+  void forget(const foundation::Url& bundleUrl) { m_names.erase(bundleUrl.absoluteString()); }
 
  private:
   std::map<std::string, std::string> m_names;

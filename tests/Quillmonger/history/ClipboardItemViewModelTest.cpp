@@ -71,6 +71,16 @@ TEST_F(ClipboardItemViewModelTest, GivesThePlainTextBesideALocationThatIsNone) {
   EXPECT_EQ(viewModelOf(record)->text().view, "plain");
 }
 
+TEST_F(ClipboardItemViewModelTest, GivesTheLocationOfAFileRatherThanItsPlainText) {
+  Payload payload;
+  payload.emplace(pasteboardtype::NSPasteboardTypeFileURL, foundation::Data("file:///a%20b"));
+  payload.emplace(pasteboardtype::NSPasteboardTypeString, foundation::Data("plain"));
+  const auto record = std::make_shared<ClipboardItem>(std::move(payload), std::nullopt, std::nullopt,
+                                                      testsupport::VirtualRunLoop::startDate());
+
+  EXPECT_EQ(viewModelOf(record)->text().view, "file:///a b");
+}
+
 TEST_F(ClipboardItemViewModelTest, GivesTheApplicationsNameWhileItIsThere) {
   const auto url = *foundation::Url::parse("file:///apps/editor.desktop");
   const auto viewModel =
@@ -78,8 +88,10 @@ TEST_F(ClipboardItemViewModelTest, GivesTheApplicationsNameWhileItIsThere) {
   EXPECT_EQ(viewModel->appName(), std::nullopt);
 
   naming.setDisplayName(url, "Editor");
-
   EXPECT_EQ(viewModel->appName(), "Editor");
+  naming.forget(url);
+
+  EXPECT_EQ(viewModel->appName(), std::nullopt);
   EXPECT_EQ(viewModelOf(makeRecord("text"))->appName(), std::nullopt);
 }
 
@@ -139,6 +151,11 @@ TEST_F(ClipboardItemViewModelTest, TellsTheSizeAndTheLinesOfAText) {
   EXPECT_EQ(viewModelOf(makeRecord(""))->details(), "Zero KB • 0 lines");
 }
 
+TEST_F(ClipboardItemViewModelTest, TellsTheWholeSizeButTheLinesOfTheTrimmedText) {
+  EXPECT_EQ(viewModelOf(makeRecord("\n\none\ntwo\n\n"))->details(), "11 bytes • 2 lines");
+  EXPECT_EQ(viewModelOf(makeRecord(" \n "))->details(), "3 bytes • 0 lines");
+}
+
 TEST_F(ClipboardItemViewModelTest, TellsTheSizeAndTheDimensionsOfAPicture) {
   pictures.setPicture("pixels", {192, 108});
   const auto viewModel = viewModelOf(makeRecord("pixels", {}, pasteboardtype::NSPasteboardTypePNG));
@@ -149,56 +166,6 @@ TEST_F(ClipboardItemViewModelTest, TellsTheSizeAndTheDimensionsOfAPicture) {
 
 TEST_F(ClipboardItemViewModelTest, TellsTheLinesOfAPictureThatIsNone) {
   EXPECT_EQ(viewModelOf(makeRecord("broken", {}, pasteboardtype::NSPasteboardTypePNG))->details(), "6 bytes • 0 lines");
-}
-
-TEST_F(ClipboardItemViewModelTest, FitsAPictureIntoItsBoxWithItsAspectRatioKept) {
-  pictures.setPicture("square", {100, 100});
-  pictures.setPicture("wide", {664, 100});
-  pictures.setPicture("tall", {100, 890});
-  const auto sizeOf = [this](const std::string& bytes) {
-    return viewModelOf(makeRecord(bytes, {}, pasteboardtype::NSPasteboardTypePNG))->image()->size;
-  };
-
-  EXPECT_EQ(sizeOf("square"), (PictureSize{332, 332}));
-  EXPECT_EQ(sizeOf("wide"), (PictureSize{332, 50}));
-  EXPECT_EQ(sizeOf("tall"), (PictureSize{50, 445}));
-}
-
-TEST_F(ClipboardItemViewModelTest, HasNoPictureOfATextOrOfBytesThatAreNone) {
-  EXPECT_FALSE(viewModelOf(makeRecord("text"))->image());
-  const auto broken = viewModelOf(makeRecord("broken", {}, pasteboardtype::NSPasteboardTypePNG));
-  EXPECT_FALSE(broken->image());
-  EXPECT_FALSE(broken->imageColor());
-  EXPECT_TRUE(broken->isImage());
-}
-
-TEST_F(ClipboardItemViewModelTest, AveragesTheColoursOfAPicture) {
-  pictures.setPicture("half", {2, 2}, {0xFFFF0000, 0xFF0000FF});
-
-  const auto color = viewModelOf(makeRecord("half", {}, pasteboardtype::NSPasteboardTypePNG))->imageColor();
-
-  ASSERT_TRUE(color);
-  EXPECT_EQ(*color, RGBColor(0.5, 0, 0.5));
-}
-
-TEST_F(ClipboardItemViewModelTest, TakesAFullyTransparentPictureForBlack) {
-  pictures.setPicture("nothing", {2, 2}, {0});
-
-  EXPECT_EQ(viewModelOf(makeRecord("nothing", {}, pasteboardtype::NSPasteboardTypePNG))->imageColor(),
-            RGBColor(0, 0, 0));
-}
-
-TEST_F(ClipboardItemViewModelTest, WorksAPictureOutOnceEvenIfThereIsNone) {
-  const auto broken = viewModelOf(makeRecord("broken", {}, pasteboardtype::NSPasteboardTypePNG));
-  pictures.setPicture("good", {1, 1});
-  const auto good = viewModelOf(makeRecord("good", {}, pasteboardtype::NSPasteboardTypePNG));
-  for (int round = 0; round < 3; ++round) {
-    static_cast<void>(broken->imageColor());
-    static_cast<void>(good->imageColor());
-  }
-
-  EXPECT_EQ(pictures.sizeCount(), 2);
-  EXPECT_EQ(pictures.pixelsCount(), 1);
 }
 
 TEST_F(ClipboardItemViewModelTest, RecognisesWhatItsTrimmedTextHolds) {
@@ -248,6 +215,17 @@ TEST_F(ClipboardItemViewModelTest, IsEqualToItselfAlone) {
   EXPECT_FALSE(*first == *second);
   EXPECT_EQ(std::hash<ClipboardItemViewModel>()(*first), std::hash<ClipboardItemViewModel>()(*first));
   EXPECT_NE(std::hash<ClipboardItemViewModel>()(*first), std::hash<ClipboardItemViewModel>()(*second));
+}
+
+TEST_F(ClipboardItemViewModelTest, HashesItsTextBesideItsIdentifier) {
+  const auto record = makeRecord("pixels", {}, pasteboardtype::NSPasteboardTypePNG);
+  const auto viewModel = viewModelOf(record);
+  const auto hash = std::hash<ClipboardItemViewModel>()(*viewModel);
+
+  record->merge(*makeRecord("text"), ClipboardItem::IncludingData::yes);
+
+  EXPECT_EQ(viewModel->text().view, "text");
+  EXPECT_NE(std::hash<ClipboardItemViewModel>()(*viewModel), hash);
 }
 
 }  // namespace

@@ -110,6 +110,21 @@ TEST_F(ClipboardViewModelKeysTest, SearchesNothingForADelete) {
   EXPECT_EQ(queue.performedCounts().size(), searchCount);
 }
 
+TEST_F(ClipboardViewModelKeysTest, TellsOfADeletionOnceItIsDoneAndNamesNoObject) {
+  startWith({"a", "b"});
+  Texts storedWhenTold;
+  const void* object = this;
+  const auto hold = notificationCenter.observe("ItemDeleted", [&](const auto& notification) {
+    storedWhenTold = stored();
+    object = notification.object;
+  });
+
+  press(deleteKey, commandFlag);
+
+  EXPECT_EQ(storedWhenTold, Texts{"a"});
+  EXPECT_EQ(object, nullptr);
+}
+
 TEST_F(ClipboardViewModelKeysTest, DeletesASelectedItemThatIsNoRowAndLeavesItSelected) {
   startWith({"apple", "pear"});
   const auto pear = viewModel->selectedItem().value();
@@ -171,6 +186,17 @@ TEST_F(ClipboardViewModelKeysTest, ReversesTheFormattingWhileTheLeftOptionKeyIsD
   EXPECT_EQ(clipboard.writes()[1].removeFormatting, RemoveFormatting::no);
 }
 
+TEST_F(ClipboardViewModelKeysTest, ReversesTheFormattingOfADigitWhileTheLeftOptionKeyIsDown) {
+  startWith({"a", "b"});
+  eventMonitor.send({KeyEvent::Type::flagsChanged, leftOptionKey, optionFlag});
+
+  press(19, commandFlag | optionFlag);
+
+  ASSERT_EQ(clipboard.writes().size(), 1U);
+  EXPECT_EQ(clipboard.writes()[0].item, context.records()[0]->id());
+  EXPECT_EQ(clipboard.writes()[0].removeFormatting, RemoveFormatting::yes);
+}
+
 TEST_F(ClipboardViewModelKeysTest, IgnoresTheRightOptionKey) {
   startWith({"a"});
 
@@ -207,22 +233,6 @@ TEST_F(ClipboardViewModelKeysTest, SelectsNoItemThatHasLeftTheHistory) {
   viewModel->select(gone);
 
   EXPECT_EQ(selected(), "b");
-}
-
-TEST_F(ClipboardViewModelKeysTest, PastesTheFirstRowsByGlobalChordsOnlyWhileTheSettingIsOn) {
-  startWith({"a", "b", "c"});
-  const testsupport::FakeHotKeyService::Chord second{14, 0x300};
-  EXPECT_FALSE(hotKeys.isRegistered(second));
-
-  settings.defaults.set(keys::quickPaste, true);
-  viewModel->isOptionPressed().set(true);
-  hotKeys.press(second);
-
-  ASSERT_EQ(clipboard.writes().size(), 1U);
-  EXPECT_EQ(clipboard.writes()[0].item, context.records()[1]->id());
-  EXPECT_EQ(clipboard.writes()[0].removeFormatting, RemoveFormatting::no) << "never looks at the Option key";
-  settings.defaults.set(keys::quickPaste, false);
-  EXPECT_FALSE(hotKeys.isRegistered(second));
 }
 
 }  // namespace

@@ -202,4 +202,94 @@ TEST_F(ClipboardViewModelTest, DeletesNothingWhenTheStoreCantBeReadAndSaysWhy) {
   EXPECT_EQ(rows(), Texts{"a"});
 }
 
+TEST_F(ClipboardViewModelTest, SearchesForTheEmptyTermBeforeItLoadsTheHistory) {
+  context.insert(makeRecord("a"));
+  testing::internal::CaptureStdout();
+
+  makeViewModel();
+
+  EXPECT_EQ(testing::internal::GetCapturedStdout(),
+            "DebouncedSearchTerm: received a term\nTotal clipboard items in history = 1\n");
+}
+
+TEST_F(ClipboardViewModelTest, DeletesADuplicateThatItDoesNotHoldFromTheStoreAlone) {
+  startWith({"a", "b"});
+  const auto unknown = makeRecord("c");
+  context.insert(unknown);
+
+  clipboard.duplicateItemPublisher().send(unknown);
+  settle();
+
+  EXPECT_EQ(stored(), (Texts{"a", "b"}));
+  EXPECT_EQ(items(), (Texts{"a", "b"}));
+  EXPECT_EQ(rows(), (Texts{"b", "a"}));
+}
+
+TEST_F(ClipboardViewModelTest, TakesADuplicateAwayThatTheTermHides) {
+  startWith({"apple", "pear"});
+  type("pear");
+
+  clipboard.duplicateItemPublisher().send(context.records()[0]);
+  settle();
+
+  EXPECT_EQ(items(), Texts{"pear"});
+  EXPECT_EQ(rows(), Texts{"pear"});
+}
+
+TEST_F(ClipboardViewModelTest, KeepsASelectionFurtherDownWhenADuplicateGoesUntilTheNewCopyIsFound) {
+  startWith({"a", "b", "c"});
+  select(2);
+
+  clipboard.duplicateItemPublisher().send(context.records()[1]);
+  add("b");
+  runLoop.runPosted();
+  EXPECT_EQ(rows(), (Texts{"c", "a"}));
+  EXPECT_EQ(selected(), "a");
+  settle();
+
+  EXPECT_EQ(rows(), (Texts{"b", "c", "a"}));
+  EXPECT_EQ(selected(), "b");
+}
+
+TEST_F(ClipboardViewModelTest, SelectsTheTopRowOfTheOldListAtOnceWhileASearchStillRuns) {
+  startWith({"apple", "pear"});
+  select(1);
+
+  viewModel->setSearchTerm("apple");
+  viewModel->search();
+  viewModel->selectFirstItem();
+  EXPECT_EQ(selected(), "pear");
+  settle();
+
+  EXPECT_EQ(selected(), "apple");
+}
+
+TEST_F(ClipboardViewModelTest, SelectsNothingAsTheTopRowOfNoRows) {
+  startWith({"apple"});
+  const auto apple = viewModel->selectedItem().value();
+  type("none such");
+  viewModel->select(apple);
+
+  viewModel->selectFirstItem();
+
+  EXPECT_EQ(selected(), "(none)");
+}
+
+TEST_F(ClipboardViewModelTest, FindsAnItemByItsTextOnceItsApplicationIsGone) {
+  const auto editor = *foundation::Url::parse("file:///apps/editor.desktop");
+  naming.setDisplayName(editor, "Editor");
+  context.insert(makeRecord("note", nextAge(), pasteboardtype::NSPasteboardTypeString, {.url = editor}));
+  startWith({"list"});
+  type("Editor");
+  EXPECT_EQ(rows(), Texts{"note"});
+
+  naming.forget(editor);
+
+  type("note");
+  EXPECT_EQ(rows(), Texts{"note"});
+  EXPECT_EQ(viewModel->selectedItem().value()->appName(), std::nullopt);
+  type("Editor");
+  EXPECT_EQ(rows(), Texts{});
+}
+
 }  // namespace

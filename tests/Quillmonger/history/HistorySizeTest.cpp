@@ -73,19 +73,40 @@ TEST_F(HistorySizeTest, CutsAtTheNextTickWhenTheLimitIsLoweredBelowTheNumberPres
   EXPECT_EQ(rows(), (Texts{"b", "a"}));
 }
 
-TEST_F(HistorySizeTest, SelectsTheTopRowWhenALowerLimitCutsTheHistory) {
+TEST_F(HistorySizeTest, MovesASelectionFarDownToTheTopRowAtTheNextTickOnceTheLimitIsLoweredFrom1000To10) {
   Texts texts;
-  for (int count = 0; count < 20; ++count)
+  for (int count = 0; count < 1000; ++count)
     texts.push_back(std::to_string(count));
   startWith(texts);
-  select(15);
+  type("");  // once the search field has told its term, nothing but the tick can start a search
+  select(995);
+  ASSERT_EQ(selected(), "4");
 
   settings.defaults.set(keys::historySize, 10);
-  runLoop.advance(500ms);
+  runLoop.advance(349ms);
+  settle();
+  EXPECT_EQ(selected(), "4");
+  EXPECT_EQ(rows().size(), 1000U);
+  runLoop.advance(1ms);
   settle();
 
-  EXPECT_EQ(rows().size(), 10U);
-  EXPECT_EQ(selected(), rows().front());
+  EXPECT_EQ(rows(), (Texts{"9", "8", "7", "6", "5", "4", "3", "2", "1", "0"}));
+  EXPECT_EQ(selected(), "9");
+}
+
+TEST_F(HistorySizeTest, DeletesWhatItCutsFromTheStoreInTheOrderOfItsItems) {
+  startWith({"a", "b", "c"});
+  add("new");
+  settle();
+
+  settings.defaults.set(keys::historySize, 2);
+  runLoop.advance(500ms);
+
+  Texts removed;
+  for (const auto& record : context.removed())
+    removed.push_back(*record->data("public.utf8-plain-text")->bytes());
+  EXPECT_EQ(removed, (Texts{"b", "c"}));
+  EXPECT_EQ(items(), (Texts{"new", "a"}));
 }
 
 TEST_F(HistorySizeTest, SurvivesALimitBelowZero) {

@@ -63,6 +63,9 @@ TEST_F(ItemPasteTest, PastesPicturesAndFilesWithAllTypesInAnyCase) {
   EXPECT_EQ(pasted(picture, Invert::no), RemoveFormatting::no);
   EXPECT_EQ(pasted(picture, Invert::yes), RemoveFormatting::no);
   EXPECT_EQ(pasted(file, Invert::no), RemoveFormatting::no);
+  settings.defaults.set(keys::alwaysPasteWithoutFormatting, false);
+  EXPECT_EQ(pasted(picture, Invert::yes), RemoveFormatting::no);
+  EXPECT_EQ(pasted(file, Invert::yes), RemoveFormatting::no);
 }
 
 TEST_F(ItemPasteTest, WritesPastesAndCountsInThisOrder) {

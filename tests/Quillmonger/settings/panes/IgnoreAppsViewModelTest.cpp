@@ -239,6 +239,56 @@ TEST_F(IgnoreAppsViewModelTest, AddsNothingAfterItsEnd) {
   EXPECT_EQ(stored(), Strings{builtIn});
 }
 
+TEST_F(IgnoreAppsViewModelTest, SelectsTheFirstRowOfAnIdentifierThatIsChosenAgainElsewhere) {
+  bundles.add(urlOf("mail-copy"), {"org.example.mail", "A copy"});
+  modelOf({"editor", "mail"});
+
+  pick(Url::parse(urlOf("mail-copy")));
+
+  EXPECT_EQ(rows(), (Strings{"org.example.editor", "org.example.mail"}));
+  EXPECT_EQ(stored(), (Strings{urlOf("editor"), urlOf("mail")}));
+  EXPECT_EQ(model().selectedApp().value()->id, model().apps().value().back().id);
+}
+
+TEST_F(IgnoreAppsViewModelTest, RemovesTheFirstAloneOfTwoEntriesOfAnIdentifier) {
+  bundles.add(urlOf("mail-copy"), {"org.example.mail", "A copy"});
+  modelOf({"mail", "mail-copy"});
+
+  model().removeApp(app("mail"));
+
+  EXPECT_EQ(rows(), Strings{"org.example.mail"});
+  EXPECT_EQ(stored(), Strings{urlOf("mail-copy")});
+}
+
+TEST_F(IgnoreAppsViewModelTest, HoldsNoRowForAStoredEntryWithoutAnIdentifierAndSaysSo) {
+  bundles.add(urlOf("nameless"), {std::nullopt, "Nameless"});
+  testing::internal::CaptureStdout();
+
+  modelOf({"nameless", "mail"});
+
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "could not decode object '" + urlOf("nameless") + "' into url\n");
+  EXPECT_EQ(rows(), Strings{"org.example.mail"});
+}
+
+TEST_F(IgnoreAppsViewModelTest, RemovesTheRowOfAnApplicationThatIsGoneAndLeavesItsStringStored) {
+  modelOf({"mail", "editor"});
+  bundles.remove(urlOf("mail"));
+
+  model().removeApp(app("mail"));
+
+  EXPECT_EQ(rows(), Strings{"org.example.editor"});
+  EXPECT_EQ(stored(), (Strings{urlOf("mail"), urlOf("editor")}));
+}
+
+TEST_F(IgnoreAppsViewModelTest, DropsTheStringOfAnApplicationThatIsGoneWithTheNextRemovalOfAnother) {
+  modelOf({"mail", "editor", "browser"});
+  bundles.remove(urlOf("mail"));
+
+  model().removeApp(app("editor"));
+
+  EXPECT_EQ(stored(), Strings{urlOf("browser")});
+}
+
 TEST(ShownName, IsTheFilesNameOfAnApplicationThatSaysNone) {
   EXPECT_EQ(quillmonger::shownName(SystemApp::make("", "com.apple.keychainaccess", *Url::parse(builtIn))),
             "Keychain Access");
