@@ -11,6 +11,7 @@
 
 #include "Foundation/Output.h"
 #include "Platform/keyboard/KeyCodeTable.h"
+#include "Platform/x11/X11LetterKey.h"
 #include "Platform/x11/X11Modifiers.h"
 #include "Platform/x11/X11Requests.h"
 #include "Platform/x11/Xkb.h"
@@ -20,11 +21,8 @@ namespace platform {
 namespace {
 
 constexpr std::chrono::milliseconds pollInterval{5};
-constexpr std::chrono::seconds patience{1};
 constexpr int treeDepthLimit = 32;
-constexpr xcb_keysym_t letterV = 'v';
 constexpr xcb_keycode_t positionV = 47 + x11KeycodeOffset;
-constexpr int coreGroups = 2;  // that a reader of the core mapping can tell apart
 
 // In lower case; whatever a desktop entry doesn't tell.
 constexpr auto terminalClasses = std::to_array<std::string_view>(
@@ -45,14 +43,15 @@ std::string lowered(std::string_view text) {
 // One paste at a time: a later one takes the place of one that still waits. On the thread alone.
 class X11PasteKeys::Injector final {
  public:
-  Injector(X11Thread& thread, WrittenWindow writtenWindow, TerminalPredicate isTerminal)
+  Injector(X11Thread& thread, WrittenWindow writtenWindow, TerminalPredicate isTerminal, const Patience& patience)
       : m_thread(thread),
         m_connection(thread.connection()),
         m_writtenWindow(std::move(writtenWindow)),
         m_isTerminal(std::move(isTerminal)),
         m_clipboard(internAtom(m_connection, "CLIPBOARD")),
         m_wmState(internAtom(m_connection, "WM_STATE")),
-        m_processId(internAtom(m_connection, "_NET_WM_PID")) {
+        m_processId(internAtom(m_connection, "_NET_WM_PID")),
+        m_patience(patience) {
     std::free(xcb_xkb_use_extension_reply(
         m_connection, xcb_xkb_use_extension(m_connection, XCB_XKB_MAJOR_VERSION, XCB_XKB_MINOR_VERSION), nullptr));
   }
@@ -60,21 +59,27 @@ class X11PasteKeys::Injector final {
   void start(std::uint16_t keyCode) {
     const auto key = evdevKey(keyCode);
     m_keyOfV = key ? static_cast<xcb_keycode_t>(*key + x11KeycodeOffset) : positionV;
-    m_deadline = std::chrono::steady_clock::now() + patience;
+    m_target.reset();
+    m_start = std::chrono::steady_clock::now();
     attempt();
   }
 
  private:
   void attempt() {
+    const auto waited = std::chrono::steady_clock::now() - m_start;
     const X11Modifiers modifiers(m_connection);
-    const auto target = focusedClient();
-    const char* obstacle = !ownsClipboard()                   ? "the clipboard isn't ours"
-                           : !target                          ? "no other window has the keyboard"
-                           : isAnyHeld(modifiers.chordKeys()) ? "a modifier key is held"
-                                                              : nullptr;
+    const auto focused = focusedClient();
+    if (!m_target || waited < m_patience.withPrograms) m_target = focused;
+    const bool isHandOff = !isAnyHeld(modifiers.chordKeys());
+    const char* obstacle = !ownsClipboard()      ? "the clipboard isn't ours"
+                           : !focused            ? "no other window has the keyboard"
+                           : focused != m_target ? "the user went to another window"
+                           : !isHandOff          ? "a modifier key is held"
+                                                 : nullptr;
+    const bool waitsForHands = focused && focused == m_target && !isHandOff;
     if (obstacle == nullptr) {
-      press(modifiers, isTerminal(*target));
-    } else if (std::chrono::steady_clock::now() >= m_deadline) {
+      press(modifiers, isTerminal(*focused));
+    } else if (waited >= (waitsForHands ? m_patience.withHands : m_patience.withPrograms)) {
       foundation::printLine("Paste keys not pressed: ", obstacle);
     } else {
       m_next = m_thread.after(pollInterval, [this] { attempt(); });
@@ -143,12 +148,13 @@ class X11PasteKeys::Injector final {
   }
 
   void press(const X11Modifiers& modifiers, bool withShift) const {
-    std::vector<xcb_keycode_t> keys{modifiers.controlKey()};
-    if (withShift) keys.push_back(modifiers.shiftKey());
-    keys.push_back(m_keyOfV);
     const ReplyPointer<xcb_xkb_get_state_reply_t> state(
         xcb_xkb_get_state_reply(m_connection, xcb_xkb_get_state(m_connection, XCB_XKB_ID_USE_CORE_KBD), nullptr));
-    if (state) lock(0, groupOfV(state->group));
+    const X11LetterKey letter = keyOfV(m_connection, m_keyOfV, state ? state->group : std::uint8_t{0});
+    std::vector<xcb_keycode_t> keys{modifiers.controlKey()};
+    if (withShift) keys.push_back(modifiers.shiftKey());
+    keys.push_back(letter.key);
+    if (state) lock(0, letter.group);
     for (const xcb_keycode_t key : keys)
       send(XCB_KEY_PRESS, key);
     std::ranges::reverse(keys);
@@ -168,23 +174,6 @@ class X11PasteKeys::Injector final {
                              group, 0, 0, 0);
   }
 
-  // The group under which the key types "v": the active one, or another where the active one is for another script and
-  // a program that looks at the letter alone would miss the chord.
-  [[nodiscard]] std::uint8_t groupOfV(std::uint8_t active) const {
-    const ReplyPointer<xcb_get_keyboard_mapping_reply_t> mapping(
-        xcb_get_keyboard_mapping_reply(m_connection, xcb_get_keyboard_mapping(m_connection, m_keyOfV, 1), nullptr));
-    if (!mapping) return active;
-    const xcb_keysym_t* symbols = xcb_get_keyboard_mapping_keysyms(mapping.get());
-    const auto typesV = [&](int group) {
-      return 2 * group < mapping->keysyms_per_keycode && symbols[2 * group] == letterV;
-    };
-    if (active >= coreGroups || typesV(active)) return active;
-    for (std::uint8_t group = 0; group < coreGroups; ++group) {
-      if (typesV(group)) return group;
-    }
-    return active;
-  }
-
   X11Thread& m_thread;
   xcb_connection_t* m_connection;
   WrittenWindow m_writtenWindow;
@@ -193,17 +182,19 @@ class X11PasteKeys::Injector final {
   xcb_atom_t m_wmState;
   xcb_atom_t m_processId;
   xcb_keycode_t m_keyOfV = positionV;
-  std::chrono::steady_clock::time_point m_deadline;
+  Patience m_patience;
+  std::chrono::steady_clock::time_point m_start;
+  std::optional<xcb_window_t> m_target;  // that got the keyboard after ours was gone
   foundation::Subscription m_next;
 };
 
 std::unique_ptr<X11PasteKeys> X11PasteKeys::connect(WrittenWindow writtenWindow, TerminalPredicate isTerminal,
-                                                    const std::string& display) {
+                                                    const Patience& patience, const std::string& display) {
   auto thread = X11Thread::connect(display);
   if (!thread) return nullptr;
   const xcb_query_extension_reply_t* xtest = xcb_get_extension_data(thread->connection(), &xcb_test_id);
   if (xtest == nullptr || xtest->present == 0) return nullptr;
-  auto injector = std::make_unique<Injector>(*thread, std::move(writtenWindow), std::move(isTerminal));
+  auto injector = std::make_unique<Injector>(*thread, std::move(writtenWindow), std::move(isTerminal), patience);
   return std::unique_ptr<X11PasteKeys>(new X11PasteKeys(std::move(thread), std::move(injector)));
 }
 

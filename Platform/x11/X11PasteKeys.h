@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -11,8 +12,9 @@
 namespace platform {
 
 /// Presses Control and V, with Shift for a terminal, through XTest: once the clipboard is what this program wrote last,
-/// a window of another program has the keyboard, and the user holds no modifier. Waits for that on a thread of its own,
-/// at most a second. Lock keys are off for that moment, and a layout without "v" gives way to one that has it.
+/// a window of another program has the keyboard, and the user holds no modifier. Waits for that on a thread of its own.
+/// A user who goes on to another window meanwhile gets nothing pasted there. Lock keys are off for that moment, and a
+/// layout without "v" gives way to one that has it.
 class X11PasteKeys final : public quillmonger::PasteKeyPosting {
  public:
   /// Whether the application of this window class is a terminal, beyond the ones that are known here. Called on the
@@ -23,9 +25,15 @@ class X11PasteKeys final : public quillmonger::PasteKeyPosting {
   /// service's thread.
   using WrittenWindow = std::function<std::uint32_t()>;
 
+  /// How long a paste waits before it gives up and says so on standard output.
+  struct Patience {
+    std::chrono::milliseconds withPrograms{1000};  ///< until the clipboard is ours and the window has the keyboard
+    std::chrono::milliseconds withHands{10000};    ///< until the user lets go of the modifiers
+  };
+
   /// Null when there is no X server, or one without XTest.
   [[nodiscard]] static std::unique_ptr<X11PasteKeys> connect(WrittenWindow writtenWindow, TerminalPredicate isTerminal,
-                                                             const std::string& display = {});
+                                                             const Patience& patience, const std::string& display = {});
   ~X11PasteKeys() override;
 
   void postPasteKeyEvents(std::uint16_t keyCode) override;

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <atomic>
+#include <chrono>
 #include <memory>
 #include <vector>
 
@@ -17,6 +18,7 @@ namespace {
 
 using testsupport::KeyboardClient;
 using Key = KeyboardClient::Key;
+using namespace std::chrono_literals;
 
 constexpr std::uint32_t evdevControl = 29;
 constexpr std::uint32_t evdevShift = 42;
@@ -29,12 +31,24 @@ constexpr std::uint16_t virtualPeriod = 47;
 class X11PasteKeys : public testing::Test {
  protected:
   X11PasteKeys() : m_us(m_display.name()), m_target(m_display.name()), m_writtenWindow(m_us.window()) {
-    m_pasteKeys = platform::X11PasteKeys::connect(
-        [this] { return m_writtenWindow.load(); },
-        [](const std::string& windowClass) { return windowClass == "our-terminal"; }, m_display.name());
+    connectWith({});
     m_target.showWindow();
     m_target.focusWindow();
     m_us.ownClipboard();
+  }
+
+  void connectWith(const platform::X11PasteKeys::Patience& patience) {
+    m_pasteKeys = platform::X11PasteKeys::connect(
+        [this] {
+          ++m_attempts;
+          return m_writtenWindow.load();
+        },
+        [](const std::string& windowClass) { return windowClass == "our-terminal"; }, patience, m_display.name());
+  }
+  void useLayouts(const std::string& names) {
+    testsupport::ChildProcess layouts({"setxkbmap", "-layout", names}, {m_display.environment()});
+    ASSERT_TRUE(m_runLoop.runUntil([&layouts] { return layouts.isFinished(); }));
+    ASSERT_EQ(layouts.exitCode(), 0);
   }
 
   [[nodiscard]] bool isPasted(std::size_t keys = 4) {
@@ -42,6 +56,7 @@ class X11PasteKeys : public testing::Test {
   }
   // Long enough for the wait to end in vain, told by the line that it prints then.
   [[nodiscard]] std::string outputOfAPasteInVain() {
+    connectWith({.withPrograms = 20ms, .withHands = 40ms});
     const testsupport::CapturedOutput output;
     m_pasteKeys->postPasteKeyEvents(virtualV);
     static_cast<void>(m_runLoop.runUntil([&output] { return output.text().ends_with('\n'); }));
@@ -58,6 +73,7 @@ class X11PasteKeys : public testing::Test {
   KeyboardClient m_us;
   KeyboardClient m_target;
   std::atomic<std::uint32_t> m_writtenWindow;
+  std::atomic<int> m_attempts = 0;
   std::unique_ptr<platform::X11PasteKeys> m_pasteKeys;
 };
 
@@ -144,7 +160,26 @@ TEST_F(X11PasteKeys, PressNothingWhileAModifierStaysHeld) {
   EXPECT_EQ(m_target.receivedKeys().size(), 1U);
 }
 
+TEST_F(X11PasteKeys, PressNothingInAWindowThatTheUserWentToWithAModifierHeld) {
+  connectWith({.withPrograms = 0ms, .withHands = 1h});
+  m_us.press(evdevShift);
+  const testsupport::CapturedOutput output;
+  m_pasteKeys->postPasteKeyEvents(virtualV);
+  ASSERT_TRUE(m_runLoop.runUntil([this] { return m_attempts > 1; }));
+  KeyboardClient other(m_display.name());
+  other.showWindow();
+  other.focusWindow();
+
+  m_us.release(evdevShift);
+
+  ASSERT_TRUE(m_runLoop.runUntil([&output] { return output.text().ends_with('\n'); }));
+  EXPECT_EQ(output.text(), "Paste keys not pressed: the user went to another window\n");
+  EXPECT_EQ(other.receivedKeys().size(), 1U);  // the user's own
+}
+
 TEST_F(X11PasteKeys, PressTheKeyThatTheyAreGiven) {
+  useLayouts("us(dvorak)");
+
   m_pasteKeys->postPasteKeyEvents(virtualPeriod);
 
   ASSERT_TRUE(isPasted());
@@ -166,9 +201,7 @@ TEST_F(X11PasteKeys, LeaveCapsLockOutOfTheChordAndOnAfterwards) {
 }
 
 TEST_F(X11PasteKeys, PressTheKeyUnderTheLayoutThatHasTheLetterAndGoBackToTheUsersOwn) {
-  testsupport::ChildProcess layouts({"setxkbmap", "-layout", "us,ru"}, {m_display.environment()});
-  ASSERT_TRUE(m_runLoop.runUntil([&layouts] { return layouts.isFinished(); }));
-  ASSERT_EQ(layouts.exitCode(), 0);
+  useLayouts("us,ru");
   m_us.lockGroup(1);
   m_us.tap(evdevV);
   ASSERT_TRUE(isPasted(2));
@@ -183,6 +216,34 @@ TEST_F(X11PasteKeys, PressTheKeyUnderTheLayoutThatHasTheLetterAndGoBackToTheUser
   ASSERT_TRUE(isPasted(8));
   EXPECT_NE(underRussian, 0);
   EXPECT_EQ(m_target.receivedKeys().back().state, underRussian);
+}
+
+TEST_F(X11PasteKeys, PressTheKeyOfTheLetterUnderAnotherGroupWherever) {
+  useLayouts("us(dvorak),ru,gr");
+  m_us.lockGroup(2);
+
+  m_pasteKeys->postPasteKeyEvents(virtualV);
+
+  ASSERT_TRUE(isPasted());
+  EXPECT_EQ(m_target.receivedKeys()[1], (Key{evdevPeriod, true, XCB_MOD_MASK_CONTROL}));
+}
+
+TEST_F(X11PasteKeys, GiveAKeyboardWithoutTheLetterASecondGroupThatHasItAndTypeAsBeforeAfterwards) {
+  useLayouts("ru");
+  const auto own = m_target.symbols(evdevV);
+
+  m_pasteKeys->postPasteKeyEvents(virtualV);
+
+  ASSERT_TRUE(isPasted());
+  constexpr std::uint16_t secondGroup = 1U << 13U;
+  EXPECT_EQ(m_target.receivedKeys()[1], (Key{evdevV, true, XCB_MOD_MASK_CONTROL | secondGroup}));
+  ASSERT_GE(m_target.symbols(evdevV).size(), 4U);
+  EXPECT_EQ(m_target.symbols(evdevV)[2], xcb_keysym_t{'v'});
+  EXPECT_EQ(m_target.symbols(evdevV)[0], own[0]);
+  EXPECT_EQ(m_target.symbols(evdevV)[1], own[1]);
+  m_us.tap(evdevV);
+  ASSERT_TRUE(isPasted(6));
+  EXPECT_EQ(m_target.receivedKeys().back().state, 0);
 }
 
 }  // namespace

@@ -26,7 +26,9 @@ KeyboardClient::KeyboardClient(const std::string& display) : m_connection(xcb_co
   const std::uint32_t events = XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE;
   xcb_create_window(m_connection, XCB_COPY_FROM_PARENT, m_window, m_root, 0, 0, 100, 100, 0,
                     XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK, &events);
-  settle();
+  // As every toolkit does; without it groups show as modifiers.
+  const ReplyPointer<xcb_xkb_use_extension_reply_t> isThere(xcb_xkb_use_extension_reply(
+      m_connection, xcb_xkb_use_extension(m_connection, XCB_XKB_MAJOR_VERSION, XCB_XKB_MINOR_VERSION), nullptr));
 }
 
 KeyboardClient::~KeyboardClient() { xcb_disconnect(m_connection); }
@@ -55,10 +57,17 @@ void KeyboardClient::tap(std::uint32_t evdevKey) {
 }
 
 void KeyboardClient::lockGroup(std::uint8_t group) {
-  const ReplyPointer<xcb_xkb_use_extension_reply_t> isThere(xcb_xkb_use_extension_reply(
-      m_connection, xcb_xkb_use_extension(m_connection, XCB_XKB_MAJOR_VERSION, XCB_XKB_MINOR_VERSION), nullptr));
   xcb_xkb_latch_lock_state(m_connection, XCB_XKB_ID_USE_CORE_KBD, 0, 0, 1, group, 0, 0, 0);
   settle();
+}
+
+std::vector<xcb_keysym_t> KeyboardClient::symbols(std::uint32_t evdevKey) const {
+  const auto key = static_cast<xcb_keycode_t>(evdevKey + keycodeOffset);
+  const ReplyPointer<xcb_get_keyboard_mapping_reply_t> mapping(
+      xcb_get_keyboard_mapping_reply(m_connection, xcb_get_keyboard_mapping(m_connection, key, 1), nullptr));
+  if (!mapping) return {};
+  const xcb_keysym_t* symbols = xcb_get_keyboard_mapping_keysyms(mapping.get());
+  return {symbols, symbols + xcb_get_keyboard_mapping_keysyms_length(mapping.get())};
 }
 
 bool KeyboardClient::grab(std::uint32_t evdevKey, std::uint16_t modifiers) {

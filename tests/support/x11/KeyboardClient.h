@@ -51,6 +51,9 @@ class KeyboardClient final {
   [[nodiscard]] std::vector<std::uint32_t> windowAtoms(const std::string& property) const;
   [[nodiscard]] std::uint32_t atom(const std::string& name) const;
 
+  /// What the key types, in the order of the core mapping.
+  [[nodiscard]] std::vector<xcb_keysym_t> symbols(std::uint32_t evdevKey) const;
+
   /// The keys that the window got since it was made.
   [[nodiscard]] const std::vector<Key>& receivedKeys();
 
