@@ -44,6 +44,15 @@ void CarbonKeyboardShortcuts::unregisterShortcut(const Shortcut& shortcut) {
   m_hotKeys.erase(found);
 }
 
+bool CarbonKeyboardShortcuts::isRegistered(const Shortcut& shortcut) const {
+  return std::ranges::any_of(m_hotKeys, [&](const auto& entry) { return entry.second.shortcut == shortcut; });
+}
+
+void CarbonKeyboardShortcuts::renew() {
+  takeAllFromService();
+  updateEventHandler();
+}
+
 void CarbonKeyboardShortcuts::setEnabled(bool isEnabled) {
   if (std::exchange(m_isEnabled, isEnabled) != isEnabled) updateEventHandler();
 }

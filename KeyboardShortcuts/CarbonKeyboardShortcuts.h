@@ -24,6 +24,10 @@ class CarbonKeyboardShortcuts final {
   bool registerShortcut(const Shortcut& shortcut, HotKey::Action onKeyDown, HotKey::Action onKeyUp);
   /// Ends the first hot key of the chord.
   void unregisterShortcut(const Shortcut& shortcut);
+  [[nodiscard]] bool isRegistered(const Shortcut& shortcut) const;
+  /// Gives every hot key to the service anew, under its identifier: a press that is under way still finds it. One that
+  /// the service refuses now is dropped.
+  void renew();
 
   /// While false, no hot key works.
   [[nodiscard]] bool isEnabled() const { return m_isEnabled; }

@@ -115,10 +115,11 @@ void KeyboardShortcuts::endHotKey(Bound& bound) {
 }
 
 void KeyboardShortcuts::renewHotKeys() {
-  for (auto& [rawValue, bound] : m_bound)
-    endHotKey(bound);
-  for (auto& [rawValue, bound] : m_bound)
+  m_hotKeys.renew();
+  for (auto& [rawValue, bound] : m_bound) {
+    if (bound.registered && !m_hotKeys.isRegistered(*bound.registered)) bound.registered.reset();
     updateHotKey(bound);
+  }
 }
 
 void KeyboardShortcuts::run(EventType type, const Shortcut& fired) {

@@ -41,7 +41,6 @@ void X11KeyGrabs::remove(const Identifier& identifier) {
   const auto removed = m_chords.extract(identifier);
   if (!removed) return;
   if (!isHeldByUs(removed.mapped())) ungrab(removed.mapped());
-  std::erase_if(m_held, [&identifier](const auto& held) { return held.second == identifier; });
 }
 
 void X11KeyGrabs::handle(const xcb_generic_event_t& event) {
@@ -93,7 +92,7 @@ void X11KeyGrabs::press(const xcb_key_press_event_t& event) {
   for (const auto& [identifier, chord] : m_chords) {
     const std::uint16_t state = m_modifiers.state(chord.serviceModifiers);
     if (chord.key != event.detail || (event.state & m_modifiers.chordMask()) != state) continue;
-    if (m_held.emplace(event.detail, identifier).second) m_tell(identifier, EventType::keyDown);
+    if (m_held.emplace(event.detail, chord).second) tell(chord, EventType::keyDown);
     return;
   }
 }
@@ -101,7 +100,13 @@ void X11KeyGrabs::press(const xcb_key_press_event_t& event) {
 // By the key alone: the modifiers may have been let go of before it.
 void X11KeyGrabs::release(const xcb_key_release_event_t& event) {
   const auto held = m_held.extract(event.detail);
-  if (held) m_tell(held.mapped(), EventType::keyUp);
+  if (held) tell(held.mapped(), EventType::keyUp);
+}
+
+// The first hot key of the chord gets it.
+void X11KeyGrabs::tell(const Chord& chord, EventType type) const {
+  const auto found = std::ranges::find_if(m_chords, [&chord](const auto& entry) { return entry.second == chord; });
+  if (found != m_chords.end()) m_tell(found->first, type);
 }
 
 void X11KeyGrabs::renew() {

@@ -34,6 +34,7 @@ class X11KeyGrabs final {
   bool grab(const Chord& chord);
   void ungrab(const Chord& chord);
   [[nodiscard]] bool isHeldByUs(const Chord& chord) const;
+  void tell(const Chord& chord, keyboardshortcuts::EventType type) const;
   void press(const xcb_key_press_event_t& event);
   void release(const xcb_key_release_event_t& event);
   void renew();
@@ -43,7 +44,8 @@ class X11KeyGrabs final {
   X11Modifiers m_modifiers;
   Tell m_tell;
   std::map<Identifier, Chord> m_chords;
-  std::map<xcb_keycode_t, Identifier> m_held;
+  /// By its chord: while it is held, the chord can get another identifier or the same one anew.
+  std::map<xcb_keycode_t, Chord> m_held;
 };
 
 }  // namespace platform

@@ -217,13 +217,23 @@ TEST_F(KeyboardShortcutsTest, AHotKeyFiresThroughTheRawPathWhileAMenuIsOpenAndTh
 
 TEST_F(KeyboardShortcutsTest, GivesTheChordsToTheServiceAnewWhenTheKeysOfTheLayoutChange) {
   listen(show);
-  const auto before = service.hotKeys();
+  const auto before = service.registrations();
 
   notificationCenter.post("SauceSelectedKeyboardKeyCodesChanged");
 
   EXPECT_TRUE(service.isRegistered(chordV));
-  EXPECT_NE(service.hotKeys(), before);
+  EXPECT_EQ(service.registrations(), before + 1);
   EXPECT_EQ(service.count(), 1U);
+}
+
+TEST_F(KeyboardShortcutsTest, TellsTheReleaseOfAChordWhenTheKeysOfTheLayoutChangeWhileItIsHeld) {
+  listen(show);
+  const auto heldHotKey = service.hotKeys().begin()->first;
+
+  notificationCenter.post("SauceSelectedKeyboardKeyCodesChanged");
+
+  EXPECT_EQ(service.tell(heldHotKey), keyboardshortcuts::EventStatus::noErr);
+  EXPECT_EQ(log, (Log{"show down"}));
 }
 
 TEST_F(KeyboardShortcutsTest, TriesARefusedChordAgainWhenTheKeysOfTheLayoutChange) {

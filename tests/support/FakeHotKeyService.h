@@ -20,6 +20,7 @@ class FakeHotKeyService final : public keyboardshortcuts::HotKeyService {
   void setHotKeyHandler(HotKeyHandler handler) override { m_hotKeyHandler = std::move(handler); }
   void setRawKeyHandler(RawKeyHandler handler) override { m_rawKeyHandler = std::move(handler); }
   bool registerHotKey(const Identifier& identifier, std::uint32_t keyCode, std::uint32_t modifiers) override {
+    ++m_registrations;
     return !m_refused.contains({keyCode, modifiers}) && m_hotKeys.emplace(identifier, Chord(keyCode, modifiers)).second;
   }
   void unregisterHotKey(const Identifier& identifier) override { m_hotKeys.erase(identifier); }
@@ -44,6 +45,8 @@ class FakeHotKeyService final : public keyboardshortcuts::HotKeyService {
       found += hotKey.second == chord ? 1U : 0U;
     return found;
   }
+  /// How often the service was asked for a hot key.
+  [[nodiscard]] int registrations() const { return m_registrations; }
   [[nodiscard]] const std::map<Identifier, Chord>& hotKeys() const { return m_hotKeys; }
 
  private:
@@ -61,6 +64,7 @@ class FakeHotKeyService final : public keyboardshortcuts::HotKeyService {
   RawKeyHandler m_rawKeyHandler;
   std::map<Identifier, Chord> m_hotKeys;
   std::set<Chord> m_refused;
+  int m_registrations = 0;
 };
 
 }  // namespace testsupport

@@ -150,6 +150,19 @@ TEST_F(X11HotKeys, TellAHeldKeyAsOnePress) {
   EXPECT_EQ(m_told, (Told{{7, EventType::keyDown}, {7, EventType::keyUp}}));
 }
 
+TEST_F(X11HotKeys, TellTheReleaseOfAChordThatIsRegisteredAnewWhileItIsHeld) {
+  ASSERT_TRUE(m_hotKeys->registerHotKey(seven, virtualV, shiftAndCommand));
+  pressChord();
+  ASSERT_TRUE(isTold(1));
+  m_hotKeys->unregisterHotKey(seven);
+  ASSERT_TRUE(m_hotKeys->registerHotKey(seven, virtualV, shiftAndCommand));
+
+  releaseChord();
+
+  ASSERT_TRUE(isTold(2));
+  EXPECT_EQ(m_told.back(), std::pair(std::uint32_t{7}, EventType::keyUp));
+}
+
 TEST_F(X11HotKeys, TellTheFirstOfTwoHotKeysOfOneChord) {
   ASSERT_TRUE(m_hotKeys->registerHotKey(eight, virtualV, shiftAndCommand));
   ASSERT_TRUE(m_hotKeys->registerHotKey(seven, virtualV, shiftAndCommand));
