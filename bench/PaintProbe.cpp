@@ -7,30 +7,21 @@
 #include <sys/wait.h>
 #include <unistd.h>
 #include <xcb/xcb.h>
-#include <xcb/xcb_keysyms.h>
-#include <xcb/xtest.h>
 
 #include <chrono>
 #include <cstdint>
-#include <cstdlib>
-#include <cstring>
 #include <iostream>
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
+
+#include "bench/TestKeyboard.h"
 
 namespace {
 
 using Clock = std::chrono::steady_clock;
 using namespace std::chrono_literals;
-
-template <typename T>
-struct Free {
-  void operator()(T* pointer) const { std::free(pointer); }
-};
-template <typename T>
-using Reply = std::unique_ptr<T, Free<T>>;
+using bench::Reply;
 
 double milliseconds(Clock::duration time) { return std::chrono::duration<double, std::milli>(time).count(); }
 
@@ -68,31 +59,20 @@ class Probe final {
 
   // Presses Shift+Super+V and returns the moment of V's release.
   Clock::time_point pressChord() {
-    key(XK_Super_L, true);
-    key(XK_Shift_L, true);
-    key(XK_v, true);
-    key(XK_v, false);
-    sync();
+    bench::TestKeyboard keyboard(m_connection);
+    keyboard.key(XK_Super_L, true);
+    keyboard.key(XK_Shift_L, true);
+    keyboard.key(XK_v, true);
+    keyboard.key(XK_v, false);
+    keyboard.settle();
     const auto released = Clock::now();
-    key(XK_Shift_L, false);
-    key(XK_Super_L, false);
+    keyboard.key(XK_Shift_L, false);
+    keyboard.key(XK_Super_L, false);
     xcb_flush(m_connection);
     return released;
   }
 
  private:
-  void key(xcb_keysym_t symbol, bool isDown) {
-    const std::unique_ptr<xcb_key_symbols_t, decltype(&xcb_key_symbols_free)> symbols(
-        xcb_key_symbols_alloc(m_connection), &xcb_key_symbols_free);
-    const Reply<xcb_keycode_t> codes(xcb_key_symbols_get_keycode(symbols.get(), symbol));
-    if (!codes) throw std::runtime_error("the keyboard has no such key");
-    xcb_test_fake_input(m_connection, isDown ? XCB_KEY_PRESS : XCB_KEY_RELEASE, *codes, XCB_CURRENT_TIME,
-                        m_screen->root, 0, 0, 0);
-  }
-  void sync() {
-    const Reply<void> reply(xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
-  }
-
   xcb_connection_t* m_connection;
   xcb_screen_t* m_screen = nullptr;
 };

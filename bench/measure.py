@@ -12,10 +12,12 @@ import time
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "tests/endtoend"))
+import targets  # noqa: E402
 from desktop import Desktop, wait_until  # noqa: E402
 
 BUILD = Path(sys.argv[1]).resolve()
 ROUNDS = 5 if "--quick" in sys.argv else 15
+PASTES = 20 if "--quick" in sys.argv else 100
 REST_SECONDS = 10 if "--quick" in sys.argv else 30
 
 
@@ -172,6 +174,48 @@ def window():
             tell(f"command to painted list, {records} records", *spread(by_command))
 
 
+class MeasuredTerminal(targets.Terminal):
+    """A terminal whose program counts what it reads in the title."""
+
+    program = r"""
+import os, sys, tty
+tty.setraw(0)
+count = 0
+while os.read(0, 65536):
+    count += 1
+    os.write(1, b"\033]0;read %d\007" % count)
+"""
+
+    def __init__(self, desktop):
+        targets.Target.__init__(self, desktop)
+        desktop.spawn(["stterm", "-t", "terminal", "-e", sys.executable, "-c", self.program])
+        self._show("^terminal$")
+
+
+def paste():
+    print("\nPaste")
+    for what, kind in (("terminal", MeasuredTerminal), ("browser's text field", targets.Browser)):
+        with Measured(1000) as desktop:
+            desktop.start_to_ready()
+            target = kind(desktop)
+            settle(desktop)
+
+            def probe(keys):
+                return float(desktop.run([BUILD / "bin/paste_probe", target.window, keys]).stdout)
+            by_return, by_hand = [], []
+            for number in range(PASTES):
+                desktop.copy(f"paste {number} ")
+                desktop.wait_for_text(f"paste {number} ")
+                desktop.open_history()
+                by_return.append(probe("Return"))
+                desktop.wait_hidden()
+                time.sleep(0.1)
+                by_hand.append(probe(target.paste_chord))
+                time.sleep(0.1)
+            tell(f"Return to the text in a {what}", *spread(by_return))
+            tell(f"the same by {target.paste_chord} without Quillmonger's window", *spread(by_hand))
+
+
 def copies():
     print("\nCopies")
     with Measured(1000) as desktop:
@@ -211,6 +255,6 @@ def copies():
 
 if __name__ == "__main__":
     chosen = [word for word in sys.argv[2:] if not word.startswith("--")]
-    for part in (start, window, memory, rest, copies):
+    for part in (start, window, paste, memory, rest, copies):
         if not chosen or part.__name__ in chosen:
             part()
