@@ -1,6 +1,6 @@
 """The whole road of a copy: made in one real program, kept, found by typing, pasted with Return into another."""
 
-from desktop import wait_until
+from desktop import Timeout, wait_until
 from roadcase import RoadCase
 
 
@@ -131,3 +131,37 @@ class TheWholeRoad(RoadCase):
         self.desktop.run(["xdotool", "windowactivate", window])
 
         self.desktop.wait_hidden()
+
+    def test_the_command_bound_to_keys_of_the_desktop_works_as_the_chord_does(self):
+        self.desktop.start_app()
+        self.desktop.copy("by the desktop's own keys")
+        self.desktop.wait_for_text("by the desktop's own keys")
+        settings = self.desktop.home / ".config/openbox/rc.xml"
+        settings.parent.mkdir(parents=True)
+        settings.write_text(f"""<openbox_config xmlns="http://openbox.org/3.4/rc"><keyboard>
+            <keybind key="W-F9"><action name="Execute"><command>{self.desktop.build}/bin/quillmonger toggle</command>
+            </action></keybind></keyboard></openbox_config>""")
+        self.desktop.run(["openbox", "--reconfigure"])
+
+        def has_focus():
+            return self.desktop.history_window() and self.desktop.focused() == self.desktop.history_window()
+
+        def toggled():
+            self.desktop.run(["xdotool", "key", "super+F9"])
+            try:
+                return wait_until(has_focus, "the history with the focus", seconds=1)
+            except Timeout:
+                return False  # the window manager hasn't read its settings yet
+        wait_until(toggled, "the history by the desktop's keys")
+        self.desktop.run(["xdotool", "key", "super+F9"])
+        self.desktop.wait_hidden()
+
+        file, window = self.open_terminal()
+        self.desktop.run(["xdotool", "key", "super+F9"])
+        wait_until(has_focus, "the history with the focus")
+        self.desktop.press("Return")
+        self.desktop.wait_hidden()
+        wait_until(lambda: self.desktop.focused() == window, "the terminal to have the focus again")
+        self.desktop.press("Return", "ctrl+d")
+
+        wait_until(lambda: file.read_text() == "by the desktop's own keys\n", "the text in the terminal")
