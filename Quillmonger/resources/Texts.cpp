@@ -79,6 +79,13 @@ constexpr auto entries = std::to_array<Entry>({
      "Explains the switch that ignores sensitive copies."},
     {"settings_ignore_sensitive_title", "Ignore sensitive copies", "Switch: copies marked as secret are not kept."},
     {"settings_ignore_title", "Ignore", "Title of the settings about what is not kept."},
+    {"status_bar_about_button", "About Quillmonger", "Status menu: shows the window about the program."},
+    {"status_bar_history_literal", "History", "Status menu: heading of the entries about the history."},
+    {"status_bar_incognito_button", "Incognito", "Status menu: with its check mark, no copy is kept."},
+    {"status_bar_quit_button", "Quit Quillmonger", "Status menu: ends the program."},
+    {"status_bar_settings_button", "Settings\u2026", "Status menu: shows the settings."},
+    {"status_bar_toggle_button", "Show or Hide History", "Status menu: shows the history, or hides it if it is up."},
+    {"status_bar_updates_button", "Check for Updates\u2026", "Status menu: asks for a newer version."},
     {"toggle_preview_pane_button_help", "Show or hide the preview", "Tooltip for the toggle preview pane button."},
 });
 
