@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -25,6 +26,11 @@
 #include "Quillmonger/search/SearchViewModel.h"
 #include "Quillmonger/settings/panes/AppPicker.h"
 #include "Quillmonger/settings/panes/IgnoreAppsViewModel.h"
+#include "Quillmonger/shell/AudioManager.h"
+#include "Quillmonger/shell/AudioPlayer.h"
+#include "Quillmonger/shell/StatusBarManager.h"
+#include "Quillmonger/shell/StatusItem.h"
+#include "Quillmonger/shell/Updater.h"
 #include "Quillmonger/shell/WindowManager.h"
 #include "Quillmonger/shell/windows/Application.h"
 #include "Quillmonger/shell/windows/Window.h"
@@ -58,6 +64,11 @@ class Quillmonger final {
     Window& appWindow;
     Window& settingsWindow;
     AppPicker& appPicker;
+    StatusBar& statusBar;
+    Updater& updater;
+    std::function<bool()> isMotionReduced;
+    ResourceLookup resources;
+    AudioPlayerFactory makeAudioPlayer;
   };
 
   /// Loads the history; starts nothing. The windows' content is made afterwards, from what this object owns.
@@ -73,8 +84,8 @@ class Quillmonger final {
   [[nodiscard]] PermissionsManaging& permissionsManager() { return m_platform.permissionsManager; }
   [[nodiscard]] WindowManager& windowManager() { return m_windowManager; }
 
-  /// The program has been launched: shows the Getting Started guide while the setting `firstLaunch` is on, and starts
-  /// to watch the clipboard otherwise.
+  /// The program has been launched: shows the Getting Started guide while the setting `firstLaunch` is on; otherwise
+  /// shows the status item and starts to watch the clipboard.
   void start();
   /// The guide's last step: the normal start, and the history on the screen. Nothing happens once the normal start has
   /// taken place.
@@ -96,6 +107,7 @@ class Quillmonger final {
  private:
   void startGettingStarted();
   void startNormally();
+  [[nodiscard]] StatusBarManager::Windows windowsOfStatusBar();
   void pasteSucceeded();
 
   Platform m_platform;
@@ -108,6 +120,8 @@ class Quillmonger final {
   ClipboardViewModel m_clipboardViewModel;
   std::optional<IgnoreAppsViewModel> m_ignoreAppsViewModel;
   WindowManager m_windowManager;
+  StatusBarManager m_statusBarManager;
+  AudioManager m_audioManager;
   bool m_isStartedNormally = false;
   std::vector<foundation::Subscription> m_subscriptions;
 };

@@ -9,12 +9,14 @@
 
 #include "Quillmonger/settings/SettingsKeys.h"
 #include "Quillmonger/shell/PermissionsManager.h"
+#include "Quillmonger/shell/UnconfiguredUpdater.h"
 #include "Sauce/Sauce.h"
 #include "tests/support/FakeAlert.h"
 #include "tests/support/FakeAppPicker.h"
 #include "tests/support/FakeApplication.h"
 #include "tests/support/FakeApplicationBundles.h"
 #include "tests/support/FakeApplicationNaming.h"
+#include "tests/support/FakeAudioPlayer.h"
 #include "tests/support/FakeBundleProvider.h"
 #include "tests/support/FakeHotKeyService.h"
 #include "tests/support/FakeInputSourceService.h"
@@ -22,6 +24,7 @@
 #include "tests/support/FakePasteKeys.h"
 #include "tests/support/FakePasteboard.h"
 #include "tests/support/FakePostEventAccess.h"
+#include "tests/support/FakeStatusBar.h"
 #include "tests/support/FakeStoreContext.h"
 #include "tests/support/FakeWindow.h"
 #include "tests/support/InlineBackgroundQueue.h"
@@ -55,27 +58,33 @@ class QuillmongerTest : public testing::Test {
   }
 
   quillmonger::Quillmonger& makeRoot() {
-    root = std::make_unique<quillmonger::Quillmonger>(quillmonger::Quillmonger::Platform{runLoop,
-                                                                                         queue,
-                                                                                         notificationCenter,
-                                                                                         settings.defaults,
-                                                                                         shortcuts,
-                                                                                         context,
-                                                                                         pasteboard,
-                                                                                         bundleProvider,
-                                                                                         bundles,
-                                                                                         naming,
-                                                                                         pictures,
-                                                                                         testsupport::englishText,
-                                                                                         permissions,
-                                                                                         sauce,
-                                                                                         pasteKeys,
-                                                                                         eventMonitor,
-                                                                                         application,
-                                                                                         gettingStartedWindow,
-                                                                                         appWindow,
-                                                                                         settingsWindow,
-                                                                                         picker});
+    root = std::make_unique<quillmonger::Quillmonger>(quillmonger::Quillmonger::Platform{
+        runLoop,
+        queue,
+        notificationCenter,
+        settings.defaults,
+        shortcuts,
+        context,
+        pasteboard,
+        bundleProvider,
+        bundles,
+        naming,
+        pictures,
+        testsupport::englishText,
+        permissions,
+        sauce,
+        pasteKeys,
+        eventMonitor,
+        application,
+        gettingStartedWindow,
+        appWindow,
+        settingsWindow,
+        picker,
+        statusBar,
+        updater,
+        [] { return false; },
+        [](std::string_view name, std::string_view) { return std::optional(std::string(name)); },
+        loudspeaker.factory()});
     settle();
     return *root;
   }
@@ -136,6 +145,9 @@ class QuillmongerTest : public testing::Test {
   testsupport::FakeWindow appWindow{"history", log};
   testsupport::FakeWindow settingsWindow{"settings", log};
   testsupport::FakeAppPicker picker;
+  testsupport::FakeStatusBar statusBar;
+  quillmonger::UnconfiguredUpdater updater;
+  testsupport::FakeLoudspeaker loudspeaker;
   foundation::Subscription activated =
       notificationCenter.observe("ClipboardActivated", [this](const auto&) { log.emplace_back("ClipboardActivated"); });
   std::unique_ptr<quillmonger::Quillmonger> root;
@@ -150,6 +162,7 @@ TEST_F(QuillmongerTest, ShowsOnlyTheGuideOfAFreshInstallation) {
   EXPECT_EQ(log, (Log{"application regular", "application activate", "guide center", "guide makeKeyAndOrderFront"}));
   EXPECT_EQ(rowCount(), 0U);
   EXPECT_FALSE(hotKeys.isRegistered(activateChord));
+  EXPECT_FALSE(statusBar.isItemThere());
 }
 
 TEST_F(QuillmongerTest, EndsTheGuideWithTheNormalStartAndTheHistory) {
@@ -483,6 +496,57 @@ TEST_F(QuillmongerTest, CountsEachPasteOfItsLife) {
   settle();
 
   EXPECT_EQ(settings.defaults[keys::numberOfPastes], 2);
+}
+
+TEST_F(QuillmongerTest, ShowsItsStatusItemFromTheNormalStartOn) {
+  start();
+
+  EXPECT_TRUE(statusBar.isItemThere());
+  EXPECT_EQ(statusBar.image(), "MenuBarImage");
+}
+
+TEST_F(QuillmongerTest, TogglesTheHistoryAndShowsTheSettingsFromTheStatusMenu) {
+  start();
+  log.clear();
+
+  statusBar.choose(2);
+  settle();
+  EXPECT_EQ(log, shown);
+  log.clear();
+  statusBar.choose(2);
+  EXPECT_EQ(log, dismissed);
+  log.clear();
+  statusBar.press(",");
+
+  EXPECT_EQ(log, settingsShown);
+}
+
+TEST_F(QuillmongerTest, KeepsNothingWhileTheStatusMenuSaysIncognito) {
+  start();
+
+  statusBar.choose(7);
+  copy("secret");
+
+  EXPECT_EQ(rowCount(), 0U);
+}
+
+TEST_F(QuillmongerTest, LetsACopyBeSeenAndHeard) {
+  start();
+
+  copy("hello");
+
+  EXPECT_FALSE(statusBar.offsets().empty());
+  ASSERT_EQ(loudspeaker.sounds().size(), 1U);
+  EXPECT_EQ(loudspeaker.sounds()[0].place, "air_pump_06");
+}
+
+TEST_F(QuillmongerTest, PlaysTheActivationSoundWhenTheHistoryOpens) {
+  start();
+
+  pressChord();
+
+  ASSERT_EQ(loudspeaker.sounds().size(), 1U);
+  EXPECT_EQ(loudspeaker.sounds()[0].place, "air_pump_short");
 }
 
 TEST_F(QuillmongerTest, ShowsNothingOnceItIsGone) {
