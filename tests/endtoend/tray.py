@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """A tray for the tests: StatusNotifierWatcher and host at once, without a panel.
 
 Answers each line of standard input with one line of JSON on standard output:

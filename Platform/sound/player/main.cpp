@@ -31,10 +31,10 @@ struct Ending {
 };
 
 bool play(const pa_sample_spec& format, const std::string& samples) {
-  // A short buffer: what is played comes out at once, and costs the service little.
+  // Room for all of it at once: no later write can come too late.
   pa_buffer_attr buffer{};
   buffer.maxlength = static_cast<std::uint32_t>(-1);
-  buffer.tlength = static_cast<std::uint32_t>(pa_usec_to_bytes(40'000, &format));
+  buffer.tlength = static_cast<std::uint32_t>(samples.size());
   buffer.prebuf = static_cast<std::uint32_t>(-1);
   buffer.minreq = static_cast<std::uint32_t>(-1);
   buffer.fragsize = static_cast<std::uint32_t>(-1);

@@ -137,8 +137,8 @@ TEST_F(MenuExport, OutlivesAnActionThatReplacesTheMenu) {
 }
 
 TEST_F(MenuExport, TellsWhichEventsAreOfUnknownEntries) {
-  const auto unknown = m_menu->EventGroup({{9, QStringLiteral("clicked"), QDBusVariant(0), 0},
-                                           {1, QStringLiteral("clicked"), QDBusVariant(0), 0}});
+  const auto unknown = m_menu->EventGroup(
+      {{9, QStringLiteral("clicked"), QDBusVariant(0), 0}, {1, QStringLiteral("clicked"), QDBusVariant(0), 0}});
 
   EXPECT_EQ(unknown, QList<int>{9});
   EXPECT_EQ(m_chosen, std::vector<std::string>{"show"});

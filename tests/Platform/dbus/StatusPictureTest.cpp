@@ -57,7 +57,8 @@ TEST_F(StatusPicture, IsOfOneColourThatContrastsWithDarkAndLightPanels) {
   const QRgb ink = m_picture.image(22).pixel(11, 5);
 
   EXPECT_EQ(qAlpha(ink), 255);
-  for (const QRgb panel : {qRgb(255, 255, 255), qRgb(239, 240, 241), qRgb(0, 0, 0), qRgb(0x2A, 0x2E, 0x32), qRgb(0x3B, 0x3B, 0x3B)})
+  for (const QRgb panel :
+       {qRgb(255, 255, 255), qRgb(239, 240, 241), qRgb(0, 0, 0), qRgb(0x2A, 0x2E, 0x32), qRgb(0x3B, 0x3B, 0x3B)})
     EXPECT_GE(contrast(ink, panel), 3.0) << std::hex << panel;
 }
 
