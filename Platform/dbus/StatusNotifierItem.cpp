@@ -59,7 +59,7 @@ void StatusNotifierItem::registerWithTray() {
 void StatusNotifierItem::tellMissingTray() {
   if (std::exchange(m_isMissingTrayTold, true)) return;
   foundation::printLine(
-      "This desktop has no tray for the status item: the command `quillmonger` does what its menu does.");
+      "No tray shows the status item: until one starts, the command `quillmonger` does what its menu does.");
 }
 
 }  // namespace platform

@@ -144,7 +144,7 @@ class TheTray(RoadCase):
 
         self.desktop.open_history()
 
-        self.assertEqual(self.desktop.log.read_text().count("This desktop has no tray for the status item"), 1)
+        self.assertEqual(self.desktop.log.read_text().count("No tray shows the status item"), 1)
 
     def test_there_is_no_item_while_the_guide_is_up(self):
         self.start_tray()

@@ -18,7 +18,7 @@ TEST(StatusNotifierItem, HasNoButtonWithoutASessionBusAndSaysSoOnce) {
 
   EXPECT_FALSE(item->hasButton());
   EXPECT_EQ(output.text(),
-            "This desktop has no tray for the status item: the command `quillmonger` does what its menu does.\n");
+            "No tray shows the status item: until one starts, the command `quillmonger` does what its menu does.\n");
 }
 
 }  // namespace
