@@ -27,7 +27,8 @@ class PreviewWindow final : public ObservableWindow {
   [[nodiscard]] bool isAnimating() const { return m_isAnimating; }
 
  private:
-  void slide(foundation::Seconds duration, WindowFrame target, double targetAlpha, const std::function<void()>& completion);
+  void slide(foundation::Seconds duration, WindowFrame target, double targetAlpha,
+             const std::function<void()>& completion);
 
   bool m_isAnimating = false;
   Animation m_animation;

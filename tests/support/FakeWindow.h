@@ -58,7 +58,7 @@ class FakePanel final : public FakeWindowOf<quillmonger::Panel> {
  public:
   using FakeWindowOf::FakeWindowOf;
 
-  [[nodiscard]] double paneWidth() const override { return 332; }
+  [[nodiscard]] double paneWidth() override { return 332; }
   void setFrame(const quillmonger::WindowFrame& frame) override { m_frame = frame; }
   void setAlpha(double alpha) override { m_alpha = alpha; }
   void setLevel(int level) override { m_level = level; }

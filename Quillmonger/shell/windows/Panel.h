@@ -8,7 +8,7 @@ namespace quillmonger {
 class Panel : public Window {
  public:
   /// How much of its width, from the left, there is anything to see in.
-  [[nodiscard]] virtual double paneWidth() const = 0;
+  [[nodiscard]] virtual double paneWidth() = 0;
   /// Moves and sizes it at once.
   virtual void setFrame(const WindowFrame& frame) = 0;
   /// From 0, not to be seen, to 1. Without effect where the desktop blends nothing.

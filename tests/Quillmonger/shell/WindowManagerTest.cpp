@@ -31,9 +31,9 @@ using Manager = quillmonger::WindowManager;
 constexpr std::uint16_t escapeKey = 53;
 constexpr std::uint16_t commaKey = 43;
 constexpr WindowFrame historyFrame{660, 700, 600, 445};
-const Log shown{"settings orderOut",    "about orderOut", "application activate",
-                "history center",       "history makeKeyAndOrderFront",
-                "ClipboardActivated"};
+const Log shown{
+    "settings orderOut", "about orderOut", "application activate", "history center", "history makeKeyAndOrderFront",
+    "ClipboardActivated"};
 const Log dismissed{"history orderOut", "application hide"};
 
 // The windows on ports without a screen, with a real history and search behind them.
@@ -266,8 +266,8 @@ TEST_F(WindowManager, OpensTheSettingsForCommandAndComma) {
 
 TEST_F(WindowManager, LeavesEveryOtherActionToOthers) {
   const quillmonger::KeyEvent event{};
-  for (const Action action : {Action::select, Action::deleteItem, Action::moveDown, Action::moveUp,
-                              Action::optionChanged, Action::none})
+  for (const Action action :
+       {Action::select, Action::deleteItem, Action::moveDown, Action::moveUp, Action::optionChanged, Action::none})
     EXPECT_FALSE(manager->handleAction(action, event));
 }
 

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QQuickView>
+
+#include "Quillmonger/shell/windows/WindowSystem.h"
+
+namespace platform {
+
+/// The property of a `QWindow` that has asked for the front and hasn't come there yet.
+inline constexpr auto awaitsFrontProperty = "awaitsFront";
+/// The property of a `QWindow` with the level that it has among the program's windows.
+inline constexpr auto levelProperty = "level";
+
+/// The window of a `QtQuickWindow`: comes to the front, or stands there without the keyboard. Main thread.
+class QuickView final : public QQuickView {
+ public:
+  /// Of what the content's width leaves free of the window, nothing is painted or hit with `content`.
+  enum class Extent { window, content };
+
+  /// Both outlive this object.
+  QuickView(QQmlEngine& engine, quillmonger::WindowSystem& windowSystem, Extent extent);
+
+  void showInFront();
+  /// Under those of the program's windows whose level is higher, without taking the keyboard.
+  void showBehindTheFront();
+  /// Gives the keyboard, if it has it, to the highest of the program's other windows.
+  void handOverFront();
+
+ private:
+  void exposeEvent(QExposeEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+  quillmonger::WindowSystem& m_windowSystem;
+  Extent m_extent;
+  bool m_comesToFront = false;
+};
+
+}  // namespace platform
