@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QQmlEngine>
 #include <QQuickItem>
+#include <QRegion>
 #include <QScreen>
 #include <QSurfaceFormat>
 #include <algorithm>
@@ -42,8 +43,7 @@ QtQuickWindow::~QtQuickWindow() = default;
 
 void QtQuickWindow::prepare() {
   if (m_view) return;
-  const auto extent = m_description.kind == Kind::pane ? QuickView::Extent::content : QuickView::Extent::window;
-  m_view = std::make_unique<QuickView>(m_description.engine(), m_windowSystem, extent);
+  m_view = std::make_unique<QuickView>(m_description.engine(), m_windowSystem);
   m_view->setTitle(m_description.title);
   m_view->setProperty(levelProperty, m_level);
   applyKind();
@@ -103,7 +103,8 @@ quillmonger::WindowFrame QtQuickWindow::frame() const {
 
 double QtQuickWindow::paneWidth() {
   prepare();
-  return m_view->rootObject()->width();
+  const QRegion mask = m_view->mask();
+  return mask.isEmpty() ? m_view->width() : mask.boundingRect().right() + 1;
 }
 
 void QtQuickWindow::setFrame(const quillmonger::WindowFrame& frame) {
@@ -169,7 +170,7 @@ QQuickView* QtQuickWindow::view() const { return m_view.get(); }
 
 void QtQuickWindow::orderOut() {
   if (!m_view) return;
-  if (m_description.kind == Kind::pane) m_view->handOverFront();
+  m_view->handOverFront();
   m_view->hide();
 }
 

@@ -24,7 +24,6 @@ class QtQuickWindow final : public quillmonger::Panel {
  public:
   enum class Kind {
     palette,  ///< no frame, above the other windows, no entry in the task list, corners of the content's own
-    pane,     ///< the same, no wider than its content: beside it the window is neither painted nor hit
     dialog    ///< the desktop's frame, fixed size
   };
   struct Content {
@@ -53,7 +52,7 @@ class QtQuickWindow final : public quillmonger::Panel {
   [[nodiscard]] bool isVisible() const override;
   [[nodiscard]] quillmonger::WindowFrame frame() const override;
   [[nodiscard]] int level() const override { return m_level; }
-  /// Loads the tree.
+  /// As far as the content's mask of the window goes, if it sets one. Loads the tree.
   [[nodiscard]] double paneWidth() override;
   void setFrame(const quillmonger::WindowFrame& frame) override;
   void setAlpha(double alpha) override;
@@ -63,7 +62,7 @@ class QtQuickWindow final : public quillmonger::Panel {
   void makeRoomAtRight(double width) override;
   void orderFront() override;
   void makeKeyAndOrderFront() override;
-  /// A pane that has the keyboard hands it back to the window above it.
+  /// If it has the keyboard, it hands it to a window of the program that stands above it.
   void orderOut() override;
 
   /// Null before `prepare`.

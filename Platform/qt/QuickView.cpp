@@ -1,10 +1,7 @@
 #include "Platform/qt/QuickView.h"
 
 #include <QGuiApplication>
-#include <QQuickItem>
-#include <QRegion>
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace platform {
@@ -16,18 +13,18 @@ constexpr auto showsWithoutActivatingProperty = "_q_showWithoutActivating";
 
 int levelOf(const QWindow* window) { return window->property(levelProperty).toInt(); }
 
-// The program's other windows on the screen, the lowest first.
-QWindowList othersByLevel(const QWindow* window) {
-  QWindowList others = QGuiApplication::topLevelWindows();
-  others.removeIf([window](const QWindow* other) { return other == window || !other->isVisible(); });
-  std::ranges::stable_sort(others, {}, levelOf);
-  return others;
+// Those of the program's windows on the screen whose level is higher, the lowest first.
+QWindowList windowsAbove(const QWindow* window) {
+  QWindowList windows = QGuiApplication::topLevelWindows();
+  windows.removeIf([window](const QWindow* other) { return !other->isVisible() || levelOf(other) <= levelOf(window); });
+  std::ranges::stable_sort(windows, {}, levelOf);
+  return windows;
 }
 
 }  // namespace
 
-QuickView::QuickView(QQmlEngine& engine, quillmonger::WindowSystem& windowSystem, Extent extent)
-    : QQuickView(&engine, nullptr), m_windowSystem(windowSystem), m_extent(extent) {
+QuickView::QuickView(QQmlEngine& engine, quillmonger::WindowSystem& windowSystem)
+    : QQuickView(&engine, nullptr), m_windowSystem(windowSystem) {
   setResizeMode(QQuickView::SizeRootObjectToView);
 }
 
@@ -44,16 +41,15 @@ void QuickView::showBehindTheFront() {
   setProperty(showsWithoutActivatingProperty, true);
   show();
   raise();
-  for (QWindow* other : othersByLevel(this)) {
-    if (levelOf(other) > levelOf(this)) other->raise();
-  }
+  for (QWindow* window : windowsAbove(this))
+    window->raise();
 }
 
 void QuickView::handOverFront() {
-  const QWindowList others = othersByLevel(this);
-  if (!isActive() || others.isEmpty()) return;
-  others.last()->setProperty(awaitsFrontProperty, true);
-  m_windowSystem.bringToFront(others.last()->winId());
+  const QWindowList windows = windowsAbove(this);
+  if (!isActive() || windows.isEmpty()) return;
+  windows.last()->setProperty(awaitsFrontProperty, true);
+  m_windowSystem.bringToFront(windows.last()->winId());
 }
 
 void QuickView::exposeEvent(QExposeEvent* event) {
@@ -69,14 +65,6 @@ void QuickView::focusInEvent(QFocusEvent* event) {
 void QuickView::hideEvent(QHideEvent* event) {
   setProperty(awaitsFrontProperty, false);
   QQuickView::hideEvent(event);
-}
-
-void QuickView::resizeEvent(QResizeEvent* event) {
-  QQuickView::resizeEvent(event);
-  if (m_extent == Extent::window || rootObject() == nullptr) return;
-  const double contentWidth = std::min(rootObject()->implicitWidth(), static_cast<double>(width()));
-  rootObject()->setWidth(contentWidth);
-  setMask(QRegion(0, 0, static_cast<int>(std::ceil(contentWidth)), height()));
 }
 
 }  // namespace platform

@@ -14,26 +14,21 @@ inline constexpr auto levelProperty = "level";
 /// The window of a `QtQuickWindow`: comes to the front, or stands there without the keyboard. Main thread.
 class QuickView final : public QQuickView {
  public:
-  /// Of what the content's width leaves free of the window, nothing is painted or hit with `content`.
-  enum class Extent { window, content };
-
   /// Both outlive this object.
-  QuickView(QQmlEngine& engine, quillmonger::WindowSystem& windowSystem, Extent extent);
+  QuickView(QQmlEngine& engine, quillmonger::WindowSystem& windowSystem);
 
   void showInFront();
   /// Under those of the program's windows whose level is higher, without taking the keyboard.
   void showBehindTheFront();
-  /// Gives the keyboard, if it has it, to the highest of the program's other windows.
+  /// Gives the keyboard, if it has it, to the highest of those windows.
   void handOverFront();
 
  private:
   void exposeEvent(QExposeEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void hideEvent(QHideEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
 
   quillmonger::WindowSystem& m_windowSystem;
-  Extent m_extent;
   bool m_comesToFront = false;
 };
 

@@ -6,7 +6,7 @@
 #include "Foundation/RunLoop.h"
 #include "Quillmonger/history/ClipboardViewModel.h"
 #include "Quillmonger/input/BaseEventManager.h"
-#include "Quillmonger/preview/PreviewWindow.h"
+#include "Quillmonger/preview/window/PreviewWindow.h"
 #include "Quillmonger/search/SearchViewModel.h"
 #include "Quillmonger/shell/windows/Application.h"
 #include "Quillmonger/shell/windows/MotionPreference.h"

@@ -59,8 +59,9 @@ TEST(XSettings, StopsAtASettingOfAnUnknownKindAndAtTheLimit) {
 
 TEST(XSettings, DoesNotBelieveACountOrALengthThatIsTooLarge) {
   EXPECT_EQ(xSettingsNumber(settings(0xFFFFFFFF, theme), "Gtk/EnableAnimations"), std::nullopt);
-  EXPECT_EQ(xSettingsNumber(settings(2, head(1, "Long") + bigEndian(0xFFFFFFFF, 4) + animations), "Gtk/EnableAnimations"),
-            std::nullopt);
+  EXPECT_EQ(
+      xSettingsNumber(settings(2, head(1, "Long") + bigEndian(0xFFFFFFFF, 4) + animations), "Gtk/EnableAnimations"),
+      std::nullopt);
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "Quillmonger/preview/PreviewWindow.h"
+#include "Quillmonger/preview/window/PreviewWindow.h"
 
 #include <cmath>
 
