@@ -74,7 +74,7 @@ void StatusBarManager::checkForUpdates() {
 void StatusBarManager::quitApp() { m_with.application.terminate(); }
 
 void StatusBarManager::animateStatusBarItem() {
-  if (!m_with.defaults[keys::animateMenuBar] || m_with.isMotionReduced() || !item().hasButton()) return;
+  if (!m_with.defaults[keys::animateMenuBar] || m_with.motion.reducesMotion() || !item().hasButton()) return;
   m_frame = 0;
   item().setImageOffset(fallandbounce::offset(0));
   m_fallAndBounce = m_with.runLoop.every(fallandbounce::duration / frameCount, [this] { showNextFrame(); });

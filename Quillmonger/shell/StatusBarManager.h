@@ -12,13 +12,14 @@
 #include "Quillmonger/shell/StatusItem.h"
 #include "Quillmonger/shell/Updater.h"
 #include "Quillmonger/shell/windows/Application.h"
+#include "Quillmonger/shell/windows/MotionPreference.h"
 
 namespace quillmonger {
 
 /// The program's status item: its menu, incognito mode, and the bounce of its picture at a copy. Main thread.
 class StatusBarManager final {
  public:
-  /// What the menu does with the windows. An entry whose function is empty is disabled.
+  /// What the menu does with the windows.
   struct Windows {
     std::function<void()> showAboutWindow;
     std::function<void()> toggleAppWindow;
@@ -32,8 +33,7 @@ class StatusBarManager final {
     StatusBar& statusBar;
     Application& application;
     foundation::TextLookup texts;
-    /// Whether the user wants the desktop to keep still.
-    std::function<bool()> isMotionReduced;
+    const MotionPreference& motion;
     foundation::RunLoop& runLoop;
     foundation::NotificationCenter& notificationCenter;
     defaults::Defaults& defaults;

@@ -21,9 +21,11 @@
 #include "tests/support/FakeHotKeyService.h"
 #include "tests/support/FakeInputSourceService.h"
 #include "tests/support/FakeLocalEventMonitor.h"
+#include "tests/support/FakeMotionPreference.h"
 #include "tests/support/FakePasteKeys.h"
 #include "tests/support/FakePasteboard.h"
 #include "tests/support/FakePostEventAccess.h"
+#include "tests/support/FakeSettingsWindowController.h"
 #include "tests/support/FakeStatusBar.h"
 #include "tests/support/FakeStoreContext.h"
 #include "tests/support/FakeWindow.h"
@@ -44,10 +46,12 @@ constexpr testsupport::FakeHotKeyService::Chord activateChord{9, 0x300};
 constexpr std::uint16_t commaKey = 43;
 constexpr std::uint16_t escapeKey = 53;
 constexpr std::uint16_t returnKey = 36;
-const Log shown{"settings orderOut", "application activate", "history center", "history makeKeyAndOrderFront",
-                "ClipboardActivated"};
+const Log shown{
+    "settings orderOut", "about orderOut", "application activate", "history center", "history makeKeyAndOrderFront",
+    "ClipboardActivated"};
 const Log dismissed{"history orderOut", "application hide"};
-const Log settingsShown{"history orderOut", "application activate", "settings center", "settings makeKeyAndOrderFront"};
+const Log settingsShown{"history orderOut", "preview orderOut", "application activate", "settings show the last pane",
+                        "settings makeKeyAndOrderFront"};
 
 // The whole logic, wired as the program wires it, on ports without a desktop.
 class QuillmongerTest : public testing::Test {
@@ -78,11 +82,13 @@ class QuillmongerTest : public testing::Test {
         application,
         gettingStartedWindow,
         appWindow,
-        settingsWindow,
+        settingsWindowController,
+        aboutWindow,
+        previewPanel,
+        motion,
         picker,
         statusBar,
         updater,
-        [] { return false; },
         [](std::string_view name, std::string_view) { return std::optional(std::string(name)); },
         loudspeaker.factory()});
     settle();
@@ -143,7 +149,10 @@ class QuillmongerTest : public testing::Test {
   testsupport::FakeApplication application{log};
   testsupport::FakeWindow gettingStartedWindow{"guide", log};
   testsupport::FakeWindow appWindow{"history", log};
-  testsupport::FakeWindow settingsWindow{"settings", log};
+  testsupport::FakeSettingsWindowController settingsWindowController{log};
+  testsupport::FakeWindow aboutWindow{"about", log};
+  testsupport::FakePanel previewPanel{"preview", log};
+  testsupport::FakeMotionPreference motion;
   testsupport::FakeAppPicker picker;
   testsupport::FakeStatusBar statusBar;
   quillmonger::UnconfiguredUpdater updater;
@@ -173,8 +182,8 @@ TEST_F(QuillmongerTest, EndsTheGuideWithTheNormalStartAndTheHistory) {
   root->finishGettingStarted();
   settle();
 
-  EXPECT_EQ(log, (Log{"guide orderOut", "application accessory", "settings orderOut", "application activate",
-                      "history center", "history makeKeyAndOrderFront", "ClipboardActivated"}));
+  EXPECT_EQ(log, (Log{"guide orderOut", "application accessory", "settings orderOut", "about orderOut",
+                      "application activate", "history center", "history makeKeyAndOrderFront", "ClipboardActivated"}));
   EXPECT_FALSE(settings.defaults[keys::firstLaunch]);
   EXPECT_TRUE(hotKeys.isRegistered(activateChord));
 }
@@ -215,8 +224,8 @@ TEST_F(QuillmongerTest, ShowsAndTogglesTheHistoryOnceTheGuideIsOver) {
   root->show();
   settle();
 
-  EXPECT_EQ(log, (Log{"history orderOut", "application hide", "settings orderOut", "application activate",
-                      "history center", "history makeKeyAndOrderFront", "ClipboardActivated"}));
+  EXPECT_EQ(log, (Log{"history orderOut", "application hide", "settings orderOut", "about orderOut",
+                      "application activate", "history center", "history makeKeyAndOrderFront", "ClipboardActivated"}));
 }
 
 TEST_F(QuillmongerTest, CapturesAtTheGuidesEndWhatWasCopiedMeanwhile) {
@@ -395,16 +404,6 @@ TEST_F(QuillmongerTest, ShowsTheSettingsAlsoWithoutTheHistory) {
   EXPECT_EQ(log, settingsShown);
 }
 
-TEST_F(QuillmongerTest, LeavesTheSettingsWhereTheyAreWhenTheyAreShownAlready) {
-  start();
-  root->showSettings();
-  log.clear();
-
-  root->showSettings();
-
-  EXPECT_EQ(log, (Log{"history orderOut", "application activate", "settings makeKeyAndOrderFront"}));
-}
-
 TEST_F(QuillmongerTest, ShowsTheSettingsBeforeTheGuideIsOver) {
   settings.defaults.set(keys::firstLaunch, true);
   start();
@@ -424,7 +423,7 @@ TEST_F(QuillmongerTest, ClosesTheSettingsAndShowsTheHistoryForTheChord) {
   pressChord();
 
   EXPECT_EQ(log, shown);
-  EXPECT_FALSE(settingsWindow.isVisible());
+  EXPECT_FALSE(settingsWindowController.window().isVisible());
 }
 
 TEST_F(QuillmongerTest, KeepsTheSettingsWhenTheUserGoesToAnotherApplication) {
@@ -505,7 +504,7 @@ TEST_F(QuillmongerTest, ShowsItsStatusItemFromTheNormalStartOn) {
   EXPECT_EQ(statusBar.image(), "MenuBarImage");
 }
 
-TEST_F(QuillmongerTest, TogglesTheHistoryAndShowsTheSettingsFromTheStatusMenu) {
+TEST_F(QuillmongerTest, ShowsItsWindowsFromTheStatusMenu) {
   start();
   log.clear();
 
@@ -517,8 +516,11 @@ TEST_F(QuillmongerTest, TogglesTheHistoryAndShowsTheSettingsFromTheStatusMenu) {
   EXPECT_EQ(log, dismissed);
   log.clear();
   statusBar.press(",");
-
   EXPECT_EQ(log, settingsShown);
+  log.clear();
+  statusBar.choose(0);
+
+  EXPECT_TRUE(aboutWindow.isVisible());
 }
 
 TEST_F(QuillmongerTest, KeepsNothingWhileTheStatusMenuSaysIncognito) {

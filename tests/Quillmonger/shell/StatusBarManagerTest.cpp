@@ -11,6 +11,7 @@
 #include "Quillmonger/shell/FallAndBounce.h"
 #include "Quillmonger/shell/UnconfiguredUpdater.h"
 #include "tests/support/FakeApplication.h"
+#include "tests/support/FakeMotionPreference.h"
 #include "tests/support/FakeStatusBar.h"
 #include "tests/support/FakeUpdater.h"
 #include "tests/support/TestDefaults.h"
@@ -50,7 +51,7 @@ class StatusBarManager : public testing::Test {
             m_bar,
             m_application,
             [](std::string_view key) { return std::string(key); },
-            [this] { return m_isMotionReduced; },
+            m_motion,
             m_runLoop,
             m_notificationCenter,
             m_settings.defaults};
@@ -63,7 +64,7 @@ class StatusBarManager : public testing::Test {
   bool isEnabled(std::size_t position) { return static_cast<bool>(entry(position).action); }
 
   Log m_log;
-  bool m_isMotionReduced = false;
+  testsupport::FakeMotionPreference m_motion;
   testsupport::VirtualRunLoop m_runLoop;
   foundation::NotificationCenter m_notificationCenter;
   testsupport::TestDefaults m_settings;
@@ -206,22 +207,12 @@ TEST_F(StatusBarManager, FollowsAnUpdaterThatChangesBeforeItIsSetUp) {
 TEST_F(StatusBarManager, NeverEnablesTheUpdateEntryWithoutAFeed) {
   quillmonger::UnconfiguredUpdater updater;
   const auto with = collaborators();
-  quillmonger::StatusBarManager manager({with.windows, updater, m_bar, m_application, with.texts, with.isMotionReduced,
-                                         m_runLoop, m_notificationCenter, m_settings.defaults});
+  quillmonger::StatusBarManager manager({with.windows, updater, m_bar, m_application, with.texts, m_motion, m_runLoop,
+                                         m_notificationCenter, m_settings.defaults});
 
   manager.setup();
 
   EXPECT_FALSE(isEnabled(updateEntry));
-}
-
-TEST_F(StatusBarManager, DisablesTheAboutEntryWithoutAnAboutWindow) {
-  auto with = collaborators();
-  with.windows.showAboutWindow = nullptr;
-  quillmonger::StatusBarManager manager(with);
-
-  manager.setup();
-
-  EXPECT_FALSE(isEnabled(aboutEntry));
 }
 
 TEST_F(StatusBarManager, KeepsTheCheckMarkWhenTheUpdaterChanges) {
@@ -290,7 +281,7 @@ TEST_F(StatusBarManager, ChangesNothingAtACopyWithTheAnimationOff) {
 }
 
 TEST_F(StatusBarManager, ChangesNothingAtACopyWhenTheUserWantsNoMotion) {
-  m_isMotionReduced = true;
+  m_motion.setReducesMotion(true);
   setUp();
 
   copy();
