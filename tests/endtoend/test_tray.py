@@ -10,6 +10,22 @@ from roadcase import RoadCase
 
 ABOUT, SEPARATOR, TOGGLE, SETTINGS, UPDATES, _, HEADING, INCOGNITO, _, QUIT = range(1, 11)
 
+PANEL = """<?xml version="1.0" encoding="UTF-8"?>
+<channel name="xfce4-panel" version="1.0">
+  <property name="configver" type="int" value="2"/>
+  <property name="panels" type="array">
+    <value type="int" value="1"/>
+    <property name="panel-1" type="empty">
+      <property name="position" type="string" value="p=6;x=0;y=0"/>
+      <property name="length" type="uint" value="100"/>
+      <property name="size" type="uint" value="26"/>
+      <property name="plugin-ids" type="array"><value type="int" value="1"/></property>
+    </property>
+  </property>
+  <property name="plugins" type="empty"><property name="plugin-1" type="string" value="systray"/></property>
+</channel>
+"""
+
 
 class TheTray(RoadCase):
     def setUp(self):
@@ -145,6 +161,35 @@ class TheTray(RoadCase):
         self.desktop.open_history()
 
         self.assertEqual(self.desktop.log.read_text().count("No tray shows the status item"), 1)
+
+    def test_a_panel_shows_the_item_and_its_menu_shows_the_history(self):
+        # A bar of its own at the top left, with nothing but the tray in it.
+        folder = self.desktop.home / ".config/xfce4/xfconf/xfce-perchannel-xml"
+        folder.mkdir(parents=True)
+        (folder / "xfce4-panel.xml").write_text(PANEL)
+        self.desktop.spawn(["xfce4-panel", "--disable-wm-check"])
+        self.desktop.start_app()
+        wait_until(lambda: "#7887AD" in self.panel_pixels(), "the picture in the panel", seconds=30)
+
+        self.desktop.run(["xdotool", "mousemove", "12", "12", "click", "1"])
+        menu = wait_until(self.menu_window, "the open menu")
+        # The entries above it are About and a separator.
+        self.desktop.press("Down", "Down", "Return")
+
+        wait_until(self.desktop.history_window, "the history window")
+        self.assertNotEqual(menu, self.desktop.history_window())
+
+    def panel_pixels(self):
+        return self.desktop.run(["import", "-window", "root", "-crop", "26x26+0+0", "txt:-"], check=False).stdout
+
+    def menu_window(self):
+        windows = self.desktop.run(["xdotool", "search", "--onlyvisible", "--class", "xfce4-panel"], check=False)
+        for window in windows.stdout.split():
+            shape = self.desktop.run(["xdotool", "getwindowgeometry", "--shell", window], check=False).stdout
+            height = [line for line in shape.splitlines() if line.startswith("HEIGHT=")]
+            if height and int(height[0].partition("=")[2]) > 150:
+                return window
+        return None
 
     def test_there_is_no_item_while_the_guide_is_up(self):
         self.start_tray()

@@ -170,7 +170,8 @@ void Composition::listenToCommands() {
 
 void Composition::tellServices() const {
   foundation::printLine(
-      "Quillmonger is ready: clipboard by X11 (XFixes), global chord by X11 key grabs, paste keys by X11 (XTest)");
+      "Quillmonger is ready: clipboard by X11 (XFixes), global chord by X11 key grabs, paste keys by X11 (XTest), "
+      "status item by StatusNotifierItem, sounds by PulseAudio");
 }
 
 }  // namespace quillmonger
