@@ -63,10 +63,21 @@ Quillmonger::Quillmonger(const Platform& platform)
                             platform.eventMonitoring, platform.shortcuts, platform.runLoop, platform.notificationCenter,
                             platform.defaults}),
       m_windowManager({m_clipboardViewModel, m_searchViewModel, platform.gettingStartedWindow, platform.appWindow,
-                       platform.settingsWindow, platform.application, platform.eventMonitoring, platform.runLoop,
-                       platform.notificationCenter}) {
+                       platform.settingsWindowController, platform.aboutWindow, platform.previewPanel, platform.motion,
+                       platform.application, platform.eventMonitoring, platform.runLoop, platform.notificationCenter}),
+      m_statusBarManager({windowsOfStatusBar(), platform.updater, platform.statusBar, platform.application,
+                          platform.texts, platform.motion, platform.runLoop, platform.notificationCenter,
+                          platform.defaults}),
+      m_audioManager({platform.resources, platform.makeAudioPlayer, platform.notificationCenter, platform.defaults}) {
   m_pasteInjection.setDismissal([this] { m_windowManager.hideAppWindow(); });
   m_platform.shortcuts.declare(shortcutname::activate());
+}
+
+StatusBarManager::Windows Quillmonger::windowsOfStatusBar() {
+  return {.showAboutWindow = [this] { m_windowManager.showAboutWindow(); },
+          .toggleAppWindow = [this] { m_windowManager.toggleAppWindow(); },
+          .showSettingsWindow = [this] { m_windowManager.showSettingsWindow(); },
+          .hideAppWindow = [this] { m_windowManager.hideAppWindow(); }};
 }
 
 IgnoreAppsViewModel& Quillmonger::ignoreAppsViewModel() {
@@ -94,6 +105,7 @@ void Quillmonger::startGettingStarted() {
 void Quillmonger::startNormally() {
   m_isStartedNormally = true;
   m_platform.application.setActivationPolicy(Application::ActivationPolicy::accessory);
+  m_statusBarManager.setup();
   m_subscriptions.push_back(
       m_platform.notificationCenter.observe("PasteSucceeded", [this](const auto& /*paste*/) { pasteSucceeded(); }));
   m_clipboardManager.startListening();
@@ -127,6 +139,8 @@ void Quillmonger::toggle() {
 }
 
 void Quillmonger::showSettings() { m_windowManager.showSettingsWindow(); }
+
+void Quillmonger::showAbout() { m_windowManager.showAboutWindow(); }
 
 void Quillmonger::applicationDidResignActive() { m_windowManager.applicationDidResignActive(); }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -25,8 +26,16 @@
 #include "Quillmonger/search/SearchViewModel.h"
 #include "Quillmonger/settings/panes/AppPicker.h"
 #include "Quillmonger/settings/panes/IgnoreAppsViewModel.h"
+#include "Quillmonger/shell/AudioManager.h"
+#include "Quillmonger/shell/AudioPlayer.h"
+#include "Quillmonger/shell/StatusBarManager.h"
+#include "Quillmonger/shell/StatusItem.h"
+#include "Quillmonger/shell/Updater.h"
 #include "Quillmonger/shell/WindowManager.h"
 #include "Quillmonger/shell/windows/Application.h"
+#include "Quillmonger/shell/windows/MotionPreference.h"
+#include "Quillmonger/shell/windows/Panel.h"
+#include "Quillmonger/shell/windows/SettingsWindowController.h"
 #include "Quillmonger/shell/windows/Window.h"
 
 namespace quillmonger {
@@ -56,8 +65,15 @@ class Quillmonger final {
     Application& application;
     Window& gettingStartedWindow;
     Window& appWindow;
-    Window& settingsWindow;
+    SettingsWindowController& settingsWindowController;
+    Window& aboutWindow;
+    Panel& previewPanel;
+    const MotionPreference& motion;
     AppPicker& appPicker;
+    StatusBar& statusBar;
+    Updater& updater;
+    ResourceLookup resources;
+    AudioPlayerFactory makeAudioPlayer;
   };
 
   /// Loads the history; starts nothing. The windows' content is made afterwards, from what this object owns.
@@ -73,8 +89,8 @@ class Quillmonger final {
   [[nodiscard]] PermissionsManaging& permissionsManager() { return m_platform.permissionsManager; }
   [[nodiscard]] WindowManager& windowManager() { return m_windowManager; }
 
-  /// The program has been launched: shows the Getting Started guide while the setting `firstLaunch` is on, and starts
-  /// to watch the clipboard otherwise.
+  /// The program has been launched: shows the Getting Started guide while the setting `firstLaunch` is on; otherwise
+  /// shows the status item and starts to watch the clipboard.
   void start();
   /// The guide's last step: the normal start, and the history on the screen. Nothing happens once the normal start has
   /// taken place.
@@ -85,6 +101,8 @@ class Quillmonger final {
   void toggle();
   /// Shows the settings, also before the user has been through the guide.
   void showSettings();
+  /// Shows what this program is, also before the user has been through the guide.
+  void showAbout();
   /// The program lost the front.
   void applicationDidResignActive();
   /// The program is about to end: brings the store to the disk.
@@ -96,6 +114,7 @@ class Quillmonger final {
  private:
   void startGettingStarted();
   void startNormally();
+  [[nodiscard]] StatusBarManager::Windows windowsOfStatusBar();
   void pasteSucceeded();
 
   Platform m_platform;
@@ -108,6 +127,8 @@ class Quillmonger final {
   ClipboardViewModel m_clipboardViewModel;
   std::optional<IgnoreAppsViewModel> m_ignoreAppsViewModel;
   WindowManager m_windowManager;
+  StatusBarManager m_statusBarManager;
+  AudioManager m_audioManager;
   bool m_isStartedNormally = false;
   std::vector<foundation::Subscription> m_subscriptions;
 };

@@ -58,6 +58,8 @@ class Desktop:
             NO_AT_BRIDGE="1",
             GTK_THEME="Adwaita",
             QUILLMONGER_TEST_HOME=str(self.home),
+            # Silent: a client without an address starts a sound server of its own.
+            PULSE_SERVER=f"unix:{runtime}/no-sound",
         )
         if self.scale:
             self.environment["QT_SCALE_FACTOR"] = str(self.scale)

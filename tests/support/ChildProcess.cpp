@@ -82,6 +82,11 @@ std::string ChildProcess::output() const {
   return text;
 }
 
+void ChildProcess::signal(int number) const {
+  // Once it has been waited for, the number may be another process's.
+  if (!m_status) kill(m_process, number);
+}
+
 void ChildProcess::end(int signal) {
   if (isFinished()) return;
   kill(m_process, signal);

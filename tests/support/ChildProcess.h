@@ -25,6 +25,8 @@ class ChildProcess final {
   [[nodiscard]] std::optional<int> exitCode() const;
   /// What it has written to standard output so far.
   [[nodiscard]] std::string output() const;
+  /// Sends the signal, and does not wait.
+  void signal(int number) const;
   /// Sends the signal, and waits for the end.
   void end(int signal);
 

@@ -1,11 +1,15 @@
 #include "Quillmonger/shell/app/Composition.h"
 
+#include <QCoreApplication>
+#include <QDBusConnection>
 #include <QDesktopServices>
+#include <QFile>
 #include <algorithm>
 #include <utility>
 
 #include "Foundation/Fatal.h"
 #include "Foundation/Output.h"
+#include "Platform/sound/SoundProcess.h"
 #include "Quillmonger/resources/Texts.h"
 #include "Quillmonger/shell/command/CommandSyntax.h"
 
@@ -23,6 +27,20 @@ std::unique_ptr<Service> required(std::unique_ptr<Service> service, std::string_
 
 std::string selectionName(const std::vector<std::string>& arguments) {
   return std::string(pasteboardName(arguments).value_or("CLIPBOARD"));
+}
+
+std::string resourcePlace(std::string_view name, std::string_view fileExtension) {
+  return ":/qt-project.org/imports/Quillmonger/Resources/" + std::string(name) + "." + std::string(fileExtension);
+}
+
+std::optional<std::string> resource(std::string_view name, std::string_view fileExtension) {
+  auto place = resourcePlace(name, fileExtension);
+  if (!QFile::exists(QString::fromStdString(place))) return std::nullopt;
+  return place;
+}
+
+std::string soundPlayer() {
+  return QCoreApplication::applicationDirPath().append(QStringLiteral("/quillmonger-sound")).toStdString();
 }
 
 void openUrl(const foundation::Url& url) {
@@ -53,6 +71,7 @@ Composition::Composition(const platform::XdgFolders& folders, const std::vector<
       m_application(*m_windowSystem),
       m_views(m_defaults, *m_windowSystem, [this](const std::string& path) { return iconOf(path); },
               {m_installedApplications, m_backgroundQueue, m_runLoop}),
+      m_statusBar(QDBusConnection::sessionBus(), [](const std::string& name) { return resourcePlace(name, "svg"); }),
       m_dialogManager(m_views.alert(), localizedText, openUrl, supportAddress),
       m_permissionsManager(m_postEventAccess, m_views.alert(), localizedText, openUrl, m_runLoop),
       m_contextProvider(m_dialogManager, folders.data, m_runLoop),
@@ -76,8 +95,15 @@ Composition::Composition(const platform::XdgFolders& folders, const std::vector<
               m_application,
               m_views.gettingStartedWindow(),
               m_views.appWindow(),
-              m_views.settingsWindow(),
-              m_views.appPicker()}),
+              m_views.settingsWindowController(),
+              m_views.aboutWindow(),
+              m_views.previewPanel(),
+              *m_windowSystem,
+              m_views.appPicker(),
+              m_statusBar,
+              m_updater,
+              resource,
+              platform::SoundProcess::factory(soundPlayer())}),
       m_commandLine(commandOperations(), m_defaults) {
   m_views.feed(m_root, *m_pasteboard);
   m_resigning = m_application.onDidResignActive([this] { m_root.applicationDidResignActive(); });
@@ -120,9 +146,13 @@ void Composition::saveChanges() {
 }
 
 CommandLine::Operations Composition::commandOperations() {
-  return {[this] { m_root.toggle(); },       [this] { m_root.show(); },
-          [this] { m_root.showSettings(); }, [this](const std::vector<std::string>& urls) { m_root.openURLs(urls); },
-          [this] { m_root.quitApp(); },      [this] { return recordsNewestFirst(); }};
+  return {[this] { m_root.toggle(); },
+          [this] { m_root.show(); },
+          [this] { m_root.showSettings(); },
+          [this] { m_root.showAbout(); },
+          [this](const std::vector<std::string>& urls) { m_root.openURLs(urls); },
+          [this] { m_root.quitApp(); },
+          [this] { return recordsNewestFirst(); }};
 }
 
 std::vector<std::shared_ptr<ClipboardItem>> Composition::recordsNewestFirst() {
@@ -140,7 +170,8 @@ void Composition::listenToCommands() {
 
 void Composition::tellServices() const {
   foundation::printLine(
-      "Quillmonger is ready: clipboard by X11 (XFixes), global chord by X11 key grabs, paste keys by X11 (XTest)");
+      "Quillmonger is ready: clipboard by X11 (XFixes), global chord by X11 key grabs, paste keys by X11 (XTest), "
+      "status item by StatusNotifierItem, sounds by PulseAudio");
 }
 
 }  // namespace quillmonger

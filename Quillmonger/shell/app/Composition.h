@@ -10,6 +10,7 @@
 #include "Defaults/FileUserDefaults.h"
 #include "Foundation/NotificationCenter.h"
 #include "KeyboardShortcuts/KeyboardShortcuts.h"
+#include "Platform/dbus/StatusNotifierBar.h"
 #include "Platform/freedesktop/CommandSocket.h"
 #include "Platform/freedesktop/DesktopApplicationBundles.h"
 #include "Platform/freedesktop/DesktopApplicationNaming.h"
@@ -32,6 +33,7 @@
 #include "Quillmonger/shell/DialogManager.h"
 #include "Quillmonger/shell/PermissionsManager.h"
 #include "Quillmonger/shell/Quillmonger.h"
+#include "Quillmonger/shell/UnconfiguredUpdater.h"
 #include "Quillmonger/shell/app/Views.h"
 #include "Quillmonger/shell/command/CommandLine.h"
 #include "Sauce/Sauce.h"
@@ -86,6 +88,8 @@ class Composition final {
   // After all that its work asks, which may still go on when the root has gone.
   platform::QtBackgroundQueue m_backgroundQueue;
   Views m_views;
+  platform::StatusNotifierBar m_statusBar;
+  UnconfiguredUpdater m_updater;
 
   DialogManager m_dialogManager;
   PermissionsManager m_permissionsManager;

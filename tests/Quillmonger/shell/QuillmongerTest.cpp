@@ -9,19 +9,24 @@
 
 #include "Quillmonger/settings/SettingsKeys.h"
 #include "Quillmonger/shell/PermissionsManager.h"
+#include "Quillmonger/shell/UnconfiguredUpdater.h"
 #include "Sauce/Sauce.h"
 #include "tests/support/FakeAlert.h"
 #include "tests/support/FakeAppPicker.h"
 #include "tests/support/FakeApplication.h"
 #include "tests/support/FakeApplicationBundles.h"
 #include "tests/support/FakeApplicationNaming.h"
+#include "tests/support/FakeAudioPlayer.h"
 #include "tests/support/FakeBundleProvider.h"
 #include "tests/support/FakeHotKeyService.h"
 #include "tests/support/FakeInputSourceService.h"
 #include "tests/support/FakeLocalEventMonitor.h"
+#include "tests/support/FakeMotionPreference.h"
 #include "tests/support/FakePasteKeys.h"
 #include "tests/support/FakePasteboard.h"
 #include "tests/support/FakePostEventAccess.h"
+#include "tests/support/FakeSettingsWindowController.h"
+#include "tests/support/FakeStatusBar.h"
 #include "tests/support/FakeStoreContext.h"
 #include "tests/support/FakeWindow.h"
 #include "tests/support/InlineBackgroundQueue.h"
@@ -41,10 +46,12 @@ constexpr testsupport::FakeHotKeyService::Chord activateChord{9, 0x300};
 constexpr std::uint16_t commaKey = 43;
 constexpr std::uint16_t escapeKey = 53;
 constexpr std::uint16_t returnKey = 36;
-const Log shown{"settings orderOut", "application activate", "history center", "history makeKeyAndOrderFront",
-                "ClipboardActivated"};
+const Log shown{
+    "settings orderOut", "about orderOut", "application activate", "history center", "history makeKeyAndOrderFront",
+    "ClipboardActivated"};
 const Log dismissed{"history orderOut", "application hide"};
-const Log settingsShown{"history orderOut", "application activate", "settings center", "settings makeKeyAndOrderFront"};
+const Log settingsShown{"history orderOut", "preview orderOut", "application activate", "settings show the last pane",
+                        "settings makeKeyAndOrderFront"};
 
 // The whole logic, wired as the program wires it, on ports without a desktop.
 class QuillmongerTest : public testing::Test {
@@ -55,27 +62,35 @@ class QuillmongerTest : public testing::Test {
   }
 
   quillmonger::Quillmonger& makeRoot() {
-    root = std::make_unique<quillmonger::Quillmonger>(quillmonger::Quillmonger::Platform{runLoop,
-                                                                                         queue,
-                                                                                         notificationCenter,
-                                                                                         settings.defaults,
-                                                                                         shortcuts,
-                                                                                         context,
-                                                                                         pasteboard,
-                                                                                         bundleProvider,
-                                                                                         bundles,
-                                                                                         naming,
-                                                                                         pictures,
-                                                                                         testsupport::englishText,
-                                                                                         permissions,
-                                                                                         sauce,
-                                                                                         pasteKeys,
-                                                                                         eventMonitor,
-                                                                                         application,
-                                                                                         gettingStartedWindow,
-                                                                                         appWindow,
-                                                                                         settingsWindow,
-                                                                                         picker});
+    root = std::make_unique<quillmonger::Quillmonger>(quillmonger::Quillmonger::Platform{
+        runLoop,
+        queue,
+        notificationCenter,
+        settings.defaults,
+        shortcuts,
+        context,
+        pasteboard,
+        bundleProvider,
+        bundles,
+        naming,
+        pictures,
+        testsupport::englishText,
+        permissions,
+        sauce,
+        pasteKeys,
+        eventMonitor,
+        application,
+        gettingStartedWindow,
+        appWindow,
+        settingsWindowController,
+        aboutWindow,
+        previewPanel,
+        motion,
+        picker,
+        statusBar,
+        updater,
+        [](std::string_view name, std::string_view) { return std::optional(std::string(name)); },
+        loudspeaker.factory()});
     settle();
     return *root;
   }
@@ -134,8 +149,14 @@ class QuillmongerTest : public testing::Test {
   testsupport::FakeApplication application{log};
   testsupport::FakeWindow gettingStartedWindow{"guide", log};
   testsupport::FakeWindow appWindow{"history", log};
-  testsupport::FakeWindow settingsWindow{"settings", log};
+  testsupport::FakeSettingsWindowController settingsWindowController{log};
+  testsupport::FakeWindow aboutWindow{"about", log};
+  testsupport::FakePanel previewPanel{"preview", log};
+  testsupport::FakeMotionPreference motion;
   testsupport::FakeAppPicker picker;
+  testsupport::FakeStatusBar statusBar;
+  quillmonger::UnconfiguredUpdater updater;
+  testsupport::FakeLoudspeaker loudspeaker;
   foundation::Subscription activated =
       notificationCenter.observe("ClipboardActivated", [this](const auto&) { log.emplace_back("ClipboardActivated"); });
   std::unique_ptr<quillmonger::Quillmonger> root;
@@ -150,6 +171,7 @@ TEST_F(QuillmongerTest, ShowsOnlyTheGuideOfAFreshInstallation) {
   EXPECT_EQ(log, (Log{"application regular", "application activate", "guide center", "guide makeKeyAndOrderFront"}));
   EXPECT_EQ(rowCount(), 0U);
   EXPECT_FALSE(hotKeys.isRegistered(activateChord));
+  EXPECT_FALSE(statusBar.isItemThere());
 }
 
 TEST_F(QuillmongerTest, EndsTheGuideWithTheNormalStartAndTheHistory) {
@@ -160,8 +182,8 @@ TEST_F(QuillmongerTest, EndsTheGuideWithTheNormalStartAndTheHistory) {
   root->finishGettingStarted();
   settle();
 
-  EXPECT_EQ(log, (Log{"guide orderOut", "application accessory", "settings orderOut", "application activate",
-                      "history center", "history makeKeyAndOrderFront", "ClipboardActivated"}));
+  EXPECT_EQ(log, (Log{"guide orderOut", "application accessory", "settings orderOut", "about orderOut",
+                      "application activate", "history center", "history makeKeyAndOrderFront", "ClipboardActivated"}));
   EXPECT_FALSE(settings.defaults[keys::firstLaunch]);
   EXPECT_TRUE(hotKeys.isRegistered(activateChord));
 }
@@ -202,8 +224,8 @@ TEST_F(QuillmongerTest, ShowsAndTogglesTheHistoryOnceTheGuideIsOver) {
   root->show();
   settle();
 
-  EXPECT_EQ(log, (Log{"history orderOut", "application hide", "settings orderOut", "application activate",
-                      "history center", "history makeKeyAndOrderFront", "ClipboardActivated"}));
+  EXPECT_EQ(log, (Log{"history orderOut", "application hide", "settings orderOut", "about orderOut",
+                      "application activate", "history center", "history makeKeyAndOrderFront", "ClipboardActivated"}));
 }
 
 TEST_F(QuillmongerTest, CapturesAtTheGuidesEndWhatWasCopiedMeanwhile) {
@@ -382,16 +404,6 @@ TEST_F(QuillmongerTest, ShowsTheSettingsAlsoWithoutTheHistory) {
   EXPECT_EQ(log, settingsShown);
 }
 
-TEST_F(QuillmongerTest, LeavesTheSettingsWhereTheyAreWhenTheyAreShownAlready) {
-  start();
-  root->showSettings();
-  log.clear();
-
-  root->showSettings();
-
-  EXPECT_EQ(log, (Log{"history orderOut", "application activate", "settings makeKeyAndOrderFront"}));
-}
-
 TEST_F(QuillmongerTest, ShowsTheSettingsBeforeTheGuideIsOver) {
   settings.defaults.set(keys::firstLaunch, true);
   start();
@@ -411,7 +423,7 @@ TEST_F(QuillmongerTest, ClosesTheSettingsAndShowsTheHistoryForTheChord) {
   pressChord();
 
   EXPECT_EQ(log, shown);
-  EXPECT_FALSE(settingsWindow.isVisible());
+  EXPECT_FALSE(settingsWindowController.window().isVisible());
 }
 
 TEST_F(QuillmongerTest, KeepsTheSettingsWhenTheUserGoesToAnotherApplication) {
@@ -483,6 +495,60 @@ TEST_F(QuillmongerTest, CountsEachPasteOfItsLife) {
   settle();
 
   EXPECT_EQ(settings.defaults[keys::numberOfPastes], 2);
+}
+
+TEST_F(QuillmongerTest, ShowsItsStatusItemFromTheNormalStartOn) {
+  start();
+
+  EXPECT_TRUE(statusBar.isItemThere());
+  EXPECT_EQ(statusBar.image(), "MenuBarImage");
+}
+
+TEST_F(QuillmongerTest, ShowsItsWindowsFromTheStatusMenu) {
+  start();
+  log.clear();
+
+  statusBar.choose(2);
+  settle();
+  EXPECT_EQ(log, shown);
+  log.clear();
+  statusBar.choose(2);
+  EXPECT_EQ(log, dismissed);
+  log.clear();
+  statusBar.press(",");
+  EXPECT_EQ(log, settingsShown);
+  log.clear();
+  statusBar.choose(0);
+
+  EXPECT_TRUE(aboutWindow.isVisible());
+}
+
+TEST_F(QuillmongerTest, KeepsNothingWhileTheStatusMenuSaysIncognito) {
+  start();
+
+  statusBar.choose(7);
+  copy("secret");
+
+  EXPECT_EQ(rowCount(), 0U);
+}
+
+TEST_F(QuillmongerTest, LetsACopyBeSeenAndHeard) {
+  start();
+
+  copy("hello");
+
+  EXPECT_FALSE(statusBar.offsets().empty());
+  ASSERT_EQ(loudspeaker.sounds().size(), 1U);
+  EXPECT_EQ(loudspeaker.sounds()[0].place, "air_pump_06");
+}
+
+TEST_F(QuillmongerTest, PlaysTheActivationSoundWhenTheHistoryOpens) {
+  start();
+
+  pressChord();
+
+  ASSERT_EQ(loudspeaker.sounds().size(), 1U);
+  EXPECT_EQ(loudspeaker.sounds()[0].place, "air_pump_short");
 }
 
 TEST_F(QuillmongerTest, ShowsNothingOnceItIsGone) {
