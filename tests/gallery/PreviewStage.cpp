@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QLinearGradient>
 #include <QPainter>
+#include <QSurfaceFormat>
 #include <algorithm>
 
 #include "Quillmonger/history/view/ImageCache.h"
@@ -77,6 +78,9 @@ void PreviewStage::load() {
 QQuickView& PreviewStage::view() {
   if (!m_view) {
     m_view = std::make_unique<QQuickView>(&m_engine, nullptr);
+    QSurfaceFormat format = m_view->format();
+    format.setAlphaBufferSize(8);
+    m_view->setFormat(format);
     m_view->setColor(Qt::transparent);
     m_view->setResizeMode(QQuickView::SizeRootObjectToView);
     m_view->resize(600, 445);

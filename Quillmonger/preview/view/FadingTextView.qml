@@ -10,8 +10,16 @@ ListView {
     required property PreviewModel preview
     required property Theme theme
 
+    // The keyboard came to the list by a click, which needs no ring to show it.
+    property bool isPointedAt: false
+
     readonly property real textTop: headerItem ? headerItem.y + headerItem.height : 0
     readonly property real textBottom: footerItem ? footerItem.y : textTop
+
+    function point() {
+        isPointedAt = true
+        forceActiveFocus(Qt.MouseFocusReason)
+    }
 
     function scrollBy(distance: real) {
         contentY += distance
@@ -24,6 +32,7 @@ ListView {
     boundsBehavior: Flickable.StopAtBounds
     keyNavigationEnabled: false
     activeFocusOnTab: true
+    onActiveFocusChanged: isPointedAt = isPointedAt && activeFocus
     Accessible.role: Accessible.Pane
     Accessible.name: qsTrId("preview_text")
     Accessible.focusable: true
@@ -34,7 +43,7 @@ ListView {
         selection: list.preview.selection
         theme: list.theme
         partAt: height => list.itemAt(list.width / 2, height)
-        onPressed: list.forceActiveFocus()
+        onPressed: list.point()
     }
 
     footer: Item {

@@ -63,6 +63,8 @@ Column {
                     right: copy.left; rightMargin: 4
                     verticalCenter: parent.verticalCenter
                 }
+                // As the layout, not as the text, runs.
+                horizontalAlignment: TextEdit.AlignLeft
                 readOnly: true
                 selectByMouse: true
                 wrapMode: TextEdit.Wrap

@@ -78,6 +78,7 @@ Item {
     FocusRing {
         anchors.margins: 2
         radius: 6
+        visible: text.Window.activeFocusItem === text && !text.isPointedAt
         control: text
         theme: content.theme
     }

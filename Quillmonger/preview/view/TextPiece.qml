@@ -47,7 +47,12 @@ TextEdit {
     selectedTextColor: theme.selectedPrimary
     Accessible.role: Accessible.StaticText
     Accessible.name: text
-    Component.onCompleted: showSelection()
+    Component.onCompleted: {
+        directions.apply(textDocument)
+        showSelection()
+    }
+
+    ParagraphDirections { id: directions }
 
     Connections {
         target: part.selection
