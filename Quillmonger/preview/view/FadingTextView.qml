@@ -13,7 +13,7 @@ ListView {
     // The keyboard came to the list by a click, which needs no ring to show it.
     property bool isPointedAt: false
 
-    readonly property real textTop: headerItem ? headerItem.y + headerItem.height : 0
+    readonly property real textTop: originY + (headerItem ? headerItem.height : 0)
     readonly property real textBottom: footerItem ? footerItem.y : textTop
 
     function point() {
@@ -31,6 +31,11 @@ ListView {
     clip: true
     boundsBehavior: Flickable.StopAtBounds
     keyNavigationEnabled: false
+    // No piece has the keyboard instead of the list.
+    currentIndex: -1
+    // The height of the whole text counts where its end fades out. There are few pieces then, unless the characters of
+    // the text are absurdly long.
+    cacheBuffer: preview.isTextHidden && count <= 128 ? 1000000 : 400
     activeFocusOnTab: true
     onActiveFocusChanged: isPointedAt = isPointedAt && activeFocus
     Accessible.role: Accessible.Pane
@@ -62,6 +67,7 @@ ListView {
     // From full at 99 hundredths of the text's height to nothing half a hundredth below.
     Rectangle {
         objectName: "TextFade"
+        parent: list.contentItem
         y: list.textBottom - height
         z: 1
         width: list.width

@@ -63,7 +63,8 @@ void PreviewModel::takeContent(const PreviewContent& content) {
   m_dateRows = date != nullptr ? rows(quillmonger::dateRows(date->date)) : QVariantList();
   m_colorRows = color != nullptr ? rows(quillmonger::colorRows(*color)) : QVariantList();
   m_selection.clear();
-  m_text.setPieces(content.text);
+  // A view lets go of a whole text in one step; changes to a list would reach it while it still lays out the old one.
+  const auto before = std::exchange(m_text, std::make_unique<TextPiecesModel>(content.text));
   emit contentChanged();
 }
 
@@ -96,15 +97,15 @@ void PreviewModel::copyJson(JsonForm form) { m_with.copying.copyJson(m_with.prev
 
 void PreviewModel::copySelection() {
   if (m_selection.isEmpty()) return;
-  m_with.copying.copy([pieces = m_text.pieces(), range = m_selection.range()] { return selectedText(pieces, range); });
+  m_with.copying.copy([pieces = m_text->pieces(), range = m_selection.range()] { return selectedText(pieces, range); });
 }
 
 void PreviewModel::selectAll() {
-  const int last = m_text.rowCount() - 1;
+  const int last = m_text->rowCount() - 1;
   if (last < 0) return;
   m_selection.begin(0, 0);
   m_selection.extend(last,
-                     static_cast<int>(m_text.data(m_text.index(last), TextPiecesModel::pieceRole).toString().size()));
+                     static_cast<int>(m_text->data(m_text->index(last), TextPiecesModel::pieceRole).toString().size()));
 }
 
 }  // namespace quillmonger

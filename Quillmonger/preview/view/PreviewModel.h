@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QVariantList>
 #include <functional>
+#include <memory>
 #include <vector>
 
 #include "Defaults/Defaults.h"
@@ -30,7 +31,7 @@ class PreviewModel final : public QObject {
   Q_PROPERTY(QVariantList colorRows READ colorRows NOTIFY contentChanged)
   Q_PROPERTY(bool hasJson READ hasJson NOTIFY contentChanged)
   Q_PROPERTY(bool isTextHidden READ isTextHidden NOTIFY contentChanged)
-  Q_PROPERTY(TextPiecesModel* text READ text CONSTANT)
+  Q_PROPERTY(TextPiecesModel* text READ text NOTIFY contentChanged)
   Q_PROPERTY(TextSelection* selection READ selection CONSTANT)
   Q_PROPERTY(QString details READ details NOTIFY contentChanged)
   Q_PROPERTY(QString iconPath READ iconPath NOTIFY footerChanged)
@@ -65,7 +66,7 @@ class PreviewModel final : public QObject {
   [[nodiscard]] QVariantList colorRows() const { return m_colorRows; }
   [[nodiscard]] bool hasJson() const;
   [[nodiscard]] bool isTextHidden() const { return m_with.preview.content().value().isTextHidden; }
-  [[nodiscard]] TextPiecesModel* text() { return &m_text; }
+  [[nodiscard]] TextPiecesModel* text() { return m_text.get(); }
   [[nodiscard]] TextSelection* selection() { return &m_selection; }
   [[nodiscard]] QString details() const;
   /// The source application's desktop entry; empty when there is none.
@@ -98,7 +99,7 @@ class PreviewModel final : public QObject {
   void copyJson(JsonForm form);
 
   Collaborators m_with;
-  TextPiecesModel m_text;
+  std::unique_ptr<TextPiecesModel> m_text;
   TextSelection m_selection;
   QVariantList m_dateRows;
   QVariantList m_colorRows;

@@ -1,8 +1,5 @@
 #include "Quillmonger/preview/view/TextPiecesModel.h"
 
-#include <algorithm>
-#include <utility>
-
 #include "Quillmonger/history/view/RowLine.h"
 
 namespace quillmonger {
@@ -12,7 +9,7 @@ int TextPiecesModel::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant TextPiecesModel::data(const QModelIndex& index, int role) const {
-  if (role != pieceRole || !checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
+  if (role != pieceRole || !index.isValid()) return {};
   QString text = pieceText(m_pieces, static_cast<std::size_t>(index.row()));
   const bool isLast = index.row() + 1 == rowCount();
   if (!isLast && text.endsWith(u'\n')) text.chop(1);
@@ -22,12 +19,6 @@ QVariant TextPiecesModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> TextPiecesModel::roleNames() const { return {{pieceRole, "piece"}}; }
-
-void TextPiecesModel::setPieces(TextPieces pieces) {
-  beginResetModel();
-  m_pieces = std::move(pieces);
-  endResetModel();
-}
 
 QString pieceText(const TextPieces& pieces, std::size_t index) {
   QString text = QString::fromStdString(pieces.piece(index));

@@ -25,6 +25,11 @@ class PreviewText : public testing::Test {
       m_stage.view();
     }
   }
+  // Pieces that aren't seen yet come one by one.
+  [[nodiscard]] bool isLaidOut() {
+    const auto count = list()->property("count").toUInt();
+    return QTest::qWaitFor([this, count] { return m_stage.findAll("TextPiece").size() == count; });
+  }
   void activate() {
     m_stage.view().requestActivate();
     ASSERT_TRUE(QTest::qWaitFor([this] { return m_stage.view().isActive(); }));
@@ -80,12 +85,15 @@ TEST_F(PreviewText, ShowsNoNoticeWhenLongTextsAreNotHidden) {
 
 TEST_F(PreviewText, FadesOverTheLastHundredthOfItsHeight) {
   show(lines(4000));
+  ASSERT_TRUE(isLaidOut());
 
   goToTheEnd();
 
   QQuickItem* fade = m_stage.find("TextFade");
   ASSERT_NE(fade, nullptr);
-  const double height = list()->property("textBottom").toReal() - list()->property("textTop").toReal();
+  double height = 0;
+  for (QQuickItem* piece : m_stage.findAll("TextPiece"))
+    height += piece->height();
   EXPECT_NEAR(fade->height(), height / 100, 0.5);
   EXPECT_NEAR(fade->y() + fade->height(), list()->property("textBottom").toReal(), 0.5);
   EXPECT_GT(fade->height(), 20);
@@ -93,6 +101,7 @@ TEST_F(PreviewText, FadesOverTheLastHundredthOfItsHeight) {
 
 TEST_F(PreviewText, IsHiddenInTheLastHalfHundredthOfItsHeight) {
   show(lines(4000));
+  ASSERT_TRUE(isLaidOut());
   goToTheEnd();
   QQuickItem* fade = m_stage.find("TextFade");
 
