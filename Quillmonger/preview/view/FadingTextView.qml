@@ -69,7 +69,8 @@ ListView {
         objectName: "TextFade"
         parent: list.contentItem
         y: list.textBottom - height
-        z: 1
+        // The list has its pieces at 1.
+        z: 2
         width: list.width
         height: (list.textBottom - list.textTop) * 0.01
         visible: list.preview.isTextHidden
