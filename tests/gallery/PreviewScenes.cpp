@@ -4,6 +4,7 @@
 #include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <QPainter>
+#include <QPainterPath>
 #include <QTest>
 #include <functional>
 #include <vector>
@@ -59,7 +60,8 @@ void selectAcrossPieces(PreviewStage& stage) {
 
 const char* const mixedScripts =
     "مرحبا بالعالم، هذا نص عربي مع 123 أرقام وكلمات إضافية حتى يلتف السطر\n\nשלום עולם and some English\n\n"
-    "漢字とひらがなとカタカナが混ざった文章です。中文字符也可以。한국어도.\n\n👩‍👩‍👧‍👦 family, 🏳️‍🌈 "
+    "漢字とひらがなとカタカナが混ざった文章です。中文字符也可以。한국어도.\n\n👩‍👩‍👧‍👦 family, "
+    "🏳️‍🌈 "
     "flag, "
     "👍🏽 thumb\n\n"
     "bell \a escape \x1b[31m "
@@ -105,6 +107,10 @@ QImage picture(PreviewStage& stage) {
   picture.fill(QColor(0x7f, 0x8f, 0xa6));
   QPainter painter(&picture);
   painter.scale(scale, scale);
+  painter.setRenderHint(QPainter::Antialiasing);
+  QPainterPath corners;
+  corners.addRoundedRect(QRectF(10, 10, paneWidth, 445), 15, 15);
+  painter.setClipPath(corners);
   painter.drawImage(QRectF(10, 10, paneWidth, 445), window, QRectF(0, 0, paneWidth * scale, 445 * scale));
   return picture;
 }

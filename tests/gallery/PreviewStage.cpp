@@ -4,7 +4,6 @@
 #include <QCoreApplication>
 #include <QLinearGradient>
 #include <QPainter>
-#include <QSurfaceFormat>
 #include <algorithm>
 
 #include "Quillmonger/history/view/ImageCache.h"
@@ -78,10 +77,6 @@ void PreviewStage::load() {
 QQuickView& PreviewStage::view() {
   if (!m_view) {
     m_view = std::make_unique<QQuickView>(&m_engine, nullptr);
-    QSurfaceFormat format = m_view->format();
-    format.setAlphaBufferSize(8);
-    m_view->setFormat(format);
-    m_view->setColor(Qt::transparent);
     m_view->setResizeMode(QQuickView::SizeRootObjectToView);
     m_view->resize(600, 445);
     m_view->setInitialProperties(

@@ -12,9 +12,19 @@ Item {
     // A taller picture is shown whole within it: a strip would be as long as a book.
     readonly property real tallestPicture: 8 * height
 
-    component Panel: Loader {
+    component Panel: Item {
+        property alias active: loader.active
+        property alias view: loader.sourceComponent
+
         width: parent.width
+        height: loader.height + loader.y
         visible: active
+
+        Loader {
+            id: loader
+            y: 6
+            width: parent.width
+        }
     }
 
     FadingTextView {
@@ -44,28 +54,22 @@ Item {
                 Accessible.name: qsTrId("accessibility_picture")
             }
 
-            Item {
-                width: 1
-                height: 6
-                visible: parent.hasPanels
-            }
-
             Panel {
                 id: date
                 active: content.preview.dateRows.length > 0
-                sourceComponent: OculetDateView { preview: content.preview; theme: content.theme }
+                view: OculetDateView { preview: content.preview; theme: content.theme }
             }
 
             Panel {
                 id: color
                 active: content.preview.colorRows.length > 0
-                sourceComponent: OculetColorView { preview: content.preview; theme: content.theme }
+                view: OculetColorView { preview: content.preview; theme: content.theme }
             }
 
             Panel {
                 id: json
                 active: content.preview.hasJson
-                sourceComponent: OculetJsonView { preview: content.preview; theme: content.theme }
+                view: OculetJsonView { preview: content.preview; theme: content.theme }
             }
         }
 
