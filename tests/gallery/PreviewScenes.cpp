@@ -6,9 +6,14 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QTest>
+#include <QTranslator>
+#include <algorithm>
 #include <functional>
+#include <string>
+#include <string_view>
 #include <vector>
 
+#include "Quillmonger/resources/Texts.h"
 #include "Quillmonger/settings/SettingsKeys.h"
 #include "tests/gallery/PreviewStage.h"
 
@@ -58,9 +63,21 @@ void selectAcrossPieces(PreviewStage& stage) {
   QTest::mouseRelease(&stage.view(), Qt::LeftButton, {}, start + QPoint(120, 200));
 }
 
+// A language whose texts are twice as long.
+class LongTexts final : public QTranslator {
+ public:
+  QString translate(const char* context, const char* key, const char* disambiguation, int count) const override {
+    const QString text = quillmonger::Texts().translate(context, key, disambiguation, count);
+    return text.isEmpty() || text.contains(u'{') ? text : text + u' ' + text;
+  }
+  [[nodiscard]] bool isEmpty() const override { return false; }
+};
+
 const char* const mixedScripts =
     "مرحبا بالعالم، هذا نص عربي مع 123 أرقام وكلمات إضافية حتى يلتف السطر\n\nשלום עולם and some English\n\n"
-    "漢字とひらがなとカタカナが混ざった文章です。中文字符也可以。한국어도.\n\n👩‍👩‍👧‍👦 family, "
+    "漢字とひらがなとカタカナが混ざった文章です。中文字符也可以。한국어도."
+    "\n\n👩‍👩‍👧‍👦 "
+    "family, "
     "🏳️‍🌈 "
     "flag, "
     "👍🏽 thumb\n\n"
@@ -136,8 +153,16 @@ void save(const Scene& scene, const QDir& folder, quillmonger::ColorScheme schem
 void picturePreview(const QDir& folder, quillmonger::ColorScheme scheme) {
   for (const Scene& scene : scenes())
     save(scene, folder, scheme);
+  LongTexts longTexts;
+  QCoreApplication::installTranslator(&longTexts);
+  for (const std::string_view name : {"empty", "date-tip", "json", "long-end"}) {
+    const auto scene = std::ranges::find(scenes(), name, &Scene::name);
+    const std::string doubled = "doubled-" + std::string(name);
+    save({doubled.c_str(), scene->item, scene->then}, folder, scheme);
+  }
+  QCoreApplication::removeTranslator(&longTexts);
   QGuiApplication::setLayoutDirection(Qt::RightToLeft);
-  save({"mirrored", scenes()[2].item}, folder, scheme);
+  save({"mirrored", std::ranges::find(scenes(), std::string_view("date"), &Scene::name)->item}, folder, scheme);
   QGuiApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
