@@ -12,6 +12,7 @@ pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb xcb-xfixes xcb-xinput xcb-xte
 pkg_check_modules(XKBCOMMON REQUIRED IMPORTED_TARGET xkbcommon)
 pkg_check_modules(XKBCOMMON_X11 REQUIRED IMPORTED_TARGET xkbcommon-x11)
 pkg_check_modules(GLIB REQUIRED IMPORTED_TARGET glib-2.0)
+pkg_check_modules(GIO REQUIRED IMPORTED_TARGET gio-2.0)
 
 set(QUILLMONGER_OUTSIDE_posix_INCLUDES "^(sys/.*|arpa/.*|netinet/.*|dirent|errno|fcntl|poll|pwd|sched|signal|spawn|time|unistd)(\\.h)?$")
 set(QUILLMONGER_OUTSIDE_posix_LINKS Threads::Threads)
@@ -32,6 +33,8 @@ set(QUILLMONGER_OUTSIDE_xkbcommon_x11_INCLUDES "^xkbcommon/xkbcommon-x11\\.h$")
 set(QUILLMONGER_OUTSIDE_xkbcommon_x11_LINKS PkgConfig::XKBCOMMON_X11)
 set(QUILLMONGER_OUTSIDE_glib_INCLUDES "^glib\\.h$")
 set(QUILLMONGER_OUTSIDE_glib_LINKS PkgConfig::GLIB)
+set(QUILLMONGER_OUTSIDE_gio_INCLUDES "^gio/gio\\.h$")
+set(QUILLMONGER_OUTSIDE_gio_LINKS PkgConfig::GIO)
 set(QUILLMONGER_OUTSIDE_qt_INCLUDES "^(Q[A-Za-z]+|Qt[A-Za-z]+/.*|qpa/.*\\.h)$")
 set(QUILLMONGER_OUTSIDE_qt_LINKS Qt6::Core Qt6::Gui Qt6::Qml Qt6::Quick Qt6::Svg)
 
