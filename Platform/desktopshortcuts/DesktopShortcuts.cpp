@@ -17,8 +17,8 @@ namespace platform {
 
 namespace {
 
-// Many times what a desktop writes.
-constexpr std::size_t largestFile = 1024 * 1024;
+// Several times what a desktop writes.
+constexpr std::size_t largestFile = 256 * 1024;
 
 DesktopShortcuts::Entry entryOf(const Accelerator& accelerator, const KeyPlaces& places) {
   DesktopShortcuts::Entry entry{true, std::nullopt, accelerator.modifiers};

@@ -1,7 +1,6 @@
 #include "Platform/desktopshortcuts/XfceAccelerators.h"
 
 #include <map>
-#include <ranges>
 #include <utility>
 
 #include "Platform/desktopshortcuts/Markup.h"
@@ -68,8 +67,8 @@ bool readInto(Providers& providers, const std::string& file) {
 std::optional<std::vector<Accelerator>> xfceAccelerators(const std::vector<std::string>& files) {
   Providers providers;
   bool isRead = false;
-  for (const std::string& file : files | std::views::reverse)
-    isRead = readInto(providers, file) || isRead;
+  for (auto file = files.rbegin(); file != files.rend(); ++file)
+    isRead = readInto(providers, *file) || isRead;
   if (!isRead) return std::nullopt;
   std::vector<Accelerator> accelerators;
   for (const auto& [name, provider] : providers) {
