@@ -12,13 +12,15 @@ namespace {
 using keyboardshortcuts::isTakenBySystem;
 using keyboardshortcuts::Shortcut;
 
-// The schemas of the tests, and settings in memory: the library reads both variables once.
+// The schemas of the tests, and settings in memory: the library reads both variables once. A misuse of it, which it
+// would only complain of, ends the test.
 class SettingsEnvironment final : public testing::Environment {
  public:
   void SetUp() override {
     setenv("GSETTINGS_SCHEMA_DIR", QUILLMONGER_TEST_SCHEMAS, 1);
     setenv("GSETTINGS_BACKEND", "memory", 1);
     setenv("XDG_DATA_DIRS", "/nonexistent", 1);
+    g_log_set_always_fatal(G_LOG_LEVEL_CRITICAL);
   }
 };
 [[maybe_unused]] const auto* const environment = testing::AddGlobalTestEnvironment(new SettingsEnvironment);
