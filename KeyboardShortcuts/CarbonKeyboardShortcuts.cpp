@@ -61,6 +61,12 @@ void CarbonKeyboardShortcuts::setMenuOpen(bool isMenuOpen) {
   if (std::exchange(m_isMenuOpen, isMenuOpen) != isMenuOpen) updateEventHandler();
 }
 
+bool CarbonKeyboardShortcuts::isHeldByAnother(const Shortcut& shortcut) const {
+  if (!fits32Bits(shortcut.carbonKeyCode) || !fits32Bits(shortcut.carbonModifiers)) return false;
+  return m_service.isHeldByAnother(static_cast<std::uint32_t>(shortcut.carbonKeyCode),
+                                   static_cast<std::uint32_t>(shortcut.carbonModifiers));
+}
+
 void CarbonKeyboardShortcuts::updateEventHandler() {
   if (m_isEnabled && !m_isMenuOpen) {
     giveAllToService();

@@ -35,6 +35,9 @@ class CarbonKeyboardShortcuts final {
   [[nodiscard]] bool isMenuOpen() const { return m_isMenuOpen; }
   void setMenuOpen(bool isMenuOpen);
 
+  /// Whether another program holds the chord.
+  [[nodiscard]] bool isHeldByAnother(const Shortcut& shortcut) const;
+
  private:
   void updateEventHandler();
   [[nodiscard]] bool giveToService(HotKey& hotKey);

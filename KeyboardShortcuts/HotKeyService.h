@@ -42,6 +42,9 @@ class HotKeyService {
   /// False when another program holds the chord, or the service can't register it.
   virtual bool registerHotKey(const HotKeyIdentifier& identifier, std::uint32_t keyCode, std::uint32_t modifiers) = 0;
   virtual void unregisterHotKey(const HotKeyIdentifier& identifier) = 0;
+  /// Whether another program holds the chord at this moment. False for one that is registered here, and for one that no
+  /// program can hold.
+  [[nodiscard]] virtual bool isHeldByAnother(std::uint32_t keyCode, std::uint32_t modifiers) = 0;
 };
 
 }  // namespace keyboardshortcuts

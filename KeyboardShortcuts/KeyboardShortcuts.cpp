@@ -12,9 +12,9 @@ std::string storageKey(const Name& name) { return "KeyboardShortcuts_" + name.ra
 
 }  // namespace
 
-KeyboardShortcuts::KeyboardShortcuts(HotKeyService& service, defaults::UserDefaults& store,
-                                     foundation::NotificationCenter& notificationCenter)
-    : m_store(store), m_notificationCenter(notificationCenter), m_hotKeys(service) {
+KeyboardShortcuts::KeyboardShortcuts(HotKeyService& service, const SymbolicHotKeys& symbolicHotKeys,
+                                     defaults::UserDefaults& store, foundation::NotificationCenter& notificationCenter)
+    : m_symbolicHotKeys(symbolicHotKeys), m_store(store), m_notificationCenter(notificationCenter), m_hotKeys(service) {
   const auto observe = [&](const char* name, const std::function<void()>& action) {
     m_observations.push_back(notificationCenter.observe(name, [action](const auto& /*told*/) { action(); }));
   };
@@ -54,6 +54,10 @@ void KeyboardShortcuts::reset(const std::vector<Name>& names) {
     declare(name);
     changed(name);
   }
+}
+
+bool KeyboardShortcuts::isTakenBySystem(const Shortcut& shortcut) const {
+  return keyboardshortcuts::isTakenBySystem(shortcut, m_symbolicHotKeys) || m_hotKeys.isHeldByAnother(shortcut);
 }
 
 foundation::Subscription KeyboardShortcuts::onKeyDown(const Name& name, Handler handler) {

@@ -12,6 +12,7 @@
 #include "Foundation/Subscription.h"
 #include "KeyboardShortcuts/CarbonKeyboardShortcuts.h"
 #include "KeyboardShortcuts/Name.h"
+#include "KeyboardShortcuts/SymbolicHotKeys.h"
 
 namespace defaults {
 class UserDefaults;
@@ -34,7 +35,7 @@ class KeyboardShortcuts final {
   static constexpr auto menuDidEndTracking = "NSMenuDidEndTrackingNotification";
 
   /// All outlive this object.
-  KeyboardShortcuts(HotKeyService& service, defaults::UserDefaults& store,
+  KeyboardShortcuts(HotKeyService& service, const SymbolicHotKeys& symbolicHotKeys, defaults::UserDefaults& store,
                     foundation::NotificationCenter& notificationCenter);
   KeyboardShortcuts(const KeyboardShortcuts&) = delete;
   KeyboardShortcuts& operator=(const KeyboardShortcuts&) = delete;
@@ -48,6 +49,9 @@ class KeyboardShortcuts final {
   void setShortcut(const std::optional<Shortcut>& shortcut, const Name& name);
   /// Puts the names back on their defaults.
   void reset(const std::vector<Name>& names);
+
+  /// Whether the desktop itself reacts to the chord, or another program holds it.
+  [[nodiscard]] bool isTakenBySystem(const Shortcut& shortcut) const;
 
   /// Adds a handler of the press or release of the name's chord, until the hold is gone.
   foundation::Subscription onKeyDown(const Name& name, Handler handler);
@@ -79,6 +83,7 @@ class KeyboardShortcuts final {
   void renewHotKeys();
   void run(EventType type, const Shortcut& fired);
 
+  const SymbolicHotKeys& m_symbolicHotKeys;
   defaults::UserDefaults& m_store;
   foundation::NotificationCenter& m_notificationCenter;
   CarbonKeyboardShortcuts m_hotKeys;

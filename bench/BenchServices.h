@@ -1,10 +1,13 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "KeyboardShortcuts/HotKeyService.h"
+#include "KeyboardShortcuts/SymbolicHotKeys.h"
 #include "Quillmonger/capture/ClipboardManaging.h"
 #include "Quillmonger/input/LocalEventMonitoring.h"
 
@@ -31,6 +34,12 @@ class NoHotKeys final : public keyboardshortcuts::HotKeyService {
     return false;
   }
   void unregisterHotKey(const keyboardshortcuts::HotKeyIdentifier& /*identifier*/) override {}
+  [[nodiscard]] bool isHeldByAnother(std::uint32_t /*keyCode*/, std::uint32_t /*modifiers*/) override { return false; }
+};
+
+class NoSymbolicHotKeys final : public keyboardshortcuts::SymbolicHotKeys {
+ public:
+  [[nodiscard]] std::optional<std::vector<Entry>> copySymbolicHotKeys() const override { return std::nullopt; }
 };
 
 class NoKeyEvents final : public quillmonger::LocalEventMonitoring {

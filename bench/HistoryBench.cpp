@@ -85,8 +85,9 @@ class History final {
   platform::QtPictureReading m_pictures;
   NoKeyEvents m_keyEvents;
   NoHotKeys m_hotKeys;
+  const NoSymbolicHotKeys m_symbolicHotKeys;
   foundation::NotificationCenter m_notificationCenter;
-  keyboardshortcuts::KeyboardShortcuts m_shortcuts{m_hotKeys, m_suite, m_notificationCenter};
+  keyboardshortcuts::KeyboardShortcuts m_shortcuts{m_hotKeys, m_symbolicHotKeys, m_suite, m_notificationCenter};
   SearchViewModel m_searchViewModel{m_runLoop, m_defaults};
   SearchManager<ClipboardItemViewModel> m_searchManager{m_queue, m_runLoop, m_defaults};
   std::unique_ptr<ClipboardViewModel> m_viewModel;

@@ -30,18 +30,24 @@ void addOnce(std::vector<std::filesystem::path>& folders, const std::filesystem:
   if (std::ranges::find(folders, folder) == folders.end()) folders.push_back(folder);
 }
 
-std::vector<std::filesystem::path> searchFolders(const XdgFolders::Environment& environment,
-                                                 const std::filesystem::path& dataHome) {
-  std::vector<std::filesystem::path> folders{dataHome};
-  std::string list = environment("XDG_DATA_DIRS").value_or("");
-  if (list.empty()) list = "/usr/local/share:/usr/share";
-  std::string_view rest = list;
+// The user's own folder, then those that the variable lists.
+std::vector<std::filesystem::path> searchFolders(const std::filesystem::path& own,
+                                                 const std::optional<std::string>& variable,
+                                                 std::string_view standard) {
+  std::vector<std::filesystem::path> folders{own};
+  std::string_view rest = variable.has_value() && !variable->empty() ? std::string_view(*variable) : standard;
   while (!rest.empty()) {
     const auto end = std::min(rest.find(':'), rest.size());
     const auto part = rest.substr(0, end);
     if (part.starts_with('/')) addOnce(folders, std::filesystem::path(part));
     rest.remove_prefix(std::min(end + 1, rest.size()));
   }
+  return folders;
+}
+
+std::vector<std::filesystem::path> dataFolders(const XdgFolders::Environment& environment,
+                                               const std::filesystem::path& dataHome) {
+  auto folders = searchFolders(dataHome, environment("XDG_DATA_DIRS"), "/usr/local/share:/usr/share");
   // What these two install is listed by the session's XDG_DATA_DIRS, but not by that of every start from elsewhere.
   addOnce(folders, dataHome / "flatpak/exports/share");
   addOnce(folders, "/var/lib/flatpak/exports/share");
@@ -54,13 +60,15 @@ std::vector<std::filesystem::path> searchFolders(const XdgFolders::Environment& 
 XdgFolders XdgFolders::fromEnvironment(const Environment& environment) {
   const auto home = homeFolder(environment);
   const auto dataHome = absolutePath(environment, "XDG_DATA_HOME").value_or(home / ".local/share");
+  const auto configHome = absolutePath(environment, "XDG_CONFIG_HOME").value_or(home / ".config");
   const auto runtime = absolutePath(environment, "XDG_RUNTIME_DIR");
   XdgFolders folders;
-  folders.config = absolutePath(environment, "XDG_CONFIG_HOME").value_or(home / ".config") / "quillmonger";
+  folders.config = configHome / "quillmonger";
   folders.data = dataHome / "quillmonger";
   folders.runtime = runtime.has_value() ? *runtime / "quillmonger"
                                         : std::filesystem::path("/tmp/quillmonger-" + std::to_string(getuid()));
-  folders.dataSearch = searchFolders(environment, dataHome);
+  folders.dataSearch = dataFolders(environment, dataHome);
+  folders.configSearch = searchFolders(configHome, environment("XDG_CONFIG_DIRS"), "/etc/xdg");
   return folders;
 }
 

@@ -29,6 +29,8 @@ struct XdgFolders {
   std::filesystem::path runtime;
   /// Where applications are looked for, the most important first: not the program's own.
   std::vector<std::filesystem::path> dataSearch;
+  /// Where the desktop and other programs keep their settings, the user's own folder first.
+  std::vector<std::filesystem::path> configSearch;
 };
 
 /// Makes sure that `folder` is a folder of this user that no one else may enter; makes it and its parents. An error

@@ -1,6 +1,7 @@
 #include "Platform/x11/X11HotKeys.h"
 
 #include <future>
+#include <optional>
 #include <utility>
 
 #include "Foundation/Output.h"
@@ -14,6 +15,12 @@ using keyboardshortcuts::EventType;
 using keyboardshortcuts::HotKeyIdentifier;
 
 constexpr std::chrono::seconds answerTime{2};
+
+std::optional<X11KeyGrabs::Chord> chordOf(std::uint32_t keyCode, std::uint32_t modifiers) {
+  const auto key = evdevKey(keyCode);
+  if (!key) return std::nullopt;
+  return X11KeyGrabs::Chord{static_cast<xcb_keycode_t>(*key + x11KeycodeOffset), modifiers};
+}
 
 }  // namespace
 
@@ -70,12 +77,11 @@ void X11HotKeys::tellRawKey(std::uint32_t keyCode, std::uint32_t modifiers, Even
 }
 
 bool X11HotKeys::registerHotKey(const HotKeyIdentifier& identifier, std::uint32_t keyCode, std::uint32_t modifiers) {
-  const auto key = evdevKey(keyCode);
-  if (!key) return false;
-  const X11KeyGrabs::Chord chord{static_cast<xcb_keycode_t>(*key + x11KeycodeOffset), modifiers};
+  const auto chord = chordOf(keyCode, modifiers);
+  if (!chord) return false;
   const auto isGranted = std::make_shared<std::promise<bool>>();
   auto answer = isGranted->get_future();
-  m_thread->run([this, identifier, chord, isGranted] { isGranted->set_value(m_grabs.add(identifier, chord)); });
+  m_thread->run([this, identifier, chord, isGranted] { isGranted->set_value(m_grabs.add(identifier, *chord)); });
   if (answer.wait_for(answerTime) == std::future_status::ready) return answer.get();
   // Granted after all, the chord would be taken from the other programs for nobody.
   unregisterHotKey(identifier);
@@ -84,6 +90,15 @@ bool X11HotKeys::registerHotKey(const HotKeyIdentifier& identifier, std::uint32_
 
 void X11HotKeys::unregisterHotKey(const HotKeyIdentifier& identifier) {
   m_thread->run([this, identifier] { m_grabs.remove(identifier); });
+}
+
+bool X11HotKeys::isHeldByAnother(std::uint32_t keyCode, std::uint32_t modifiers) {
+  const auto chord = chordOf(keyCode, modifiers);
+  if (!chord) return false;
+  const auto isHeld = std::make_shared<std::promise<bool>>();
+  auto answer = isHeld->get_future();
+  m_thread->run([this, chord, isHeld] { isHeld->set_value(m_grabs.isHeldByAnother(*chord)); });
+  return answer.wait_for(answerTime) == std::future_status::ready && answer.get();
 }
 
 }  // namespace platform

@@ -26,6 +26,7 @@ class X11HotKeys final : public keyboardshortcuts::HotKeyService {
   bool registerHotKey(const keyboardshortcuts::HotKeyIdentifier& identifier, std::uint32_t keyCode,
                       std::uint32_t modifiers) override;
   void unregisterHotKey(const keyboardshortcuts::HotKeyIdentifier& identifier) override;
+  [[nodiscard]] bool isHeldByAnother(std::uint32_t keyCode, std::uint32_t modifiers) override;
 
  private:
   /// Called on the main thread.

@@ -43,6 +43,13 @@ void X11KeyGrabs::remove(const Identifier& identifier) {
   if (!isHeldByUs(removed.mapped())) ungrab(removed.mapped());
 }
 
+bool X11KeyGrabs::isHeldByAnother(const Chord& chord) {
+  if (isHeldByUs(chord)) return false;
+  if (!grab(chord)) return true;
+  ungrab(chord);
+  return false;
+}
+
 void X11KeyGrabs::handle(const xcb_generic_event_t& event) {
   switch (event.response_type & 0x7F) {
     case XCB_KEY_PRESS:
@@ -60,7 +67,8 @@ void X11KeyGrabs::handle(const xcb_generic_event_t& event) {
 }
 
 bool X11KeyGrabs::isHeldByUs(const Chord& chord) const {
-  return std::ranges::any_of(m_chords, [&chord](const auto& entry) { return entry.second == chord; });
+  const auto state = [this](const Chord& it) { return std::pair(it.key, m_modifiers.state(it.serviceModifiers)); };
+  return std::ranges::any_of(m_chords, [&](const auto& entry) { return state(entry.second) == state(chord); });
 }
 
 // All or nothing: a chord that works only while Num Lock is off would be worse than none.

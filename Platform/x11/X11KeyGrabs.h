@@ -27,6 +27,8 @@ class X11KeyGrabs final {
   /// False when another program holds the chord.
   bool add(const Identifier& identifier, const Chord& chord);
   void remove(const Identifier& identifier);
+  /// By a grab that is taken back at once.
+  [[nodiscard]] bool isHeldByAnother(const Chord& chord);
 
   void handle(const xcb_generic_event_t& event);
 

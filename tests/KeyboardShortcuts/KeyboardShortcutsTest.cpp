@@ -7,6 +7,7 @@
 
 #include "Defaults/UserDefaults.h"
 #include "tests/support/FakeHotKeyService.h"
+#include "tests/support/FakeSymbolicHotKeys.h"
 
 namespace {
 
@@ -32,9 +33,10 @@ class KeyboardShortcutsTest : public testing::Test {
   }
 
   FakeHotKeyService service;
+  testsupport::FakeSymbolicHotKeys symbolicHotKeys;
   defaults::UserDefaults store;
   foundation::NotificationCenter notificationCenter;
-  KeyboardShortcuts shortcuts{service, store, notificationCenter};
+  KeyboardShortcuts shortcuts{service, symbolicHotKeys, store, notificationCenter};
   Log log;
   std::vector<foundation::Subscription> holds;
 };
@@ -58,7 +60,7 @@ TEST_F(KeyboardShortcutsTest, KeepsAClearedNameClearedAfterARestart) {
   EXPECT_EQ(store.objectForKey("KeyboardShortcuts_show"), defaults::Object(false));
 
   FakeHotKeyService nextService;
-  KeyboardShortcuts next(nextService, store, notificationCenter);
+  KeyboardShortcuts next(nextService, symbolicHotKeys, store, notificationCenter);
   next.declare(show);
 
   EXPECT_EQ(next.getShortcut(show), std::nullopt);
@@ -268,6 +270,35 @@ TEST_F(KeyboardShortcutsTest, RunsNoHandlerOfADisabledNameWhoseChordAnotherNameH
   service.press(chordV);
 
   EXPECT_EQ(log, Log{"show down"});
+}
+
+TEST_F(KeyboardShortcutsTest, SaysThatAChordOfTheDesktopIsTaken) {
+  symbolicHotKeys.entries->push_back({true, 4, 0x100});
+  symbolicHotKeys.entries->push_back({false, 5, 0x100});
+
+  EXPECT_TRUE(shortcuts.isTakenBySystem({4, 0x100}));
+  EXPECT_FALSE(shortcuts.isTakenBySystem({5, 0x100}));
+}
+
+TEST_F(KeyboardShortcutsTest, SaysThatAChordOfAnotherProgramIsTaken) {
+  service.refuse({4, 0x100});
+
+  EXPECT_TRUE(shortcuts.isTakenBySystem({4, 0x100}));
+  EXPECT_FALSE(shortcuts.isTakenBySystem({4, 0x300}));
+}
+
+TEST_F(KeyboardShortcutsTest, SaysThatAChordOfItsOwnIsNotTaken) {
+  listen(show);
+  service.refuse(chordV);
+
+  EXPECT_FALSE(shortcuts.isTakenBySystem(*show.defaultShortcut));
+}
+
+TEST_F(KeyboardShortcutsTest, SaysThatAChordThatNoServiceCouldHoldIsNotTaken) {
+  service.refuse({0xFFFFFFFF, 0x100});
+
+  EXPECT_FALSE(shortcuts.isTakenBySystem({-1, 0x100}));
+  EXPECT_FALSE(shortcuts.isTakenBySystem({4, std::int64_t{1} << 40}));
 }
 
 }  // namespace

@@ -2,20 +2,16 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/FakeSymbolicHotKeys.h"
+
 namespace {
 
 using namespace keyboardshortcuts;
 
-class TheSystems final : public SymbolicHotKeys {
- public:
-  [[nodiscard]] std::optional<std::vector<Entry>> copySymbolicHotKeys() const override { return entries; }
-  std::optional<std::vector<Entry>> entries = std::vector<Entry>();
-};
-
 constexpr Shortcut chord{9, 0x300};
 
 TEST(SymbolicHotKeys, TakeTheChordOfAnEntryThatIsEnabled) {
-  TheSystems system;
+  testsupport::FakeSymbolicHotKeys system;
   system.entries->push_back({true, 7, 0x300});
   system.entries->push_back({true, 9, 0x300});
 
@@ -23,14 +19,14 @@ TEST(SymbolicHotKeys, TakeTheChordOfAnEntryThatIsEnabled) {
 }
 
 TEST(SymbolicHotKeys, DoNotTakeTheChordOfAnEntryThatIsDisabled) {
-  TheSystems system;
+  testsupport::FakeSymbolicHotKeys system;
   system.entries->push_back({false, 9, 0x300});
 
   EXPECT_FALSE(isTakenBySystem(chord, system));
 }
 
 TEST(SymbolicHotKeys, CompareTheFourModifiersAlone) {
-  TheSystems system;
+  testsupport::FakeSymbolicHotKeys system;
   system.entries->push_back({true, 9, 0x300 | 0x400});
   EXPECT_TRUE(isTakenBySystem(chord, system));
 
@@ -39,7 +35,7 @@ TEST(SymbolicHotKeys, CompareTheFourModifiersAlone) {
 }
 
 TEST(SymbolicHotKeys, TakeNothingByAnEntryThatCannotBeRead) {
-  TheSystems system;
+  testsupport::FakeSymbolicHotKeys system;
   system.entries->push_back({true, std::nullopt, 0x300});
   system.entries->push_back({true, 9, std::nullopt});
 
@@ -47,7 +43,7 @@ TEST(SymbolicHotKeys, TakeNothingByAnEntryThatCannotBeRead) {
 }
 
 TEST(SymbolicHotKeys, TakeNothingWhenTheyCannotBeHad) {
-  TheSystems system;
+  testsupport::FakeSymbolicHotKeys system;
   system.entries.reset();
 
   EXPECT_FALSE(isTakenBySystem(chord, system));

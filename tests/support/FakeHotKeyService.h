@@ -24,6 +24,9 @@ class FakeHotKeyService final : public keyboardshortcuts::HotKeyService {
     return !m_refused.contains({keyCode, modifiers}) && m_hotKeys.emplace(identifier, Chord(keyCode, modifiers)).second;
   }
   void unregisterHotKey(const Identifier& identifier) override { m_hotKeys.erase(identifier); }
+  [[nodiscard]] bool isHeldByAnother(std::uint32_t keyCode, std::uint32_t modifiers) override {
+    return m_refused.contains({keyCode, modifiers}) && !isRegistered({keyCode, modifiers});
+  }
 
   /// From now on another program holds the chord.
   void refuse(Chord chord) { m_refused.insert(chord); }

@@ -11,6 +11,7 @@
 #include "Foundation/NotificationCenter.h"
 #include "KeyboardShortcuts/KeyboardShortcuts.h"
 #include "Platform/dbus/StatusNotifierBar.h"
+#include "Platform/desktopshortcuts/DesktopShortcuts.h"
 #include "Platform/freedesktop/CommandSocket.h"
 #include "Platform/freedesktop/DesktopApplicationBundles.h"
 #include "Platform/freedesktop/DesktopApplicationNaming.h"
@@ -77,6 +78,7 @@ class Composition final {
   std::unique_ptr<platform::X11PasteKeys> m_pasteKeys;
   std::unique_ptr<platform::X11InputSources> m_inputSources;
   platform::X11PostEventAccess m_postEventAccess;
+  platform::DesktopShortcuts m_desktopShortcuts;
   sauce::Sauce m_sauce;
   platform::DesktopApplicationBundles m_applicationBundles;
   platform::DesktopApplicationNaming m_applicationNaming;

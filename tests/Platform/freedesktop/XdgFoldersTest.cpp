@@ -69,6 +69,13 @@ TEST(XdgFolders, NameTheFoldersOfFlatpakAndSnapOnce) {
   EXPECT_EQ(count("/var/lib/snapd/desktop"), 1);
 }
 
+TEST(XdgFolders, LookForTheSettingsOfOthersInTheUsersFolderFirst) {
+  using Paths = std::vector<fs::path>;
+  EXPECT_EQ(foldersOf({{"HOME", "/h"}}).configSearch, (Paths{"/h/.config", "/etc/xdg"}));
+  EXPECT_EQ(foldersOf({{"HOME", "/h"}, {"XDG_CONFIG_HOME", "/c"}, {"XDG_CONFIG_DIRS", "/one:two:/three"}}).configSearch,
+            (Paths{"/c", "/one", "/three"}));
+}
+
 TEST(PrivateFolder, IsMadeForItsUserAlone) {
   const testsupport::TemporaryFolder folder;
   const auto path = folder.path() / "a/b";

@@ -250,6 +250,41 @@ TEST_F(X11HotKeys, RefuseAKeyThatNoKeyboardHas) {
   EXPECT_FALSE(m_hotKeys->registerHotKey(seven, 0xFFFF, shiftAndCommand));
 }
 
+TEST_F(X11HotKeys, SayThatAnotherProgramHoldsAChord) {
+  ASSERT_TRUE(m_user.grab(evdevV, shiftAndSuperState));
+
+  EXPECT_TRUE(m_hotKeys->isHeldByAnother(virtualV, shiftAndCommand));
+}
+
+TEST_F(X11HotKeys, SayThatAnotherProgramHoldsAChordWithALockOn) {
+  ASSERT_TRUE(m_user.grab(evdevV, shiftAndSuperState | XCB_MOD_MASK_LOCK));
+
+  EXPECT_TRUE(m_hotKeys->isHeldByAnother(virtualV, shiftAndCommand));
+}
+
+TEST_F(X11HotKeys, LeaveNothingGrabbedOfAChordThatWasAskedAbout) {
+  EXPECT_FALSE(m_hotKeys->isHeldByAnother(virtualV, shiftAndCommand));
+  EXPECT_FALSE(m_hotKeys->isHeldByAnother(virtualV, shiftAndCommand));
+
+  EXPECT_TRUE(m_runLoop.runUntil([this] { return m_user.grab(evdevV, shiftAndSuperState); }));
+}
+
+TEST_F(X11HotKeys, KeepAChordOfTheirOwnThatWasAskedAbout) {
+  constexpr std::uint32_t bitOfNoModifier = 0x800000;
+  ASSERT_TRUE(m_hotKeys->registerHotKey(seven, virtualV, shiftAndCommand));
+
+  EXPECT_FALSE(m_hotKeys->isHeldByAnother(virtualV, shiftAndCommand));
+  EXPECT_FALSE(m_hotKeys->isHeldByAnother(virtualV, shiftAndCommand | bitOfNoModifier));
+
+  pressChord();
+  releaseChord();
+  EXPECT_TRUE(isTold(2));
+}
+
+TEST_F(X11HotKeys, SayThatNobodyHoldsAKeyThatNoKeyboardHas) {
+  EXPECT_FALSE(m_hotKeys->isHeldByAnother(0xFFFF, shiftAndCommand));
+}
+
 TEST_F(X11HotKeys, AreAbsentWithoutAnXServer) {
   EXPECT_EQ(platform::X11HotKeys::connect(m_runLoop, "/nowhere:0"), nullptr);
 }

@@ -13,6 +13,7 @@
 #include "tests/support/FakeHotKeyService.h"
 #include "tests/support/FakeLocalEventMonitor.h"
 #include "tests/support/FakeStoreContext.h"
+#include "tests/support/FakeSymbolicHotKeys.h"
 #include "tests/support/InlineBackgroundQueue.h"
 #include "tests/support/ItemServices.h"
 #include "tests/support/Records.h"
@@ -92,8 +93,9 @@ class ClipboardViewModelFixture : public testing::Test, protected ItemServices {
   FakeStoreContext context;
   FakeLocalEventMonitor eventMonitor;
   FakeHotKeyService hotKeys;
+  FakeSymbolicHotKeys symbolicHotKeys;
   foundation::NotificationCenter notificationCenter;
-  keyboardshortcuts::KeyboardShortcuts shortcuts{hotKeys, settings.suite, notificationCenter};
+  keyboardshortcuts::KeyboardShortcuts shortcuts{hotKeys, symbolicHotKeys, settings.suite, notificationCenter};
   quillmonger::SearchViewModel searchViewModel{runLoop, settings.defaults};
   quillmonger::SearchManager<quillmonger::ClipboardItemViewModel> searchManager{queue, runLoop, settings.defaults};
   std::optional<quillmonger::ClipboardViewModel> viewModel;

@@ -7,6 +7,7 @@
 #include "tests/support/FakeHotKeyService.h"
 #include "tests/support/FakeLocalEventMonitor.h"
 #include "tests/support/FakeStoreContext.h"
+#include "tests/support/FakeSymbolicHotKeys.h"
 #include "tests/support/ItemServices.h"
 #include "tests/support/Records.h"
 #include "tests/support/ThreadedBackgroundQueue.h"
@@ -27,8 +28,9 @@ TEST(ThreadedSearch, RunsBesideAHistoryThatChanges) {
   testsupport::FakeStoreContext context;
   testsupport::FakeLocalEventMonitor eventMonitor;
   testsupport::FakeHotKeyService hotKeys;
+  const testsupport::FakeSymbolicHotKeys symbolicHotKeys;
   foundation::NotificationCenter notificationCenter;
-  keyboardshortcuts::KeyboardShortcuts shortcuts(hotKeys, settings.suite, notificationCenter);
+  keyboardshortcuts::KeyboardShortcuts shortcuts(hotKeys, symbolicHotKeys, settings.suite, notificationCenter);
   SearchViewModel searchViewModel(runLoop, settings.defaults);
   SearchManager<ClipboardItemViewModel> searchManager(queue, runLoop, settings.defaults);
   for (int age = 0; age < 600; ++age)

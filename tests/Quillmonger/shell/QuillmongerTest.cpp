@@ -28,6 +28,7 @@
 #include "tests/support/FakeSettingsWindowController.h"
 #include "tests/support/FakeStatusBar.h"
 #include "tests/support/FakeStoreContext.h"
+#include "tests/support/FakeSymbolicHotKeys.h"
 #include "tests/support/FakeWindow.h"
 #include "tests/support/InlineBackgroundQueue.h"
 #include "tests/support/ItemServices.h"
@@ -131,7 +132,8 @@ class QuillmongerTest : public testing::Test {
   foundation::NotificationCenter notificationCenter;
   testsupport::TestDefaults settings;
   testsupport::FakeHotKeyService hotKeys;
-  keyboardshortcuts::KeyboardShortcuts shortcuts{hotKeys, settings.suite, notificationCenter};
+  testsupport::FakeSymbolicHotKeys symbolicHotKeys;
+  keyboardshortcuts::KeyboardShortcuts shortcuts{hotKeys, symbolicHotKeys, settings.suite, notificationCenter};
   testsupport::FakeStoreContext context;
   testsupport::FakePasteboard pasteboard{runLoop};
   testsupport::FakeBundleProvider bundleProvider;
