@@ -128,9 +128,9 @@ void ClipboardManager::writeToPasteboard(const ClipboardItem& item, RemoveFormat
     m_with.pasteboard.setData(data, type);
 }
 
-void ClipboardManager::writeToPasteboard(std::string_view text) {
+void ClipboardManager::writeToPasteboard(const foundation::Data& text) {
   startWriting();
-  m_with.pasteboard.setString(text, pasteboardtype::NSPasteboardTypeString);
+  m_with.pasteboard.setData(text, pasteboardtype::NSPasteboardTypeString);
 }
 
 void ClipboardManager::startWriting() {

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "Foundation/Data.h"
 #include "Foundation/NotificationCenter.h"
 #include "Foundation/RunLoop.h"
 #include "Foundation/Subscription.h"
@@ -53,7 +54,7 @@ class ClipboardManager final : public ClipboardManaging {
   void pasteIntoFrontmostApplication() override;
 
   /// Makes `text` the pasteboard's content: something derived from an item, such as another form of a date.
-  void writeToPasteboard(std::string_view text);
+  void writeToPasteboard(const foundation::Data& text);
 
  private:
   using FoundRecord = foundation::Result<Record>;

@@ -110,10 +110,10 @@ std::optional<std::string> ClipboardItemViewModel::appName() const {
 }
 
 std::string ClipboardItemViewModel::details() const {
-  auto line = byteCountText(m_item->dataSize(), m_services->texts) + " • ";
   const auto picture = m_item->image();
   const auto size = picture ? m_services->pictureReading.size(*picture) : std::nullopt;
-  return line + (size ? pictureSizeText(*size) : lineCountText(lineCount(text().view), m_services->texts));
+  if (size) return pictureDetails(m_item->dataSize(), *size, m_services->texts);
+  return textDetails(m_item->dataSize(), lineCount(text().view), m_services->texts);
 }
 
 ClipboardItemViewModel::Answers& ClipboardItemViewModel::answers() const {

@@ -25,6 +25,7 @@ constexpr std::array<Unit, 5> units{{{1e3, 0, "byte_count_kilobytes"},
                                      {1e12, 2, "byte_count_terabytes"},
                                      {1e15, 2, "byte_count_petabytes"}}};
 constexpr double thousand = 1000;
+constexpr const char* detailSeparator = " • ";
 
 double rounded(double number, int decimals) {
   const double scale = std::pow(10.0, decimals);
@@ -86,6 +87,18 @@ std::string pictureSizeText(const PictureSize& size) {
 
 std::string lineCountText(std::size_t count, const foundation::TextLookup& texts) {
   return message(texts, "%lld lines", icu::Formattable(static_cast<std::int64_t>(count)));
+}
+
+std::string textDetails(std::int64_t byteCount, std::size_t count, const foundation::TextLookup& texts) {
+  return byteCountText(byteCount, texts) + detailSeparator + lineCountText(count, texts);
+}
+
+std::string pictureDetails(std::int64_t byteCount, const PictureSize& size, const foundation::TextLookup& texts) {
+  return byteCountText(byteCount, texts) + detailSeparator + pictureSizeText(size);
+}
+
+std::string pasteCountText(std::int64_t count, const foundation::TextLookup& texts) {
+  return message(texts, "Pasted %lld times", icu::Formattable(count));
 }
 
 std::size_t lineCount(std::string_view text) {

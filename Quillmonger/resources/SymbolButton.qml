@@ -7,6 +7,8 @@ Rectangle {
     required property string symbol
     required property string text
     required property Theme theme
+    property int symbolSize: 16
+    property color symbolColor: theme.primary
     signal triggered()
 
     // Keys that stay with this control in every window.
@@ -30,8 +32,8 @@ Rectangle {
         anchors.centerIn: parent
         opacity: button.enabled ? (press.pressed ? 0.7 : 1) : button.theme.disabledOpacity
         name: button.symbol
-        color: button.theme.primary
-        size: 16
+        color: button.symbolColor
+        size: button.symbolSize
     }
 
     FocusRing {

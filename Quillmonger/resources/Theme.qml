@@ -42,12 +42,18 @@ QtObject {
     readonly property int colorBarWidth: 36
     readonly property int colorBarHeight: 18
 
+    // The pane beside the history.
+    readonly property int previewWidth: 332
+    readonly property int previewMargin: 16
+    readonly property int panelRadius: 15
+
     readonly property int searchFontSize: 20
     readonly property int titleFontSize: 26
     readonly property int noteFontSize: 18
     readonly property int rowFontSize: 16
     readonly property int bodyFontSize: 15
     readonly property int keyFontSize: 14
+    readonly property int previewFontSize: 13
     readonly property int hintFontSize: 11
 
     // Of the font that a row is set in, whatever other fonts a line needs besides.
@@ -56,4 +62,6 @@ QtObject {
     // Milliseconds. Long enough to be followed with the eye, too short to be waited for.
     readonly property int rowMotion: 90
     readonly property int fade: 140
+    // Until a pointer at rest asks what is below it.
+    readonly property int tipDelay: 600
 }

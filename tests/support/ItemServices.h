@@ -13,9 +13,10 @@
 
 namespace testsupport {
 
-/// The English texts of the line of details.
+/// The English texts of what is told of an item.
 inline std::string englishText(std::string_view key) {
   if (key == "%lld lines") return "{0, plural, one {# line} other {# lines}}";
+  if (key == "Pasted %lld times") return "Pasted {0, plural, one {# time} other {# times}}";
   if (key == "byte_count_zero") return "Zero KB";
   if (key == "byte_count_bytes") return "{0, plural, one {# byte} other {# bytes}}";
   if (key == "byte_count_kilobytes") return "{0} KB";

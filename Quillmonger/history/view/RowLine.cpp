@@ -27,13 +27,13 @@ void append(TextRuns& runs, std::string_view part, TextRun::Style style) {
   if (!part.empty()) runs.append({QString::fromUtf8(part.data(), static_cast<qsizetype>(part.size())), style});
 }
 
-QChar picture(QChar character) {
+}  // namespace
+
+QChar controlPicture(QChar character) {
   if (character.category() != QChar::Other_Control) return character;
   if (character.unicode() < 0x20) return QChar(static_cast<char16_t>(controlPictures + character.unicode()));
   return character.unicode() == 0x7F ? QChar(pictureOfDelete) : QChar(QChar::ReplacementCharacter);
 }
-
-}  // namespace
 
 TextRuns attributedLine(std::string_view string, std::span<const CharacterRange> matches) {
   TextRuns runs;
@@ -65,7 +65,7 @@ TextRuns onOneLine(const TextRuns& runs) {
     text.reserve(run.text.size());
     for (const QChar character : run.text) {
       const bool isBlank = character.isSpace();
-      if (!isBlank) text.append(picture(character));
+      if (!isBlank) text.append(controlPicture(character));
       if (isBlank && !isAfterBlank) text.append(u' ');
       isAfterBlank = isBlank;
     }

@@ -38,6 +38,9 @@ using TextRuns = QList<TextRun>;
 /// outside what a row can show, whichever end of the line is cut.
 [[nodiscard]] TextRuns rowLine(const RowText& text, const std::optional<CharacterRange>& match);
 
+/// What stands for a control character; any other character is itself.
+[[nodiscard]] QChar controlPicture(QChar character);
+
 [[nodiscard]] QString plainText(const TextRuns& runs);
 
 }  // namespace quillmonger

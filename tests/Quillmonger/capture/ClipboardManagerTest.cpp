@@ -488,7 +488,7 @@ TEST_F(ClipboardManagerTest, WritesAllTypesOfAnItemWithoutPlainText) {
 }
 
 TEST_F(ClipboardManagerTest, WritesADerivedTextWithItsMarker) {
-  manager.writeToPasteboard("#ff0000");
+  manager.writeToPasteboard(foundation::Data("#ff0000"));
   runLoop.runPosted();
 
   EXPECT_EQ(pasteboard.writes().at(0).types(), (std::vector<std::string>{marker, plainText}));

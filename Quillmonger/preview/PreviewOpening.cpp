@@ -1,0 +1,32 @@
+#include "Quillmonger/preview/PreviewOpening.h"
+
+#include <utility>
+
+#include "Quillmonger/settings/SettingsKeys.h"
+
+namespace quillmonger {
+
+PreviewOpening::PreviewOpening(Collaborators collaborators) : m_with(std::move(collaborators)) {
+  m_selection = m_with.selectedItem.subscribe([this](const Item& item) { takeSelection(item); });
+  m_activation = m_with.notificationCenter.observe("ClipboardActivated", [this](const auto&) { openIfWanted(); });
+}
+
+void PreviewOpening::takeSelection(const Item& item) {
+  if (item == m_selectedItem.lock()) return;
+  m_selectedItem = item;
+  openIfWanted();
+}
+
+void PreviewOpening::openIfWanted() const {
+  const Item item = m_with.selectedItem.value();
+  // A hidden history's items are not examined.
+  if (!item || !m_with.isMainWindowVisible()) return;
+  if (deservesPreview(*item)) m_with.showPreview(padding);
+}
+
+bool PreviewOpening::deservesPreview(const ClipboardItemViewModel& item) const {
+  if (m_with.defaults[keys::autoOpenImagePreview] && item.isImage()) return true;
+  return m_with.defaults[keys::autoOpenOculet] && item.hasOculetResults();
+}
+
+}  // namespace quillmonger

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "Defaults/Defaults.h"
+#include "Foundation/NotificationCenter.h"
+#include "Foundation/Published.h"
+#include "Foundation/Subscription.h"
+#include "Quillmonger/history/ClipboardItemViewModel.h"
+
+namespace quillmonger {
+
+/// Opens the preview by itself for an item that deserves it: a picture, or a text in which something was recognised.
+/// It looks when the selection changes and when the history has just opened. It never closes the preview. Main thread.
+class PreviewOpening final {
+ public:
+  using Item = std::shared_ptr<ClipboardItemViewModel>;
+  /// Between the history's window and the preview beside it, in points.
+  static constexpr double padding = 6;
+
+  struct Collaborators {
+    foundation::Published<Item>& selectedItem;
+    foundation::NotificationCenter& notificationCenter;
+    const defaults::Defaults& defaults;
+    std::function<bool()> isMainWindowVisible;
+    /// Ignores a call while the preview is up.
+    std::function<void(double padding)> showPreview;
+  };
+
+  /// All collaborators outlive this object.
+  explicit PreviewOpening(Collaborators collaborators);
+
+ private:
+  void takeSelection(const Item& item);
+  void openIfWanted() const;
+  [[nodiscard]] bool deservesPreview(const ClipboardItemViewModel& item) const;
+
+  Collaborators m_with;
+  std::weak_ptr<ClipboardItemViewModel> m_selectedItem;
+  foundation::Subscription m_selection;
+  foundation::Subscription m_activation;
+};
+
+}  // namespace quillmonger

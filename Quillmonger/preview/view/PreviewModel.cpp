@@ -1,0 +1,110 @@
+#include "Quillmonger/preview/view/PreviewModel.h"
+
+#include <QGuiApplication>
+#include <utility>
+
+#include "Quillmonger/preview/OculetRows.h"
+#include "Quillmonger/preview/view/PictureDecoding.h"
+#include "Quillmonger/settings/SettingsKeys.h"
+
+namespace quillmonger {
+
+namespace {
+
+QVariantList rows(const std::vector<OculetRow>& rows) {
+  QVariantList list;
+  for (const OculetRow& row : rows) {
+    list.append(
+        QVariantMap{{"label", QString::fromUtf8(row.labelKey.data(), static_cast<qsizetype>(row.labelKey.size()))},
+                    {"value", QString::fromStdString(row.value)}});
+  }
+  return list;
+}
+
+}  // namespace
+
+PreviewModel::PreviewModel(Collaborators collaborators)
+    : m_with(std::move(collaborators)), m_decoding(m_with.backgroundQueue, m_with.runLoop) {
+  auto& preview = m_with.preview;
+  m_subscriptions.push_back(preview.content().follow([this](const PreviewContent& content) { takeContent(content); }));
+  m_subscriptions.push_back(preview.footer().subscribe([this](const PreviewFooter&) { emit footerChanged(); }));
+  m_subscriptions.push_back(preview.item().follow([this](const auto& item) { takeItem(item); }));
+  m_subscriptions.push_back(m_with.defaults.updates<bool>(keys::showPreviewPaneScrollbar,
+                                                          defaults::Defaults::Initial::yes, [this](const bool& isOn) {
+                                                            m_showScrollbar = isOn;
+                                                            emit showScrollbarChanged();
+                                                          }));
+}
+
+void PreviewModel::takeItem(const PreviewViewModel::Item& item) {
+  m_decoding.cancel();
+  const auto scaled = item && item->isImage() ? item->image() : std::nullopt;
+  m_pictureAspect = scaled ? scaled->size.height / scaled->size.width : 0;
+  m_picture = {};
+  if (scaled) {
+    const int width = qRound(paneWidth * qGuiApp->devicePixelRatio());
+    m_decoding.start([this, picture = scaled->picture, width]() -> LatestWork::Finish {
+      return [this, image = decodePicture(picture, width)] { takePicture(image); };
+    });
+  }
+  emit pictureChanged();
+  emit itemChanged();
+}
+
+void PreviewModel::takePicture(const QImage& picture) {
+  m_picture = picture;
+  if (picture.isNull()) m_pictureAspect = 0;
+  emit pictureChanged();
+}
+
+void PreviewModel::takeContent(const PreviewContent& content) {
+  const auto* date = dateResult(*content.results);
+  const auto* color = colorResult(*content.results);
+  m_dateRows = date != nullptr ? rows(quillmonger::dateRows(date->date)) : QVariantList();
+  m_colorRows = color != nullptr ? rows(quillmonger::colorRows(*color)) : QVariantList();
+  m_selection.clear();
+  m_text.setPieces(content.text);
+  emit contentChanged();
+}
+
+bool PreviewModel::hasJson() const { return jsonResult(*m_with.preview.content().value().results) != nullptr; }
+
+QString PreviewModel::details() const { return QString::fromStdString(m_with.preview.content().value().details); }
+
+QString PreviewModel::iconPath() const {
+  const auto& url = m_with.preview.footer().value().application;
+  return url ? QString::fromStdString(url->filePath().value_or(std::string())) : QString();
+}
+
+QString PreviewModel::appName() const { return QString::fromStdString(m_with.preview.footer().value().appName); }
+
+QString PreviewModel::relativeDate() const {
+  return QString::fromStdString(m_with.preview.footer().value().relativeDate);
+}
+
+QString PreviewModel::pasteCount() const { return QString::fromStdString(m_with.preview.footer().value().pasteCount); }
+
+void PreviewModel::copy(const QString& text) {
+  m_with.copying.copy([text = text.toStdString()] { return text; });
+}
+
+void PreviewModel::copyBeautifiedJson() { copyJson(JsonForm::beautified); }
+
+void PreviewModel::copyMinifiedJson() { copyJson(JsonForm::minified); }
+
+void PreviewModel::copyJson(JsonForm form) { m_with.copying.copyJson(m_with.preview.content().value().results, form); }
+
+void PreviewModel::copySelection() {
+  if (m_selection.isEmpty()) return;
+  m_with.copying.copy([pieces = m_text.pieces(), range = m_selection.range()] { return selectedText(pieces, range); });
+}
+
+void PreviewModel::selectAll() {
+  const int last = m_text.rowCount() - 1;
+  if (last < 0) return;
+  m_selection.begin(0, 0);
+  m_selection.extend(last,
+                     static_cast<int>(m_text.data(m_text.index(last), TextPiecesModel::pieceRole).toString().size()));
+}
+
+}  // namespace quillmonger

@@ -1,0 +1,129 @@
+#include "Quillmonger/preview/PreviewOpening.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "Quillmonger/settings/SettingsKeys.h"
+#include "tests/support/ItemServices.h"
+#include "tests/support/Records.h"
+
+namespace {
+
+using namespace quillmonger;
+using testsupport::makeRecord;
+
+class PreviewOpeningTest : public testing::Test, protected testsupport::ItemServices {
+ protected:
+  PreviewOpening::Item itemOf(std::string text, std::string_view type = pasteboardtype::NSPasteboardTypeString) {
+    return std::make_shared<ClipboardItemViewModel>(makeRecord(std::move(text), {}, type), services);
+  }
+  PreviewOpening::Item picture() { return itemOf("picture", pasteboardtype::NSPasteboardTypePNG); }
+  void select(PreviewOpening::Item item) { selectedItem.set(std::move(item)); }
+  void openMainWindow() {
+    isMainWindowVisible = true;
+    notificationCenter.post("ClipboardActivated");
+  }
+
+  foundation::Published<PreviewOpening::Item> selectedItem;
+  foundation::NotificationCenter notificationCenter;
+  bool isMainWindowVisible = true;
+  std::vector<double> shown;
+  PreviewOpening opening{{selectedItem, notificationCenter, settings.defaults, [this] { return isMainWindowVisible; },
+                          [this](double padding) { shown.push_back(padding); }}};
+};
+
+TEST_F(PreviewOpeningTest, OpensForASelectedPictureSixPointsBesideTheHistory) {
+  select(picture());
+
+  EXPECT_EQ(shown, std::vector<double>{6});
+}
+
+TEST_F(PreviewOpeningTest, OpensForADateAColorAndJson) {
+  select(itemOf("2026-11-21T02:25:50Z"));
+  select(itemOf("#ff7a59"));
+  select(itemOf("{\"a\": 1}"));
+
+  EXPECT_EQ(shown.size(), 3U);
+}
+
+TEST_F(PreviewOpeningTest, StaysClosedForAPlainText) {
+  select(itemOf("plain"));
+
+  EXPECT_TRUE(shown.empty());
+}
+
+TEST_F(PreviewOpeningTest, StaysClosedWithoutASelection) {
+  select(nullptr);
+  openMainWindow();
+
+  EXPECT_TRUE(shown.empty());
+}
+
+TEST_F(PreviewOpeningTest, StaysClosedForResultsWhileTheHistoryIsHidden) {
+  settings.defaults.set(keys::autoOpenOculet, true);
+  isMainWindowVisible = false;
+
+  select(itemOf("#ff7a59"));
+
+  EXPECT_TRUE(shown.empty());
+}
+
+TEST_F(PreviewOpeningTest, StaysClosedForAPictureWhileTheHistoryIsHidden) {
+  isMainWindowVisible = false;
+
+  select(picture());
+
+  EXPECT_TRUE(shown.empty());
+}
+
+TEST_F(PreviewOpeningTest, OpensWithTheHistoryWhenAPictureIsSelected) {
+  isMainWindowVisible = false;
+  select(picture());
+
+  openMainWindow();
+
+  EXPECT_EQ(shown, std::vector<double>{6});
+}
+
+TEST_F(PreviewOpeningTest, OpensWithTheHistoryWhenAResultIsSelected) {
+  isMainWindowVisible = false;
+  select(itemOf("#ff7a59"));
+
+  openMainWindow();
+
+  EXPECT_EQ(shown, std::vector<double>{6});
+}
+
+TEST_F(PreviewOpeningTest, HeedsTheSettingForPictures) {
+  settings.defaults.set(keys::autoOpenImagePreview, false);
+
+  select(picture());
+  EXPECT_TRUE(shown.empty());
+
+  select(itemOf("#ff7a59"));
+  EXPECT_EQ(shown.size(), 1U);
+}
+
+TEST_F(PreviewOpeningTest, HeedsTheSettingForResults) {
+  settings.defaults.set(keys::autoOpenOculet, false);
+
+  select(itemOf("#ff7a59"));
+  EXPECT_TRUE(shown.empty());
+
+  select(picture());
+  EXPECT_EQ(shown.size(), 1U);
+}
+
+TEST_F(PreviewOpeningTest, DoesNothingWhenTheSelectionIsOnlyConfirmed) {
+  const auto item = picture();
+  select(item);
+
+  select(item);
+
+  EXPECT_EQ(shown.size(), 1U);
+}
+
+}  // namespace

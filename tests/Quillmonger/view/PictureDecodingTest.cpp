@@ -1,0 +1,75 @@
+#include "Quillmonger/preview/view/PictureDecoding.h"
+
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+#include <QByteArray>
+#include <string>
+
+namespace {
+
+using quillmonger::decodePicture;
+
+foundation::Data encoded(const QSize& size, const char* format) {
+  QImage image(size, QImage::Format_RGB32);
+  image.fill(QColor(10, 200, 30));
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  image.save(&buffer, format);
+  return foundation::Data(bytes.toStdString());
+}
+
+// A PNG picture's head that claims a size, with nothing behind it.
+foundation::Data claiming(std::uint32_t width, std::uint32_t height) {
+  std::string bytes = *encoded({1, 1}, "PNG").bytes();
+  for (int byte = 0; byte < 4; ++byte) {
+    bytes[16 + static_cast<std::size_t>(byte)] = static_cast<char>(width >> (24 - 8 * byte));
+    bytes[20 + static_cast<std::size_t>(byte)] = static_cast<char>(height >> (24 - 8 * byte));
+  }
+  return foundation::Data(bytes);
+}
+
+TEST(PictureDecoding, ScalesAPictureDownToTheWidth) {
+  const QImage image = decodePicture(encoded({1000, 500}, "PNG"), 332);
+
+  EXPECT_EQ(image.size(), QSize(332, 166));
+  EXPECT_EQ(image.pixelColor(100, 100), QColor(10, 200, 30));
+}
+
+TEST(PictureDecoding, ReadsJpegToo) {
+  EXPECT_EQ(decodePicture(encoded({800, 800}, "JPG"), 200).size(), QSize(200, 200));
+}
+
+TEST(PictureDecoding, NeverEnlarges) { EXPECT_EQ(decodePicture(encoded({16, 16}, "PNG"), 332).size(), QSize(16, 16)); }
+
+TEST(PictureDecoding, KeepsOnlySoManyPixelsOfAStrip) {
+  const QImage image = decodePicture(encoded({332, 30'000}, "PNG"), 332);
+
+  EXPECT_LE(image.sizeInBytes(), 17'000'000);
+  EXPECT_FALSE(image.isNull());
+}
+
+TEST(PictureDecoding, RefusesWhatIsNoPicture) {
+  EXPECT_TRUE(decodePicture(foundation::Data("no picture"), 332).isNull());
+  EXPECT_TRUE(decodePicture(foundation::Data(), 332).isNull());
+}
+
+TEST(PictureDecoding, RefusesOtherFormatsUnderTheNameOfAPicture) {
+  const foundation::Data drawing("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"10\" height=\"10\"></svg>");
+
+  EXPECT_TRUE(decodePicture(drawing, 332).isNull());
+  EXPECT_TRUE(decodePicture(encoded({10, 10}, "BMP"), 332).isNull());
+}
+
+TEST(PictureDecoding, RefusesAPictureThatClaimsAGiantSize) {
+  EXPECT_TRUE(decodePicture(claiming(60'000, 60'000), 332).isNull());
+  EXPECT_TRUE(decodePicture(claiming(2'000'000'000, 1), 332).isNull());
+}
+
+TEST(PictureDecoding, RefusesACutOffPicture) {
+  const std::string bytes = *encoded({1000, 1000}, "PNG").bytes();
+
+  EXPECT_TRUE(decodePicture(foundation::Data(bytes.substr(0, 40)), 332).isNull());
+}
+
+}  // namespace

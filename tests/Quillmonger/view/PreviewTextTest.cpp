@@ -1,0 +1,243 @@
+#include <gtest/gtest.h>
+
+#include <QTest>
+
+#include "Quillmonger/settings/SettingsKeys.h"
+#include "tests/gallery/PreviewStage.h"
+
+namespace {
+
+using testsupport::PreviewStage;
+namespace keys = quillmonger::keys;
+
+class PreviewText : public testing::Test {
+ protected:
+  void show(std::string text) {
+    m_stage.select(m_stage.makeItem(std::move(text)));
+    m_stage.load();
+    m_stage.view();
+  }
+  [[nodiscard]] QQuickItem* list() { return m_stage.find("FadingTextView"); }
+  void goToTheEnd() {
+    // The height of what has not been laid out is estimated, so that the end is reached in steps.
+    for (int step = 0; step < 3; ++step) {
+      QMetaObject::invokeMethod(list(), "positionViewAtEnd");
+      m_stage.view();
+    }
+  }
+  void activate() {
+    m_stage.view().requestActivate();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return m_stage.view().isActive(); }));
+    list()->forceActiveFocus();
+  }
+  void pressKey(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::keyClick(&m_stage.view(), key, modifiers);
+    m_stage.load();
+    m_stage.view();
+  }
+  void drag(const QPoint& from, const QPoint& to) {
+    QTest::mousePress(&m_stage.view(), Qt::LeftButton, {}, from);
+    QTest::mouseMove(&m_stage.view(), to);
+    QTest::mouseRelease(&m_stage.view(), Qt::LeftButton, {}, to);
+  }
+
+  PreviewStage m_stage;
+};
+
+std::string lines(int count) {
+  std::string text;
+  for (int line = 0; line < count; ++line)
+    text += "line " + std::to_string(line) + "\n";
+  return text;
+}
+
+TEST_F(PreviewText, ShowsATextOfExactlyTheLimitWithoutNotice) {
+  show(std::string(25'000, 'x'));
+
+  goToTheEnd();
+
+  EXPECT_EQ(m_stage.find("HiddenTextNotice"), nullptr);
+  EXPECT_EQ(m_stage.find("TextFade"), nullptr);
+}
+
+TEST_F(PreviewText, ShowsTheNoticeBelowALongerText) {
+  show(std::string(25'001, 'x'));
+
+  goToTheEnd();
+
+  EXPECT_NE(m_stage.find("HiddenTextNotice"), nullptr);
+  EXPECT_NE(m_stage.find("TextFade"), nullptr);
+}
+
+TEST_F(PreviewText, ShowsNoNoticeWhenLongTextsAreNotHidden) {
+  m_stage.defaults().set(keys::hideLongTextPreview, false);
+  show(std::string(100'000, 'x'));
+
+  goToTheEnd();
+
+  EXPECT_EQ(m_stage.find("HiddenTextNotice"), nullptr);
+}
+
+TEST_F(PreviewText, FadesOverTheLastHundredthOfItsHeight) {
+  show(lines(4000));
+
+  goToTheEnd();
+
+  QQuickItem* fade = m_stage.find("TextFade");
+  ASSERT_NE(fade, nullptr);
+  const double height = list()->property("textBottom").toReal() - list()->property("textTop").toReal();
+  EXPECT_NEAR(fade->height(), height / 100, 0.5);
+  EXPECT_NEAR(fade->y() + fade->height(), list()->property("textBottom").toReal(), 0.5);
+  EXPECT_GT(fade->height(), 20);
+}
+
+TEST_F(PreviewText, IsHiddenInTheLastHalfHundredthOfItsHeight) {
+  show(lines(4000));
+  goToTheEnd();
+  QQuickItem* fade = m_stage.find("TextFade");
+
+  const QImage picture = m_stage.view().grabWindow();
+
+  const QColor background = picture.pixelColor(8, 100);
+  const int bottom = qRound(fade->mapToScene(QPointF(0, fade->height())).y());
+  for (int x = 16; x < 60; ++x) {
+    for (int y = bottom - qFloor(fade->height() / 2) + 1; y < bottom; ++y)
+      ASSERT_EQ(picture.pixelColor(x, y), background) << x << " " << y;
+  }
+}
+
+TEST_F(PreviewText, LeadsToTheSettingThatHidesIt) {
+  show(std::string(25'001, 'x'));
+  goToTheEnd();
+  QQuickItem* button = m_stage.find("AppearanceSettingsButton");
+
+  QTest::mouseClick(&m_stage.view(), Qt::LeftButton, {}, button->mapToScene(button->boundingRect().center()).toPoint());
+
+  EXPECT_EQ(m_stage.settingsCount(), 1);
+  EXPECT_TRUE(m_stage.defaults()[keys::hideLongTextPreview]);
+}
+
+TEST_F(PreviewText, LaysOutOnlyWhatIsSeenOfManyMegabytes) {
+  m_stage.defaults().set(keys::hideLongTextPreview, false);
+  show(lines(500'000));
+
+  EXPECT_GT(list()->property("count").toInt(), 1000);
+  EXPECT_LT(m_stage.findAll("TextPiece").size(), 10U);
+  goToTheEnd();
+
+  EXPECT_LT(m_stage.findAll("TextPiece").size(), 10U);
+  EXPECT_TRUE(m_stage.findAll("TextPiece").back()->property("text").toString().endsWith("line 499999"));
+}
+
+TEST_F(PreviewText, ShowsTheTopOfTheNextItem) {
+  show(lines(3000));
+  goToTheEnd();
+
+  show("another\n" + lines(100));
+
+  EXPECT_TRUE(m_stage.findAll("TextPiece").front()->property("text").toString().startsWith("another"));
+  EXPECT_GE(m_stage.findAll("TextPiece").front()->mapToScene(QPointF()).y(), 0);
+}
+
+TEST_F(PreviewText, CopiesAllOfItByControlAAndControlC) {
+  const std::string text = lines(2000);
+  show(text);
+  activate();
+
+  pressKey(Qt::Key_A, Qt::ControlModifier);
+  pressKey(Qt::Key_C, Qt::ControlModifier);
+
+  ASSERT_EQ(m_stage.copies().size(), 1U);
+  EXPECT_EQ(m_stage.copies()[0] + "\n", text);
+}
+
+TEST_F(PreviewText, CopiesNothingWhileNothingIsSelected) {
+  show("text");
+  activate();
+
+  pressKey(Qt::Key_C, Qt::ControlModifier);
+
+  EXPECT_TRUE(m_stage.copies().empty());
+}
+
+TEST_F(PreviewText, CopiesWhatTheMouseSelected) {
+  show("hello");
+  activate();
+  QQuickItem* piece = m_stage.find("TextPiece");
+  const double middle = piece->height() / 2;
+
+  drag(piece->mapToScene(QPointF(0, middle)).toPoint(), piece->mapToScene(QPointF(200, middle)).toPoint());
+  pressKey(Qt::Key_C, Qt::ControlModifier);
+
+  EXPECT_EQ(m_stage.copies(), std::vector<std::string>{"hello"});
+}
+
+TEST_F(PreviewText, SelectsAcrossItsPieces) {
+  show(lines(300));
+  activate();
+  const auto first = m_stage.findAll("TextPiece").at(0);
+  list()->setProperty("contentY", first->y() + first->height() - 100);
+  m_stage.view();
+  const auto pieces = m_stage.findAll("TextPiece");
+  const QPoint edge = pieces.at(1)->mapToScene(QPointF()).toPoint();
+
+  drag(edge + QPoint(0, -20), edge + QPoint(250, 20));
+  pressKey(Qt::Key_C, Qt::ControlModifier);
+
+  EXPECT_FALSE(pieces.at(0)->property("selectedText").toString().isEmpty());
+  EXPECT_FALSE(pieces.at(1)->property("selectedText").toString().isEmpty());
+  ASSERT_EQ(m_stage.copies().size(), 1U);
+  EXPECT_TRUE(lines(300).find(m_stage.copies()[0]) != std::string::npos);
+}
+
+TEST_F(PreviewText, SelectsAWordByADoubleClick) {
+  show("one two three");
+  activate();
+  QQuickItem* piece = m_stage.find("TextPiece");
+  QRectF place;
+  QMetaObject::invokeMethod(piece, "positionToRectangle", Q_RETURN_ARG(QRectF, place), Q_ARG(int, 5));
+
+  QTest::mouseDClick(&m_stage.view(), Qt::LeftButton, {}, piece->mapToScene(place.center()).toPoint());
+  pressKey(Qt::Key_C, Qt::ControlModifier);
+
+  EXPECT_EQ(m_stage.copies(), std::vector<std::string>{"two"});
+}
+
+TEST_F(PreviewText, SelectsNothingOfTheNextItem) {
+  show("hello");
+  activate();
+  pressKey(Qt::Key_A, Qt::ControlModifier);
+
+  show("world");
+  pressKey(Qt::Key_C, Qt::ControlModifier);
+
+  EXPECT_TRUE(m_stage.copies().empty());
+}
+
+TEST_F(PreviewText, RunsEachParagraphInItsOwnDirection) {
+  show("שלום עולם\nand English\nمرحبا");
+  QQuickItem* piece = m_stage.find("TextPiece");
+  const auto left = [piece](int position) {
+    QRectF place;
+    QMetaObject::invokeMethod(piece, "positionToRectangle", Q_RETURN_ARG(QRectF, place), Q_ARG(int, position));
+    return place.x();
+  };
+
+  EXPECT_GT(left(0), piece->width() / 2);
+  EXPECT_LT(left(10), piece->width() / 2);
+  EXPECT_GT(left(22), piece->width() / 2);
+}
+
+TEST_F(PreviewText, ScrollsByPagesWithTheKeyboard) {
+  show(lines(300));
+  activate();
+  const double top = list()->property("contentY").toReal();
+
+  pressKey(Qt::Key_PageDown);
+  EXPECT_GT(list()->property("contentY").toReal(), top + 100);
+  pressKey(Qt::Key_PageUp);
+
+  EXPECT_EQ(list()->property("contentY").toReal(), top);
+}
+
+}  // namespace
