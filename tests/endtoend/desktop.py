@@ -147,6 +147,15 @@ class Desktop:
     def focused(self):
         return self.run(["xdotool", "getactivewindow"], check=False).stdout.strip()
 
+    def geometry(self, window):
+        """Left, top, width and height, without what the window manager adds."""
+        answer = self.run(["xdotool", "getwindowgeometry", "--shell", window]).stdout
+        words = dict(line.split("=", 1) for line in answer.split())
+        return tuple(int(words[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+
+    def click(self, x, y):
+        self.run(["xdotool", "mousemove", str(x), str(y), "click", "1"])
+
     def press(self, *chords):
         self.run(["xdotool", "key", "--clearmodifiers", *chords])
 

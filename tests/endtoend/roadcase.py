@@ -9,8 +9,11 @@ BUILD = os.environ["QUILLMONGER_BUILD"]
 
 
 class RoadCase(unittest.TestCase):
+    size = "1280x800x24"
+    window_manager = "openbox"
+
     def setUp(self):
-        self.desktop = Desktop(BUILD)
+        self.desktop = Desktop(BUILD, size=self.size, window_manager=self.window_manager)
         self.desktop.__enter__()
         self.addCleanup(self.desktop.__exit__)
 
