@@ -21,6 +21,8 @@ class X11WindowSystem final : public quillmonger::WindowSystem, public quillmong
   [[nodiscard]] bool blendsTransparency() const override;
   [[nodiscard]] std::optional<Pixel> focusedWindowCentre() const override;
   void keepOutOfTaskList(WindowId window) override;
+  /// Heard by the compositors that know nothing of a window's shape; the others need no word.
+  void withholdShadow(WindowId window) override;
   void bringToFront(WindowId window) override;
   /// As the desktop's settings service tells every program of the display.
   [[nodiscard]] bool reducesMotion() const override;
@@ -40,6 +42,7 @@ class X11WindowSystem final : public quillmonger::WindowSystem, public quillmong
   xcb_atom_t m_activeWindow;
   xcb_atom_t m_windowType;
   xcb_atom_t m_desktopType;
+  xcb_atom_t m_shadow;
   xcb_atom_t m_settingsOwner;
   xcb_atom_t m_settings;
 };

@@ -97,6 +97,12 @@ const std::vector<Scene>& scenes() {
          QTest::mouseClick(&stage.pane(), Qt::RightButton, {}, row->mapToScene(QPointF(150, 20)).toPoint());
          return stage.pane();
        }},
+      {"about", [](SettingsStage& stage) -> QQuickView& { return stage.about(); }},
+      {"about-focus",
+       [](SettingsStage& stage) -> QQuickView& {
+         focus(stage.about(), "AcknowledgementsButton");
+         return stage.about();
+       }},
       {"picker-loading", [](SettingsStage& stage) -> QQuickView& { return stage.pickerView(); }},
       {"picker", loadedPicker},
       {"picker-search", [](SettingsStage& stage) -> QQuickView& { return search(stage, "edi"); }},

@@ -64,6 +64,11 @@ QQuickView& SettingsStage::pickerView() {
       {{"model", QVariant::fromValue(m_pickerModel.get())}, {"appearance", QVariant::fromValue(&m_appearance)}});
 }
 
+QQuickView& SettingsStage::about() {
+  return show(m_about, QStringLiteral("AboutView"),
+              {{"model", QVariant::fromValue(&m_aboutModel)}, {"appearance", QVariant::fromValue(&m_appearance)}});
+}
+
 void SettingsStage::loadApplications() {
   m_queue.run();
   m_runLoop.runPosted();

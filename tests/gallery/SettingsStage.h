@@ -11,6 +11,7 @@
 #include "Quillmonger/resources/Appearance.h"
 #include "Quillmonger/settings/panes/AppPickerViewModel.h"
 #include "Quillmonger/settings/panes/IgnoreAppsViewModel.h"
+#include "Quillmonger/settings/view/AboutModel.h"
 #include "Quillmonger/settings/view/AppPickerModel.h"
 #include "Quillmonger/settings/view/IgnoreSettings.h"
 #include "Quillmonger/settings/view/IgnoredAppsModel.h"
@@ -47,6 +48,9 @@ class SettingsStage final {
   QQuickView& pane();
   /// The picker's list, before the applications have been read.
   QQuickView& pickerView();
+  QQuickView& about();
+  /// What the buttons of the latter opened.
+  [[nodiscard]] const std::vector<quillmonger::AboutModel::Page>& openedPages() const { return m_openedPages; }
   /// Lets the applications be read.
   void loadApplications();
 
@@ -68,9 +72,12 @@ class SettingsStage final {
   quillmonger::IgnoredAppsModel m_ignoredAppsModel;
   std::unique_ptr<quillmonger::AppPickerViewModel> m_pickerViewModel;
   std::unique_ptr<quillmonger::AppPickerModel> m_pickerModel;
+  std::vector<quillmonger::AboutModel::Page> m_openedPages;
+  quillmonger::AboutModel m_aboutModel{QStringLiteral("1.2.3"), [this](auto page) { m_openedPages.push_back(page); }};
   QQmlEngine m_engine;
   std::unique_ptr<QQuickView> m_pane;
   std::unique_ptr<QQuickView> m_pickerView;
+  std::unique_ptr<QQuickView> m_about;
 };
 
 /// The shown items of a view with this accessibility identifier, from top to bottom.

@@ -7,7 +7,8 @@ namespace quillmonger {
 namespace {
 
 void tellFailedCopy(Alert& alert) {
-  static_cast<void>(alert.runModal({localizedText("error_alert_title"), localizedText("preview_oculet_action_error"),
+  static_cast<void>(alert.runModal({localizedText("error_alert_title"),
+                                    localizedText("preview_oculet_action_error"),
                                     {localizedText("confirm_string")}}));
 }
 

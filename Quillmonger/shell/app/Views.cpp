@@ -36,8 +36,7 @@ std::string presentText(const Pasteboard& pasteboard) {
 }  // namespace
 
 Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCache::IconNaming iconNaming,
-             const AppPickerViewModel::Collaborators& applications,
-             foundation::NotificationCenter& notificationCenter)
+             const AppPickerViewModel::Collaborators& applications, foundation::NotificationCenter& notificationCenter)
     : m_defaults(defaults),
       m_backgroundQueue(applications.backgroundQueue),
       m_runLoop(applications.runLoop),
@@ -74,8 +73,8 @@ void Views::feed(Quillmonger& root, const Pasteboard& pasteboard) {
   ClipboardViewModel& history = root.clipboardViewModel();
   m_clipboardText = [&pasteboard] { return presentText(pasteboard); };
   m_ignoreAppsViewModel = [&root]() -> IgnoreAppsViewModel& { return root.ignoreAppsViewModel(); };
-  m_searchBarModel =
-      std::make_unique<SearchBarModel>(root.searchViewModel().searchTerm(), m_defaults, m_clipboardText, [&root] { root.windowManager().togglePreviewWindow(); });
+  m_searchBarModel = std::make_unique<SearchBarModel>(root.searchViewModel().searchTerm(), m_defaults, m_clipboardText,
+                                                      [&root] { root.windowManager().togglePreviewWindow(); });
   m_clipboardViewAdapter = std::make_unique<ClipboardViewAdapter>(ClipboardViewAdapter::History{
       history.filteredItems(), history.selectedItem(), history.isOptionPressed(),
       [&history] { return history.items().empty(); }, [&history](const auto& item) { history.select(item); }});
@@ -142,9 +141,9 @@ Views::Content Views::aboutContent() {
 }
 
 Views::Content Views::previewContent() {
-  return {QUrl(QStringLiteral("qrc:/qt-project.org/imports/Quillmonger/Preview/PreviewView.qml")),
-          {{"preview", QVariant::fromValue(m_previewFeed->model())},
-           {"appearance", QVariant::fromValue(&m_appearance)}}};
+  return {
+      QUrl(QStringLiteral("qrc:/qt-project.org/imports/Quillmonger/Preview/PreviewView.qml")),
+      {{"preview", QVariant::fromValue(m_previewFeed->model())}, {"appearance", QVariant::fromValue(&m_appearance)}}};
 }
 
 }  // namespace quillmonger

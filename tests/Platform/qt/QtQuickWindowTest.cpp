@@ -25,11 +25,13 @@ class FakeWindowSystem final : public quillmonger::WindowSystem {
   [[nodiscard]] bool blendsTransparency() const override { return isBlending; }
   [[nodiscard]] std::optional<Pixel> focusedWindowCentre() const override { return focused; }
   void keepOutOfTaskList(WindowId /*window*/) override { ++keptOutCount; }
+  void withholdShadow(WindowId /*window*/) override { ++shadowlessCount; }
   void bringToFront(WindowId /*window*/) override { ++frontCount; }
 
   bool isBlending = true;
   std::optional<Pixel> focused;
   int keptOutCount = 0;
+  int shadowlessCount = 0;
   int frontCount = 0;
 };
 
@@ -124,6 +126,17 @@ TEST_F(QtQuickWindowTest, PaneIsAsWideAsTheMaskOfTheWindow) {
   m_window.view()->setMask(QRegion(0, 0, 120, 200));
 
   EXPECT_EQ(m_window.paneWidth(), 120);
+}
+
+TEST_F(QtQuickWindowTest, HasNoShadowWhereAMaskLeavesNothingToCastOne) {
+  m_window.orderFront();
+  EXPECT_EQ(m_system.shadowlessCount, 0);
+  m_window.orderOut();
+
+  m_window.view()->setMask(QRegion(0, 0, 120, 200));
+  m_window.orderFront();
+
+  EXPECT_EQ(m_system.shadowlessCount, 1);
 }
 
 TEST_F(QtQuickWindowTest, MakesRoomAtItsRightOnlyWhereItIsMissing) {

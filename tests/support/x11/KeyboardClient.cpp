@@ -141,6 +141,11 @@ std::vector<std::uint32_t> KeyboardClient::windowAtoms(const std::string& proper
   return platform::numbersProperty(m_connection, m_window, atom(property), XCB_ATOM_ATOM, 64);
 }
 
+std::optional<std::uint32_t> KeyboardClient::windowNumber(const std::string& property) const {
+  const auto numbers = platform::numbersProperty(m_connection, m_window, atom(property), XCB_ATOM_CARDINAL, 1);
+  return numbers.empty() ? std::nullopt : std::optional(numbers.front());
+}
+
 std::uint32_t KeyboardClient::atom(const std::string& name) const { return internAtom(m_connection, name); }
 
 const std::vector<KeyboardClient::Key>& KeyboardClient::receivedKeys() {

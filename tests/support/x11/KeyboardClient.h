@@ -3,6 +3,7 @@
 #include <xcb/xcb.h>
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -55,6 +56,8 @@ class KeyboardClient final {
   [[nodiscard]] xcb_window_t focus() const;
   [[nodiscard]] bool isUnderWindowManager() const;
   [[nodiscard]] std::vector<std::uint32_t> windowAtoms(const std::string& property) const;
+  /// Absent when the property is missing.
+  [[nodiscard]] std::optional<std::uint32_t> windowNumber(const std::string& property) const;
   [[nodiscard]] std::uint32_t atom(const std::string& name) const;
 
   /// The keys that the window got since it was made.
