@@ -164,7 +164,6 @@ void QtQuickWindow::prepareToShow() {
   if (m_description.kind == Kind::dialog) return;
   m_view->rootObject()->setProperty("blendsTransparency", m_windowSystem.blendsTransparency());
   if (!isVisible()) m_windowSystem.keepOutOfTaskList(m_view->winId());
-  if (!m_view->mask().isEmpty()) m_windowSystem.withholdShadow(m_view->winId());
 }
 
 QQuickView* QtQuickWindow::view() const { return m_view.get(); }

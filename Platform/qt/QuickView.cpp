@@ -1,6 +1,7 @@
 #include "Platform/qt/QuickView.h"
 
 #include <QGuiApplication>
+#include <QRegion>
 #include <algorithm>
 #include <utility>
 
@@ -54,6 +55,7 @@ void QuickView::handOverFront() {
 
 void QuickView::exposeEvent(QExposeEvent* event) {
   QQuickView::exposeEvent(event);
+  if (isExposed() && !mask().isEmpty()) m_windowSystem.withholdShadow(winId());
   if (isExposed() && std::exchange(m_comesToFront, false)) m_windowSystem.bringToFront(winId());
 }
 

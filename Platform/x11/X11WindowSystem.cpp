@@ -100,9 +100,21 @@ void X11WindowSystem::keepOutOfTaskList(WindowId window) {
   std::free(xcb_request_check(m_connection, change));
 }
 
+// The window manager puts a window into one of its own, and it can do so at any moment.
+xcb_window_t X11WindowSystem::frameOf(xcb_window_t window) const {
+  constexpr int deepest = 8;
+  for (int depth = 0; depth < deepest; ++depth) {
+    const ReplyPointer<xcb_query_tree_reply_t> tree(
+        xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, window), nullptr));
+    if (!tree || tree->parent == m_root || tree->parent == XCB_NONE) break;
+    window = tree->parent;
+  }
+  return window;
+}
+
 void X11WindowSystem::withholdShadow(WindowId window) {
   const std::uint32_t none = 0;
-  xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(window), m_shadow,
+  xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, frameOf(static_cast<xcb_window_t>(window)), m_shadow,
                       XCB_ATOM_CARDINAL, 32, 1, &none);
   xcb_flush(m_connection);
 }

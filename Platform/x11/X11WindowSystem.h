@@ -30,6 +30,7 @@ class X11WindowSystem final : public quillmonger::WindowSystem, public quillmong
  private:
   X11WindowSystem(xcb_connection_t* connection, const xcb_screen_t& screen, int screenIndex);
   [[nodiscard]] xcb_window_t owner(xcb_atom_t selection) const;
+  [[nodiscard]] xcb_window_t frameOf(xcb_window_t window) const;
   [[nodiscard]] xcb_timestamp_t serverTime() const;
 
   xcb_connection_t* m_connection;

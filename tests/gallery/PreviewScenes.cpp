@@ -59,7 +59,8 @@ void selectAcrossPieces(PreviewStage& stage) {
 
 const char* const mixedScripts =
     "مرحبا بالعالم، هذا نص عربي مع 123 أرقام وكلمات إضافية حتى يلتف السطر\n\nשלום עולם and some English\n\n"
-    "漢字とひらがなとカタカナが混ざった文章です。中文字符也可以。한국어도.\n\n👩‍👩‍👧‍👦 family, "
+    "漢字とひらがなとカタカナが混ざった文章です。中文字符也可以。한국어도.\n\n👩‍👩‍👧‍👦 "
+    "family, "
     "🏳️‍🌈 "
     "flag, "
     "👍🏽 thumb\n\n"
