@@ -82,6 +82,7 @@ class Quillmonger final {
   Quillmonger& operator=(const Quillmonger&) = delete;
 
   [[nodiscard]] ClipboardManager& clipboardManager() { return m_clipboardManager; }
+  [[nodiscard]] const OculetManager& oculetManager() const { return *m_oculetManager; }
   [[nodiscard]] ClipboardViewModel& clipboardViewModel() { return m_clipboardViewModel; }
   [[nodiscard]] SearchViewModel& searchViewModel() { return m_searchViewModel; }
   /// Made when it is first asked for: it reads the applications that it lists.

@@ -91,6 +91,8 @@ FocusScope {
 
         Shortcut {
             sequence: "Ctrl+P"
+            // Also while the preview has the keyboard.
+            context: Qt.ApplicationShortcut
             enabled: previewButton.visible
             onActivated: bar.model.togglePreview()
         }

@@ -70,8 +70,9 @@ Composition::Composition(const platform::XdgFolders& folders, const std::vector<
       m_bundleProvider([this] { return m_pasteboard->frontmostAtPresentContent(); }, m_desktopEntries),
       m_installedApplications(m_desktopEntries, platform::XdgFolders::ownEnvironment),
       m_application(*m_windowSystem),
-      m_views(m_defaults, *m_windowSystem, [this](const std::string& path) { return iconOf(path); },
-              {m_installedApplications, m_backgroundQueue, m_runLoop}),
+      m_views(
+          m_defaults, *m_windowSystem, [this](const std::string& path) { return iconOf(path); },
+          {m_installedApplications, m_backgroundQueue, m_runLoop}, m_notificationCenter),
       m_statusBar(QDBusConnection::sessionBus(), [](const std::string& name) { return resourcePlace(name, "svg"); }),
       m_dialogManager(m_views.alert(), localizedText, openUrl, supportAddress),
       m_permissionsManager(m_postEventAccess, m_views.alert(), localizedText, openUrl, m_runLoop),

@@ -7,6 +7,7 @@
 #include "Quillmonger/capture/PasteboardTypes.h"
 #include "Quillmonger/guide/view/QmlModule.h"
 #include "Quillmonger/history/view/QmlModule.h"
+#include "Quillmonger/preview/view/QmlModule.h"
 #include "Quillmonger/resources/QmlModule.h"
 #include "Quillmonger/resources/Texts.h"
 #include "Quillmonger/search/view/QmlModule.h"
@@ -35,8 +36,11 @@ std::string presentText(const Pasteboard& pasteboard) {
 }  // namespace
 
 Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCache::IconNaming iconNaming,
-             const AppPickerViewModel::Collaborators& applications)
+             const AppPickerViewModel::Collaborators& applications, foundation::NotificationCenter& notificationCenter)
     : m_defaults(defaults),
+      m_backgroundQueue(applications.backgroundQueue),
+      m_runLoop(applications.runLoop),
+      m_notificationCenter(notificationCenter),
       m_iconNaming(std::move(iconNaming)),
       m_appearance(defaults),
       m_historySettings(defaults),
@@ -69,11 +73,13 @@ void Views::feed(Quillmonger& root, const Pasteboard& pasteboard) {
   ClipboardViewModel& history = root.clipboardViewModel();
   m_clipboardText = [&pasteboard] { return presentText(pasteboard); };
   m_ignoreAppsViewModel = [&root]() -> IgnoreAppsViewModel& { return root.ignoreAppsViewModel(); };
-  m_searchBarModel =
-      std::make_unique<SearchBarModel>(root.searchViewModel().searchTerm(), m_defaults, m_clipboardText, nullptr);
+  m_searchBarModel = std::make_unique<SearchBarModel>(root.searchViewModel().searchTerm(), m_defaults, m_clipboardText,
+                                                      [&root] { root.windowManager().togglePreviewWindow(); });
   m_clipboardViewAdapter = std::make_unique<ClipboardViewAdapter>(ClipboardViewAdapter::History{
       history.filteredItems(), history.selectedItem(), history.isOptionPressed(),
       [&history] { return history.items().empty(); }, [&history](const auto& item) { history.select(item); }});
+  m_previewFeed = std::make_unique<PreviewFeed>(
+      root, PreviewFeed::Services{m_notificationCenter, m_defaults, m_backgroundQueue, m_runLoop, m_alert});
   m_gettingStartedModel =
       std::make_unique<GettingStartedModel>(QStringLiteral("Shift+Super+V"), [&root] { root.finishGettingStarted(); });
 }
@@ -87,6 +93,7 @@ void Views::close() {
   m_gettingStartedWindow.unload();
   m_ignoredAppsModel.reset();
   m_gettingStartedModel.reset();
+  m_previewFeed.reset();
   m_clipboardViewAdapter.reset();
   m_searchBarModel.reset();
 }
@@ -97,6 +104,7 @@ QQmlEngine& Views::engine() {
     resourcesview::registerTypes(*m_engine);
     searchview::registerTypes();
     historyview::registerTypes();
+    previewview::registerTypes();
     guideview::registerTypes();
     settingsview::registerTypes();
     shellview::registerTypes();
@@ -133,8 +141,9 @@ Views::Content Views::aboutContent() {
 }
 
 Views::Content Views::previewContent() {
-  return {QUrl(QStringLiteral("qrc:/qt-project.org/imports/Quillmonger/Preview/PreviewView.qml")),
-          {{"appearance", QVariant::fromValue(&m_appearance)}}};
+  return {
+      QUrl(QStringLiteral("qrc:/qt-project.org/imports/Quillmonger/Preview/PreviewView.qml")),
+      {{"preview", QVariant::fromValue(m_previewFeed->model())}, {"appearance", QVariant::fromValue(&m_appearance)}}};
 }
 
 }  // namespace quillmonger

@@ -21,6 +21,7 @@
 #include "Quillmonger/settings/view/IgnoredAppsModel.h"
 #include "Quillmonger/shell/Quillmonger.h"
 #include "Quillmonger/shell/app/OnePaneSettings.h"
+#include "Quillmonger/shell/app/PreviewFeed.h"
 #include "Quillmonger/shell/view/QtAlert.h"
 #include "Quillmonger/shell/windows/WindowSystem.h"
 
@@ -32,7 +33,7 @@ class Views final {
  public:
   /// All that is named here outlives the views.
   Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCache::IconNaming iconNaming,
-        const AppPickerViewModel::Collaborators& applications);
+        const AppPickerViewModel::Collaborators& applications, foundation::NotificationCenter& notificationCenter);
 
   [[nodiscard]] platform::QtQuickWindow& appWindow() { return m_appWindow; }
   [[nodiscard]] platform::QtQuickWindow& gettingStartedWindow() { return m_gettingStartedWindow; }
@@ -58,6 +59,9 @@ class Views final {
   [[nodiscard]] Content previewContent();
 
   defaults::Defaults& m_defaults;
+  foundation::BackgroundQueue& m_backgroundQueue;
+  foundation::RunLoop& m_runLoop;
+  foundation::NotificationCenter& m_notificationCenter;
   ImageCache::IconNaming m_iconNaming;
   Appearance m_appearance;
   HistorySettings m_historySettings;
@@ -67,6 +71,7 @@ class Views final {
   std::function<IgnoreAppsViewModel&()> m_ignoreAppsViewModel;
   std::unique_ptr<SearchBarModel> m_searchBarModel;
   std::unique_ptr<ClipboardViewAdapter> m_clipboardViewAdapter;
+  std::unique_ptr<PreviewFeed> m_previewFeed;
   std::unique_ptr<GettingStartedModel> m_gettingStartedModel;
   std::unique_ptr<IgnoredAppsModel> m_ignoredAppsModel;
   // Destroyed after the windows, whose views are its objects, and before what the views show.

@@ -1,0 +1,103 @@
+"""The preview beside the history, as the desktop's window manager lets it."""
+
+import time
+
+from desktop import wait_until
+from roadcase import RoadCase
+
+PANE = 332
+
+
+class Preview:
+    def preview(self):
+        answer = self.desktop.run(["xdotool", "search", "--onlyvisible", "--name", "^Quillmonger Preview$"],
+                                  check=False)
+        return answer.stdout.split()[0] if answer.stdout.split() else None
+
+    def wait_gone(self):
+        wait_until(lambda: self.preview() is None, "the preview to go")
+
+    def open_with_preview(self):
+        """Opens history and preview, and waits until the preview stands still."""
+        history = self.desktop.open_history()
+        self.desktop.press("ctrl+p")
+        preview = wait_until(self.preview, "the preview")
+        wait_until(lambda: self.desktop.geometry(preview)[0] == self.desktop.geometry(history)[0] + 606,
+                   "the end of the slide")
+        time.sleep(0.3)
+        return history, preview
+
+    def start_with_copy(self):
+        self.desktop.start_app()
+        _, self.editor = self.open_gtk_editor()
+        self.desktop.run(["xdotool", "windowmove", self.editor, "0", "0"])
+        self.desktop.copy("something to look at")
+        self.desktop.wait_for_text("something to look at")
+
+    def test_it_ends_beside_the_history_and_leaves_it_the_keyboard(self):
+        self.start_with_copy()
+
+        history, preview = self.open_with_preview()
+
+        left, top, width, height = self.desktop.geometry(history)
+        self.assertEqual(self.desktop.geometry(preview), (left + width + 6, top, width, height))
+        self.assertEqual(self.desktop.focused(), history)
+        self.desktop.press("ctrl+p")
+        self.wait_gone()
+        self.assertEqual(self.desktop.focused(), history)
+
+    def test_a_click_elsewhere_closes_both(self):
+        self.start_with_copy()
+        self.open_with_preview()
+
+        self.desktop.click(20, 60)
+
+        self.desktop.wait_hidden()
+        self.wait_gone()
+
+    def test_a_click_into_it_closes_nothing_and_the_history_gets_the_keyboard_back(self):
+        self.start_with_copy()
+        history, preview = self.open_with_preview()
+        left, top, _, _ = self.desktop.geometry(preview)
+
+        self.desktop.click(left + 60, top + 200)
+        time.sleep(0.5)
+        self.assertIsNotNone(self.desktop.history_window())
+        self.assertIsNotNone(self.preview())
+        self.desktop.press("ctrl+p")
+
+        self.wait_gone()
+        wait_until(lambda: self.desktop.focused() == history, "the keyboard with the history")
+        time.sleep(0.3)
+        self.assertIsNotNone(self.desktop.history_window())
+
+    def test_escape_in_it_closes_both(self):
+        self.start_with_copy()
+        _, preview = self.open_with_preview()
+        left, top, _, _ = self.desktop.geometry(preview)
+        self.desktop.click(left + 60, top + 200)
+
+        self.desktop.press("Escape")
+
+        self.desktop.wait_hidden()
+        self.wait_gone()
+
+
+class ThePreview(Preview, RoadCase):
+    pass
+
+
+class ThePreviewUnderXfwm4(Preview, RoadCase):
+    window_manager = "xfwm4"
+
+
+class ThePreviewOnANarrowScreen(Preview, RoadCase):
+    size = "1024x768x24"
+
+    def test_the_history_gives_way_so_that_both_are_on_the_screen(self):
+        self.start_with_copy()
+
+        history, preview = self.open_with_preview()
+
+        self.assertEqual(self.desktop.geometry(preview)[0] + PANE, 1024)
+        self.assertEqual(self.desktop.geometry(history)[0], 1024 - PANE - 606)
