@@ -67,10 +67,13 @@ void selectAcrossPieces(PreviewStage& stage) {
 class LongTexts final : public QTranslator {
  public:
   QString translate(const char* context, const char* key, const char* disambiguation, int count) const override {
-    const QString text = quillmonger::Texts().translate(context, key, disambiguation, count);
+    const QString text = m_texts.translate(context, key, disambiguation, count);
     return text.isEmpty() || text.contains(u'{') ? text : text + u' ' + text;
   }
   [[nodiscard]] bool isEmpty() const override { return false; }
+
+ private:
+  quillmonger::Texts m_texts;
 };
 
 const char* const mixedScripts =
