@@ -8,7 +8,8 @@
 namespace platform {
 
 /// The chords of a desktop that keeps them in GSettings. `desktop`: a name as in XDG_CURRENT_DESKTOP, in lower case.
-/// Empty for another desktop, and where none of its schemas is installed. Main thread; reads at once.
+/// Empty for another desktop, and where none of its schemas is installed. The chords that a user of MATE added are left
+/// out: no list says where they lie. Main thread; reads at once.
 [[nodiscard]] std::vector<Accelerator> gSettingsAccelerators(std::string_view desktop);
 
 }  // namespace platform
