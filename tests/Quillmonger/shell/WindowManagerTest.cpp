@@ -15,6 +15,7 @@
 #include "tests/support/FakeMotionPreference.h"
 #include "tests/support/FakeSettingsWindowController.h"
 #include "tests/support/FakeStoreContext.h"
+#include "tests/support/FakeSymbolicHotKeys.h"
 #include "tests/support/FakeWindow.h"
 #include "tests/support/InlineBackgroundQueue.h"
 #include "tests/support/ItemServices.h"
@@ -76,8 +77,9 @@ class WindowManager : public testing::Test, protected testsupport::ItemServices 
   testsupport::FakeStoreContext context;
   testsupport::FakeLocalEventMonitor eventMonitor;
   testsupport::FakeHotKeyService hotKeys;
+  testsupport::FakeSymbolicHotKeys symbolicHotKeys;
   foundation::NotificationCenter notificationCenter;
-  keyboardshortcuts::KeyboardShortcuts shortcuts{hotKeys, settings.suite, notificationCenter};
+  keyboardshortcuts::KeyboardShortcuts shortcuts{hotKeys, symbolicHotKeys, settings.suite, notificationCenter};
   quillmonger::SearchViewModel searchViewModel{runLoop, settings.defaults};
   quillmonger::SearchManager<quillmonger::ClipboardItemViewModel> searchManager{queue, runLoop, settings.defaults};
   quillmonger::ClipboardViewModel viewModel{{clipboard, context, searchViewModel, searchManager, naming, *oculetManager,
