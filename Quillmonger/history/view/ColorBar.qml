@@ -1,8 +1,9 @@
 import QtQuick
+import Quillmonger.History
 import Quillmonger.Resources
 
-// A sample of a colour that a text names.
-Rectangle {
+// A sample of an item's colour.
+ColorSample {
     id: bar
 
     required property color sample
@@ -12,10 +13,8 @@ Rectangle {
     objectName: "ColorBar"
     implicitWidth: theme.colorBarWidth
     implicitHeight: theme.colorBarHeight
-    radius: height / 2
-    antialiasing: true
     color: sample
-    border { width: 1; color: isSelected ? theme.selectedPrimary : theme.primary }
+    outline: isSelected ? theme.selectedPrimary : theme.primary
     Accessible.role: Accessible.Graphic
     Accessible.name: qsTrId("accessibility_color").arg(sample.toString().toUpperCase())
 }

@@ -35,6 +35,7 @@ Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCach
     : m_defaults(defaults),
       m_iconNaming(std::move(iconNaming)),
       m_appearance(defaults),
+      m_pictureColors(applications.backgroundQueue, applications.runLoop),
       m_historySettings(defaults),
       m_ignoreSettings(defaults),
       m_alert([this]() -> QQmlEngine& { return engine(); }, m_appearance),
@@ -60,7 +61,8 @@ void Views::feed(Quillmonger& root, const Pasteboard& pasteboard) {
       std::make_unique<SearchBarModel>(root.searchViewModel().searchTerm(), m_defaults, m_clipboardText, nullptr);
   m_clipboardViewAdapter = std::make_unique<ClipboardViewAdapter>(ClipboardViewAdapter::History{
       history.filteredItems(), history.selectedItem(), history.isOptionPressed(),
-      [&history] { return history.items().empty(); }, [&history](const auto& item) { history.select(item); }});
+      [&history] { return history.items().empty(); }, [&history](const auto& item) { history.select(item); },
+      m_pictureColors});
   m_gettingStartedModel =
       std::make_unique<GettingStartedModel>(QStringLiteral("Shift+Super+V"), [&root] { root.finishGettingStarted(); });
 }

@@ -32,6 +32,9 @@ class Views final {
   Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCache::IconNaming iconNaming,
         const AppPickerViewModel::Collaborators& applications);
 
+  /// Heeds what the user has told the desktop. It outlives the views.
+  void follow(DesktopPreferences& desktop) { m_appearance.follow(desktop); }
+
   [[nodiscard]] platform::QtQuickWindow& appWindow() { return m_appWindow; }
   [[nodiscard]] platform::QtQuickWindow& gettingStartedWindow() { return m_gettingStartedWindow; }
   [[nodiscard]] platform::QtQuickWindow& settingsWindow() { return m_settingsWindow; }
@@ -54,6 +57,7 @@ class Views final {
   defaults::Defaults& m_defaults;
   ImageCache::IconNaming m_iconNaming;
   Appearance m_appearance;
+  PictureColors m_pictureColors;
   HistorySettings m_historySettings;
   IgnoreSettings m_ignoreSettings;
   std::function<std::string()> m_clipboardText;
