@@ -12,8 +12,8 @@
 namespace platform {
 
 /// The desktop's preferences by its settings portal. Nothing waits for the portal: it is asked when this object is made
-/// and whenever a portal comes, and its changes are followed. When it goes, what it said stands until another one comes.
-/// An answer that is not of the promised type says nothing. Main thread.
+/// and whenever a portal comes, and its changes are followed. When it goes, what it said stands until another one
+/// comes. An answer that is not of the promised type says nothing. Main thread.
 class PortalPreferences final : public QObject, public quillmonger::DesktopPreferences {
   Q_OBJECT
 

@@ -11,9 +11,9 @@
 
 namespace quillmonger {
 
-/// The average colours of pictures, worked out beside the main thread, one at a time, since a picture can take longer to
-/// decode than a frame lasts. The latest that was asked for comes first; of many, the oldest are dropped, to be asked for
-/// again. Main thread.
+/// The average colours of pictures, worked out beside the main thread, one at a time, since a picture can take longer
+/// to decode than a frame lasts. The latest that was asked for comes first; of many, the oldest are dropped, to be
+/// asked for again. Main thread.
 class PictureColors final {
  public:
   using Item = std::shared_ptr<ClipboardItemViewModel>;

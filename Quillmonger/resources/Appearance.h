@@ -9,8 +9,8 @@
 
 namespace quillmonger {
 
-/// Whether the windows are dark: as the setting `selectedColorScheme` says, or else as the user has told the desktop, or
-/// else as the toolkit's own colours are. And whether they keep still. Main thread.
+/// Whether the windows are dark: as the setting `selectedColorScheme` says, or else as the user has told the desktop,
+/// or else as the toolkit's own colours are. And whether they keep still. Main thread.
 class Appearance final : public QObject {
   Q_OBJECT
   QML_ELEMENT

@@ -7,8 +7,8 @@
 
 namespace quillmonger {
 
-/// What the user has told the desktop about how every program should look. It is followed as it changes; until the desktop
-/// has answered, it has said nothing. Main thread.
+/// What the user has told the desktop about how every program should look. It is followed as it changes; until the
+/// desktop has answered, it has said nothing. Main thread.
 class DesktopPreferences {
  public:
   DesktopPreferences() = default;

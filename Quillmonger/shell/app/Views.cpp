@@ -59,10 +59,10 @@ void Views::feed(Quillmonger& root, const Pasteboard& pasteboard) {
   m_ignoreAppsViewModel = [&root]() -> IgnoreAppsViewModel& { return root.ignoreAppsViewModel(); };
   m_searchBarModel =
       std::make_unique<SearchBarModel>(root.searchViewModel().searchTerm(), m_defaults, m_clipboardText, nullptr);
-  m_clipboardViewAdapter = std::make_unique<ClipboardViewAdapter>(ClipboardViewAdapter::History{
-      history.filteredItems(), history.selectedItem(), history.isOptionPressed(),
-      [&history] { return history.items().empty(); }, [&history](const auto& item) { history.select(item); },
-      m_pictureColors});
+  m_clipboardViewAdapter = std::make_unique<ClipboardViewAdapter>(
+      ClipboardViewAdapter::History{history.filteredItems(), history.selectedItem(), history.isOptionPressed(),
+                                    [&history] { return history.items().empty(); },
+                                    [&history](const auto& item) { history.select(item); }, m_pictureColors});
   m_gettingStartedModel =
       std::make_unique<GettingStartedModel>(QStringLiteral("Shift+Super+V"), [&root] { root.finishGettingStarted(); });
 }

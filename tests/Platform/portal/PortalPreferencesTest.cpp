@@ -27,7 +27,8 @@ class PortalPreferencesTest : public testing::Test {
   void setScheme(uint scheme) { m_portal.set(appearance, colorScheme, scheme); }
 
   testing::AssertionResult shows(PortalPreferences& preferences, std::optional<ColorScheme> scheme) {
-    if (QTest::qWaitFor([&] { return preferences.colorScheme().value() == scheme; })) return testing::AssertionSuccess();
+    if (QTest::qWaitFor([&] { return preferences.colorScheme().value() == scheme; }))
+      return testing::AssertionSuccess();
     return testing::AssertionFailure() << "the scheme did not come";
   }
 
