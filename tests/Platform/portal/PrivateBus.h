@@ -4,10 +4,11 @@
 #include <QString>
 
 #include "tests/support/ChildProcess.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace testsupport {
 
-/// A session bus of the test's own, which ends with it.
+/// A bus of the test's own, which ends with it. It starts no services.
 class PrivateBus final {
  public:
   PrivateBus();
@@ -16,6 +17,7 @@ class PrivateBus final {
   [[nodiscard]] QDBusConnection connection(const QString& name) const;
 
  private:
+  TemporaryFolder m_folder;
   ChildProcess m_daemon;
   QString m_address;
 };
