@@ -21,6 +21,13 @@ class HistoryRow : public testing::Test {
     m_stage.view();
   }
 
+  // They lie above the whole view.
+  [[nodiscard]] std::vector<QQuickItem*> tips() {
+    std::vector<QQuickItem*> found;
+    testsupport::collect(m_stage.view().contentItem(), "HoverTip", found);
+    return found;
+  }
+
   [[nodiscard]] QPoint middleOf(QQuickItem* item) const {
     return item->mapToScene(item->boundingRect().center()).toPoint();
   }
@@ -106,11 +113,11 @@ TEST_F(HistoryRow, OrdersIconTextSampleIndicatorAndKeyFromTheLeadingEdge) {
 
 TEST_F(HistoryRow, NamesTheApplicationWhileThePointerRestsOnItsIcon) {
   m_stage.show({m_stage.makeItem("one", text, "Mail")});
-  ASSERT_EQ(m_stage.find("HoverTip"), nullptr);
+  ASSERT_TRUE(tips().empty());
 
   QTest::mouseMove(&m_stage.view(), middleOf(m_stage.find("AppIcon")));
 
-  ASSERT_TRUE(QTest::qWaitFor([this] { return m_stage.find("HoverTip") != nullptr; }));
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !tips().empty(); }));
 }
 
 TEST_F(HistoryRow, MakesRowsForWhatIsInViewOnly) {
