@@ -1,6 +1,7 @@
 // Measures how long the history window takes to be mapped and to be painted, as the user's eyes would: from outside, by
-// the pixels of the screen. It runs the words given to it as a command, or presses the global chord (--chord), and
-// prints the milliseconds from there to the window's map and to the first changed pixel in the middle of the screen.
+// the pixels of the screen. It runs the words given to it as a command, presses the global chord (--chord), or types a
+// letter or digit into the window that is there (--key), and prints the milliseconds from there to the window's map and
+// to the first changed pixel in the middle of the screen.
 
 #include <X11/keysym.h>
 #include <poll.h>
@@ -57,6 +58,15 @@ class Probe final {
     return seen;
   }
 
+  // Types the key of a letter or digit and returns the moment of its press.
+  Clock::time_point type(char letter) {
+    const auto pressed = Clock::now();
+    key(static_cast<xcb_keysym_t>(letter), true);
+    key(static_cast<xcb_keysym_t>(letter), false);
+    xcb_flush(m_connection);
+    return pressed;
+  }
+
   // Presses Shift+Super+V and returns the moment of V's release.
   Clock::time_point pressChord() {
     bench::TestKeyboard keyboard(m_connection);
@@ -90,16 +100,18 @@ pid_t start(char** command) {
 
 int main(int argc, char** argv) {
   if (argc < 2) {
-    std::cerr << "usage: paint_probe --chord | COMMAND...\n";
+    std::cerr << "usage: paint_probe --chord | --key LETTER | COMMAND...\n";
     return 2;
   }
   Probe probe;
   const auto before = probe.pixels();
   probe.sawMap();
-  const bool isChord = std::string(argv[1]) == "--chord";
+  const std::string what = argv[1];
   auto begin = Clock::now();
-  if (isChord) {
+  if (what == "--chord") {
     begin = probe.pressChord();
+  } else if (what == "--key" && argc == 3) {
+    begin = probe.type(argv[2][0]);
   } else {
     start(argv + 1);
   }

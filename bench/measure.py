@@ -143,8 +143,11 @@ def memory():
             desktop.quillmonger("show")
             wait_until(desktop.history_window, "the window")
             settle(desktop)
-            tell(f"{records} records of {smallest} to {largest} bytes",
-                 f"never shown {before:6.1f} MB", f"shown {desktop.memory():6.1f} MB")
+            shown = desktop.memory()
+            desktop.quillmonger("settings")
+            settle(desktop)
+            tell(f"{records} records of {smallest} to {largest} bytes", f"never shown {before:6.1f} MB",
+                 f"shown {shown:6.1f} MB", f"with the settings {desktop.memory():6.1f} MB")
 
 
 def rest():
@@ -172,6 +175,23 @@ def window():
                 desktop.dismiss()
             tell(f"chord released to painted list, {records} records", *spread(by_chord))
             tell(f"command to painted list, {records} records", *spread(by_command))
+
+
+def typing():
+    print("\nTyping, without the pause after a key")
+    for records in (10, 1000, 10_000, 100_000):
+        with Measured(records) as desktop:
+            desktop.quillmonger("defaults", "write", "searchDebounceInterval", "0")
+            desktop.start_to_ready()
+            settle(desktop)
+            delays = []
+            for number in range(ROUNDS * 2):
+                desktop.start_to_painted()
+                wait_until(lambda: desktop.focused() == desktop.history_window(), "the focus")
+                answer = desktop.run([BUILD / "bin/paint_probe", "--key", str(number % 10)])
+                delays.append(float(answer.stdout.split()[1]))
+                desktop.dismiss()
+            tell(f"key to painted hits, {records} records", *spread(delays))
 
 
 class MeasuredTerminal(targets.Terminal):
@@ -255,6 +275,6 @@ def copies():
 
 if __name__ == "__main__":
     chosen = [word for word in sys.argv[2:] if not word.startswith("--")]
-    for part in (start, window, paste, memory, rest, copies):
+    for part in (start, window, typing, paste, memory, rest, copies):
         if not chosen or part.__name__ in chosen:
             part()

@@ -53,6 +53,19 @@ std::string trimmedCopy(std::string_view text) {
   return std::string(foundation::trimmed(foundation::isValidUtf8(text) ? text : std::string_view()));
 }
 
+std::optional<RGBColor> averageColor(const PictureReading& reading, const std::optional<ScaledPicture>& picture) {
+  constexpr int edge = 20;
+  const auto pixels = picture ? reading.pixels(picture->picture, edge) : std::nullopt;
+  if (!pixels) return std::nullopt;
+  const auto average = [&pixels](unsigned shift) {
+    std::uint32_t sum = 0;
+    for (const std::uint32_t pixel : *pixels)
+      sum += (pixel >> shift) & 0xFFU;
+    return static_cast<double>(sum) / (edge * edge) / 255;
+  };
+  return RGBColor(average(16), average(8), average(0));
+}
+
 }  // namespace
 
 struct ClipboardItemViewModel::Answers {
@@ -148,24 +161,16 @@ std::optional<ScaledPicture> ClipboardItemViewModel::scaledPicture() const {
 }
 
 std::optional<RGBColor> ClipboardItemViewModel::imageColor() const {
-  auto& answer = answers().imageColor;
-  if (!answer) answer = averageColor();
-  return *answer;
+  if (const auto work = imageColorWork()) answers().imageColor = work();
+  return *answers().imageColor;
 }
 
-std::optional<RGBColor> ClipboardItemViewModel::averageColor() const {
-  constexpr int edge = 20;
-  const auto picture = image();
-  const auto pixels = picture ? m_services->pictureReading.pixels(picture->picture, edge) : std::nullopt;
-  if (!pixels) return std::nullopt;
-  const auto average = [&pixels](unsigned shift) {
-    std::uint32_t sum = 0;
-    for (const std::uint32_t pixel : *pixels)
-      sum += (pixel >> shift) & 0xFFU;
-    return static_cast<double>(sum) / (edge * edge) / 255;
-  };
-  return RGBColor(average(16), average(8), average(0));
+std::function<std::optional<RGBColor>()> ClipboardItemViewModel::imageColorWork() const {
+  if (answers().imageColor) return nullptr;
+  return [picture = image(), services = m_services] { return averageColor(services->pictureReading, picture); };
 }
+
+void ClipboardItemViewModel::setImageColor(std::optional<RGBColor> color) { answers().imageColor = color; }
 
 bool ClipboardItemViewModel::isFileURL() const {
   auto& answer = answers().isFileURL;

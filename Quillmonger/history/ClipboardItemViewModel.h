@@ -74,6 +74,10 @@ class ClipboardItemViewModel final : public Searchable, public std::enable_share
   [[nodiscard]] std::optional<ScaledPicture> image() const;
   /// The average colour of `image`, transparent parts counting as black.
   [[nodiscard]] std::optional<RGBColor> imageColor() const;
+  /// What works out `imageColor`, for `setImageColor`: any thread may call it, also after the item has gone, but not
+  /// after the services. Absent when the answer is known already.
+  [[nodiscard]] std::function<std::optional<RGBColor>()> imageColorWork() const;
+  void setImageColor(std::optional<RGBColor> color);
   [[nodiscard]] bool isFileURL() const;
   [[nodiscard]] std::optional<foundation::Url> fileURL() const;
 
@@ -95,7 +99,6 @@ class ClipboardItemViewModel final : public Searchable, public std::enable_share
   [[nodiscard]] Answers& answers() const;
   [[nodiscard]] std::optional<std::string> decodedFileURL() const;
   [[nodiscard]] std::optional<ScaledPicture> scaledPicture() const;
-  [[nodiscard]] std::optional<RGBColor> averageColor() const;
   [[nodiscard]] std::shared_ptr<const OculetResults> detect() const;
 
   foundation::Uuid m_id = foundation::Uuid::random();

@@ -17,7 +17,7 @@ struct PictureSize {
 };
 
 /// Reads encoded pictures of any program. They are hostile until read: what is too large or malformed is no picture.
-/// Main thread.
+/// Any thread, several at once.
 class PictureReading {
  public:
   PictureReading() = default;

@@ -9,7 +9,7 @@
 namespace quillmonger {
 
 Appearance::Appearance(defaults::Defaults& defaults) {
-  m_subscription = defaults.updates<std::optional<ColorScheme>>(
+  m_settingSubscription = defaults.updates<std::optional<ColorScheme>>(
       keys::selectedColorScheme, defaults::Defaults::Initial::yes, [this](const std::optional<ColorScheme>& scheme) {
         m_selectedColorScheme = scheme;
         emit isDarkChanged();
@@ -17,8 +17,20 @@ Appearance::Appearance(defaults::Defaults& defaults) {
   qGuiApp->installEventFilter(this);
 }
 
+void Appearance::follow(DesktopPreferences& desktop) {
+  m_schemeSubscription = desktop.colorScheme().follow([this](const std::optional<ColorScheme>& scheme) {
+    m_desktopColorScheme = scheme;
+    emit isDarkChanged();
+  });
+  m_motionSubscription = desktop.reducesMotion().follow([this](bool reduces) {
+    m_reducesMotion = reduces;
+    emit reducesMotionChanged();
+  });
+}
+
 bool Appearance::isDark() const {
   if (m_selectedColorScheme) return *m_selectedColorScheme == ColorScheme::dark;
+  if (m_desktopColorScheme) return *m_desktopColorScheme == ColorScheme::dark;
   const QPalette palette = QGuiApplication::palette();
   return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
 }

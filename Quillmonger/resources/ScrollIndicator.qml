@@ -13,6 +13,7 @@ Item {
 
     width: 4
     Accessible.role: Accessible.ScrollBar
+    Accessible.name: qsTrId("accessibility_scroll_bar")
 
     Rectangle {
         width: parent.width

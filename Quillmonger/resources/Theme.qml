@@ -4,6 +4,7 @@ import QtQuick
 // 4.5 to 1.
 QtObject {
     required property bool isDark
+    property bool reducesMotion: false
 
     // Backgrounds and lines
     readonly property color window: isDark ? "#22242a" : "#f8f8fa"
@@ -12,7 +13,7 @@ QtObject {
     readonly property color border: isDark ? "#44474f" : "#cfd0d8"
     readonly property color separator: isDark ? "#33363e" : "#e4e4ea"
     readonly property color switchOff: isDark ? "#707480" : "#888b97"
-    readonly property color scrollBar: isDark ? "#5a5e69" : "#bdbfc9"
+    readonly property color scrollBar: isDark ? "#787c88" : "#878a96"
 
     // Text and symbols
     readonly property color primary: isDark ? "#f1f1f4" : "#1c1d22"
@@ -60,8 +61,8 @@ QtObject {
     readonly property FontMetrics rowMetrics: FontMetrics { font.pixelSize: 16 }
 
     // Milliseconds. Long enough to be followed with the eye, too short to be waited for.
-    readonly property int rowMotion: 90
-    readonly property int fade: 140
+    readonly property int rowMotion: reducesMotion ? 0 : 90
+    readonly property int fade: reducesMotion ? 0 : 140
     // Until a pointer at rest asks what is below it.
     readonly property int tipDelay: 600
 }

@@ -30,7 +30,7 @@ ViewStage::ViewStage() : m_appearance(m_itemServices.settings.defaults), m_setti
                             new quillmonger::ImageCache([](const std::string& path) { return path + ".svg"; }));
   m_adapter = std::make_unique<quillmonger::ClipboardViewAdapter>(quillmonger::ClipboardViewAdapter::History{
       m_rows, m_selectedItem, m_isOptionPressed, [this] { return m_shownItems.empty(); },
-      [this](const Item& item) { m_selectedItem.set(item); }});
+      [this](const Item& item) { m_selectedItem.set(item); }, m_pictureColors});
   m_searchBar = std::make_unique<quillmonger::SearchBarModel>(
       m_searchTerm, m_itemServices.settings.defaults, [this] { return m_clipboardText; },
       [this] { ++m_previewToggleCount; });
@@ -67,6 +67,11 @@ void ViewStage::showRows(std::vector<Row> rows) {
 }
 
 void ViewStage::select(std::size_t row) { m_selectedItem.set(m_rows.value()->at(row).item->shared_from_this()); }
+
+void ViewStage::finishWork() {
+  m_queue.run();
+  m_runLoop.runPosted();
+}
 
 QQuickView& ViewStage::view() {
   if (!m_view) {

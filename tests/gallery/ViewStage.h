@@ -14,8 +14,10 @@
 #include "Quillmonger/history/view/HistorySettings.h"
 #include "Quillmonger/resources/Appearance.h"
 #include "Quillmonger/search/view/SearchBarModel.h"
+#include "tests/support/InlineBackgroundQueue.h"
 #include "tests/support/ItemServices.h"
 #include "tests/support/TemporaryFolder.h"
+#include "tests/support/VirtualRunLoop.h"
 
 namespace testsupport {
 
@@ -40,6 +42,10 @@ class ViewStage final {
   void select(std::size_t row);
 
   defaults::Defaults& defaults() { return m_itemServices.settings.defaults; }
+  FakePictureReading& pictures() { return m_itemServices.pictures; }
+  quillmonger::PictureColors& pictureColors() { return m_pictureColors; }
+  /// Lets the work beside the main thread be done.
+  void finishWork();
   foundation::Published<std::string>& searchTerm() { return m_searchTerm; }
   foundation::Published<bool>& isOptionPressed() { return m_isOptionPressed; }
   FakeClipboard& clipboard() { return m_itemServices.clipboard; }
@@ -67,6 +73,9 @@ class ViewStage final {
   foundation::Published<bool> m_isOptionPressed{false};
   foundation::Published<std::string> m_searchTerm;
   std::string m_clipboardText;
+  InlineBackgroundQueue m_queue;
+  VirtualRunLoop m_runLoop;
+  quillmonger::PictureColors m_pictureColors{m_queue, m_runLoop};
   int m_previewToggleCount = 0;
   quillmonger::Appearance m_appearance;
   quillmonger::HistorySettings m_settings;

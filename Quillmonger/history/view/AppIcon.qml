@@ -16,4 +16,10 @@ Image {
     source: path === "" ? "" : "image://appicon/" + encodeURIComponent(path)
     Accessible.role: Accessible.Graphic
     Accessible.name: qsTrId("accessibility_app_icon").arg(toolTip)
+
+    HoverTip {
+        visible: icon.toolTip !== ""
+        text: icon.toolTip
+        theme: icon.theme
+    }
 }

@@ -15,8 +15,13 @@ FocusScope {
     // Whether what is transparent shows what lies behind the window. Corners would be black otherwise.
     property bool blendsTransparency: true
 
-    readonly property Theme theme: Theme { isDark: app.appearance.isDark }
+    readonly property Theme theme: Theme {
+        isDark: app.appearance.isDark
+        reducesMotion: app.appearance.reducesMotion
+    }
 
+    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
     implicitWidth: 600
     implicitHeight: 445
     focus: true

@@ -14,8 +14,10 @@ Item {
     required property bool hasOculetResults
     required property var textColor
     required property bool isImage
+    required property var imageColor
     required property bool isFileURL
 
+    required property int count
     required property ClipboardViewAdapter clipboard
     required property HistorySettings settings
     required property Theme theme
@@ -27,6 +29,7 @@ Item {
     clip: true
     Accessible.role: Accessible.ListItem
     Accessible.name: isImage && line === "" ? qsTrId("accessibility_picture") : line
+    Accessible.description: qsTrId("accessibility_row").arg(index + 1).arg(count)
     Accessible.selectable: true
     Accessible.selected: isSelected
     Accessible.onPressAction: clipboard.select(index)
@@ -49,12 +52,23 @@ Item {
         theme: row.theme
     }
 
+    ColorBar {
+        anchors { left: words.left; right: words.right; verticalCenter: parent.verticalCenter }
+        visible: row.isImage && row.imageColor !== undefined
+        withGradient: true
+        sample: row.imageColor !== undefined ? row.imageColor : "transparent"
+        isSelected: row.isSelected
+        theme: row.theme
+    }
+
     TextBar {
+        id: words
         anchors {
             left: icon.right; leftMargin: 8
             right: marks.left; rightMargin: 8
             verticalCenter: parent.verticalCenter
         }
+        visible: !row.isImage || row.imageColor === undefined
         attributedLine: row.attributedLine
         isSelected: row.isSelected
         isFileURL: row.isFileURL
@@ -70,7 +84,7 @@ Item {
 
         ColorBar {
             anchors.verticalCenter: parent.verticalCenter
-            visible: row.settings.showColorIndicator && row.textColor !== undefined
+            visible: row.settings.showColorIndicator && words.visible && row.textColor !== undefined
             sample: row.textColor !== undefined ? row.textColor : "transparent"
             isSelected: row.isSelected
             theme: row.theme

@@ -34,6 +34,7 @@ Item {
 
         delegate: ClipboardItemView {
             width: ListView.view.width
+            count: ListView.view.count
             clipboard: view.clipboard
             settings: view.settings
             theme: view.theme

@@ -20,17 +20,24 @@ QString iconPath(const ClipboardItemViewModel& item) {
   return url ? QString::fromStdString(url->filePath().value_or(std::string())) : QString();
 }
 
+QColor screenColor(const RGBColor& rgb) {
+  return QColor::fromRgbF(static_cast<float>(rgb.red()), static_cast<float>(rgb.green()),
+                          static_cast<float>(rgb.blue()));
+}
+
 QVariant textColor(const ClipboardItemViewModel& item) {
   if (!item.hasOculetResults()) return {};
   const auto results = item.oculetResults();
   const auto* const color = colorResult(*results);
   if (color == nullptr) return {};
-  const auto rgb = colorComponents(*color, ColorSpace::genericRGB);
-  return QColor::fromRgbF(static_cast<float>(rgb.red()), static_cast<float>(rgb.green()),
-                          static_cast<float>(rgb.blue()));
+  return screenColor(colorComponents(*color, ColorSpace::genericRGB));
 }
 
 }  // namespace
+
+HistoryListModel::HistoryListModel(PictureColors& pictureColors)
+    : m_pictureColors(pictureColors),
+      m_colorSubscription(pictureColors.found().subscribe([this](const auto& item) { updateImageColor(item); })) {}
 
 int HistoryListModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(m_rows->size());
@@ -54,6 +61,8 @@ QVariant HistoryListModel::data(const QModelIndex& index, int role) const {
       return textColor(*row.item);
     case isImageRole:
       return row.item->isImage();
+    case imageColorRole:
+      return imageColor(*row.item);
     case isFileURLRole:
       return row.item->isFileURL();
     default:
@@ -69,7 +78,19 @@ QHash<int, QByteArray> HistoryListModel::roleNames() const {
           {hasOculetResultsRole, "hasOculetResults"},
           {textColorRole, "textColor"},
           {isImageRole, "isImage"},
+          {imageColorRole, "imageColor"},
           {isFileURLRole, "isFileURL"}};
+}
+
+QVariant HistoryListModel::imageColor(ClipboardItemViewModel& item) const {
+  if (!item.isImage()) return {};
+  const auto color = m_pictureColors.color(item.shared_from_this());
+  return color ? screenColor(*color) : QVariant();
+}
+
+void HistoryListModel::updateImageColor(const PictureColors::Item& item) {
+  const int row = rowOf(item);
+  if (row >= 0) emit dataChanged(index(row), index(row), {imageColorRole});
 }
 
 // What stays at both ends is left alone; what lies between goes, and what lies between in the new rows comes.

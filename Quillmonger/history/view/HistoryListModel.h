@@ -3,7 +3,7 @@
 #include <QtQml/qqmlregistration.h>
 #include <QAbstractListModel>
 
-#include "Quillmonger/history/ClipboardItemViewModel.h"
+#include "Quillmonger/history/PictureColors.h"
 #include "Quillmonger/search/SearchResult.h"
 
 namespace quillmonger {
@@ -25,9 +25,13 @@ class HistoryListModel : public QAbstractListModel {
     hasOculetResultsRole,     ///< whether anything was recognised in the text
     textColorRole,            ///< the colour that the text names; undefined when it names none
     isImageRole,
+    imageColorRole,  ///< the picture's average colour; undefined until it is known, and where there is none
     isFileURLRole
   };
   enum class Change { gradual, reset };
+
+  /// `pictureColors` outlives this object.
+  explicit HistoryListModel(PictureColors& pictureColors);
 
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
@@ -41,9 +45,13 @@ class HistoryListModel : public QAbstractListModel {
   [[nodiscard]] int rowOf(const std::shared_ptr<ClipboardItemViewModel>& item) const;
 
  private:
+  [[nodiscard]] QVariant imageColor(ClipboardItemViewModel& item) const;
+  void updateImageColor(const PictureColors::Item& item);
   void updateMatches(const Rows& before);
 
+  PictureColors& m_pictureColors;
   Rows m_rows = std::make_shared<const SearchResultList<ClipboardItemViewModel>>();
+  foundation::Subscription m_colorSubscription;
 };
 
 }  // namespace quillmonger

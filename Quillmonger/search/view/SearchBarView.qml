@@ -17,6 +17,9 @@ FocusScope {
         name: bar.model.isIncognitoMode ? "IncognitoIcon" : "magnifyingglass"
         color: bar.theme.secondary
         size: bar.theme.symbolSize
+        Accessible.role: Accessible.Graphic
+        Accessible.name: bar.model.isIncognitoMode ? qsTrId("accessibility_incognito") : ""
+        Accessible.ignored: !bar.model.isIncognitoMode
     }
 
     TextInput {
@@ -30,6 +33,7 @@ FocusScope {
         focus: true
         clip: true
         selectByMouse: true
+        horizontalAlignment: TextInput.AlignLeft
         renderType: Text.NativeRendering
         font { pixelSize: bar.theme.searchFontSize; weight: Font.Light }
         color: bar.theme.primary
@@ -60,7 +64,7 @@ FocusScope {
         Text {
             id: placeholder
             objectName: "SearchPlaceholder"
-            x: 2
+            anchors { left: parent.left; leftMargin: 2 }
             visible: field.text === "" && field.preeditText === ""
             renderType: Text.NativeRendering
             font: field.font
@@ -80,11 +84,25 @@ FocusScope {
         Accessible.name: qsTrId("toggle_preview_pane_button_help")
         Accessible.onPressAction: bar.model.togglePreview()
 
+        Rectangle {
+            anchors.fill: parent
+            radius: bar.theme.rowRadius
+            antialiasing: true
+            color: hover.hovered ? bar.theme.separator : "transparent"
+        }
+
         Symbol {
             anchors.centerIn: parent
             name: "sidebar.right"
             color: bar.theme.secondary
             size: bar.theme.symbolSize
+        }
+
+        HoverHandler { id: hover }
+
+        HoverTip {
+            text: qsTrId("toggle_preview_pane_button_help")
+            theme: bar.theme
         }
 
         TapHandler { onTapped: bar.model.togglePreview() }

@@ -70,6 +70,7 @@ Composition::Composition(const platform::XdgFolders& folders, const std::vector<
       m_bundleProvider([this] { return m_pasteboard->frontmostAtPresentContent(); }, m_desktopEntries),
       m_installedApplications(m_desktopEntries, platform::XdgFolders::ownEnvironment),
       m_application(*m_windowSystem),
+      m_desktopPreferences(QDBusConnection::sessionBus()),
       m_views(
           m_defaults, *m_windowSystem, [this](const std::string& path) { return iconOf(path); },
           {m_installedApplications, m_backgroundQueue, m_runLoop}, m_notificationCenter),
@@ -107,6 +108,7 @@ Composition::Composition(const platform::XdgFolders& folders, const std::vector<
               resource,
               platform::SoundProcess::factory(soundPlayer())}),
       m_commandLine(commandOperations(), m_defaults) {
+  m_views.follow(m_desktopPreferences);
   m_views.feed(m_root, *m_pasteboard);
   m_resigning = m_application.onDidResignActive([this] { m_root.applicationDidResignActive(); });
 }

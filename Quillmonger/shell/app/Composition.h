@@ -19,6 +19,7 @@
 #include "Platform/freedesktop/DesktopEntries.h"
 #include "Platform/freedesktop/DesktopInstalledApplications.h"
 #include "Platform/freedesktop/XdgFolders.h"
+#include "Platform/portal/PortalPreferences.h"
 #include "Platform/qt/QtApplication.h"
 #include "Platform/qt/QtBackgroundQueue.h"
 #include "Platform/qt/QtLocalEventMonitor.h"
@@ -89,6 +90,7 @@ class Composition final {
   platform::QtApplication m_application;
   // After all that its work asks, which may still go on when the root has gone.
   platform::QtBackgroundQueue m_backgroundQueue;
+  platform::PortalPreferences m_desktopPreferences;
   Views m_views;
   platform::StatusNotifierBar m_statusBar;
   UnconfiguredUpdater m_updater;

@@ -35,6 +35,9 @@ class Views final {
   Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCache::IconNaming iconNaming,
         const AppPickerViewModel::Collaborators& applications, foundation::NotificationCenter& notificationCenter);
 
+  /// Heeds what the user has told the desktop. It outlives the views.
+  void follow(DesktopPreferences& desktop) { m_appearance.follow(desktop); }
+
   [[nodiscard]] platform::QtQuickWindow& appWindow() { return m_appWindow; }
   [[nodiscard]] platform::QtQuickWindow& gettingStartedWindow() { return m_gettingStartedWindow; }
   [[nodiscard]] SettingsWindowController& settingsWindowController() { return m_settingsController; }
@@ -64,6 +67,7 @@ class Views final {
   foundation::NotificationCenter& m_notificationCenter;
   ImageCache::IconNaming m_iconNaming;
   Appearance m_appearance;
+  PictureColors m_pictureColors;
   HistorySettings m_historySettings;
   IgnoreSettings m_ignoreSettings;
   AboutModel m_aboutModel;

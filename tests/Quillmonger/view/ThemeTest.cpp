@@ -31,17 +31,28 @@ struct Pair {
 
 class ThemeContrast : public testing::TestWithParam<std::tuple<bool, Pair>> {};
 
-TEST_P(ThemeContrast, IsReadable) {
-  const auto& [isDark, pair] = GetParam();
+// 0 when there is no such theme.
+double contrastOf(const std::tuple<bool, Pair>& row) {
+  const auto& [isDark, pair] = row;
   QQmlEngine engine;
   quillmonger::resourcesview::registerTypes(engine);
   QQmlComponent component(&engine, QUrl("qrc:/qt-project.org/imports/Quillmonger/Resources/Theme.qml"));
   const std::unique_ptr<QObject> theme(component.createWithInitialProperties({{"isDark", isDark}}));
-  ASSERT_NE(theme, nullptr) << component.errorString().toStdString();
-
-  EXPECT_GE(contrast(theme->property(pair.text).value<QColor>(), theme->property(pair.background).value<QColor>()),
-            4.5);
+  if (!theme) return 0;
+  return contrast(theme->property(pair.text).value<QColor>(), theme->property(pair.background).value<QColor>());
 }
+
+std::string nameOf(const testing::TestParamInfo<std::tuple<bool, Pair>>& row) {
+  const Pair& pair = std::get<1>(row.param);
+  return std::string(pair.text) + "_on_" + pair.background + (std::get<0>(row.param) ? "_dark" : "_light");
+}
+
+TEST_P(ThemeContrast, IsReadable) { EXPECT_GE(contrastOf(GetParam()), 4.5); }
+
+// What is no text but must be seen.
+class ThemeMark : public testing::TestWithParam<std::tuple<bool, Pair>> {};
+
+TEST_P(ThemeMark, IsSeen) { EXPECT_GE(contrastOf(GetParam()), 3.0); }
 
 INSTANTIATE_TEST_SUITE_P(
     Theme, ThemeContrast,
@@ -50,9 +61,12 @@ INSTANTIATE_TEST_SUITE_P(
                                      Pair{"accentColor", "window"}, Pair{"selectedPrimary", "highlightColor"},
                                      Pair{"selectedSecondary", "highlightColor"}, Pair{"primary", "separator"},
                                      Pair{"primary", "field"}, Pair{"secondary", "field"}, Pair{"tertiary", "field"})),
-    [](const testing::TestParamInfo<std::tuple<bool, Pair>>& row) {
-      const Pair& pair = std::get<1>(row.param);
-      return std::string(pair.text) + "_on_" + pair.background + (std::get<0>(row.param) ? "_dark" : "_light");
-    });
+    nameOf);
+
+INSTANTIATE_TEST_SUITE_P(Theme, ThemeMark,
+                         testing::Combine(testing::Bool(),
+                                          testing::Values(Pair{"scrollBar", "window"}, Pair{"accentColor", "field"},
+                                                          Pair{"switchOff", "window"})),
+                         nameOf);
 
 }  // namespace
