@@ -60,9 +60,10 @@ class Probe final {
 
   // Types the key of a letter or digit and returns the moment of its press.
   Clock::time_point type(char letter) {
+    bench::TestKeyboard keyboard(m_connection);
     const auto pressed = Clock::now();
-    key(static_cast<xcb_keysym_t>(letter), true);
-    key(static_cast<xcb_keysym_t>(letter), false);
+    keyboard.key(static_cast<xcb_keysym_t>(letter), true);
+    keyboard.key(static_cast<xcb_keysym_t>(letter), false);
     xcb_flush(m_connection);
     return pressed;
   }

@@ -33,8 +33,6 @@ std::optional<ColorScheme> scheme(const QVariant& value) {
 
 PortalPreferences::PortalPreferences(const QDBusConnection& bus)
     : m_bus(bus), m_watcher(service, bus, QDBusServiceWatcher::WatchForRegistration) {
-  m_bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
-                SLOT(take(QString, QString, QDBusVariant)));
   connect(&m_watcher, &QDBusServiceWatcher::serviceRegistered, this, [this] { ask(); });
   ask();
 }
@@ -51,12 +49,25 @@ void PortalPreferences::ask() {
 }
 
 void PortalPreferences::takeAll(const QDBusMessage& answer) {
-  if (answer.type() != QDBusMessage::ReplyMessage || answer.signature() != QLatin1String("a{sa{sv}}")) return;
+  if (answer.type() != QDBusMessage::ReplyMessage) return;
+  if (answer.service() != m_portal) listenTo(answer.service());
+  if (answer.signature() != QLatin1String("a{sa{sv}}")) return;
   const auto settings = qdbus_cast<QMap<QString, QVariantMap>>(answer.arguments().constFirst());
   for (auto space = settings.begin(); space != settings.end(); ++space) {
     for (auto entry = space->begin(); entry != space->end(); ++entry)
       take(space.key(), entry.key(), QDBusVariant(entry.value()));
   }
+}
+
+// By its unique name: the bus and the toolkit can be of two minds for a moment on who owns the well-known one. What
+// changed between its answer and now is asked for again.
+void PortalPreferences::listenTo(const QString& portal) {
+  const QString signal = QStringLiteral("SettingChanged");
+  const char* const slot = SLOT(take(QString, QString, QDBusVariant));
+  if (!m_portal.isEmpty()) m_bus.disconnect(m_portal, path, interface, signal, this, slot);
+  m_portal = portal;
+  m_bus.connect(m_portal, path, interface, signal, this, slot);
+  ask();
 }
 
 void PortalPreferences::take(const QString& settingNamespace, const QString& key, const QDBusVariant& wrapped) {

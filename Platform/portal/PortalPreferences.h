@@ -30,10 +30,13 @@ class PortalPreferences final : public QObject, public quillmonger::DesktopPrefe
 
  private:
   void ask();
+  void listenTo(const QString& portal);
   void takeAll(const QDBusMessage& answer);
 
   QDBusConnection m_bus;
   QDBusServiceWatcher m_watcher;
+  /// That answered last.
+  QString m_portal;
   foundation::Published<std::optional<quillmonger::ColorScheme>> m_colorScheme;
   foundation::Published<bool> m_reducesMotion{false};
 };
