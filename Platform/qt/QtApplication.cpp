@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "Platform/qt/QtQuickWindow.h"
+#include "Platform/qt/QuickView.h"
 
 namespace platform {
 

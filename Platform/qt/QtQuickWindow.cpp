@@ -4,65 +4,48 @@
 #include <QGuiApplication>
 #include <QQmlEngine>
 #include <QQuickItem>
-#include <QQuickView>
+#include <QRegion>
 #include <QScreen>
 #include <QSurfaceFormat>
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "Foundation/Fatal.h"
+#include "Platform/qt/QuickView.h"
 
 namespace platform {
 
 namespace {
 
 constexpr double heightAboveCentre = 0.4;  // of the free height, the part that is left above the window
+constexpr int floatingLevel = 3;
+constexpr int ordinaryLevel = 0;
+
+// The screens' places are given in pixels, unlike their sizes.
+QScreen* screenAt(const quillmonger::WindowSystem::Pixel& pixel) {
+  const auto screens = QGuiApplication::screens();
+  const auto found = std::ranges::find_if(screens, [&pixel](const QScreen* screen) {
+    const QRect points = screen->geometry();
+    return QRect(points.topLeft(), points.size() * screen->devicePixelRatio()).contains(pixel.x, pixel.y);
+  });
+  return found == screens.end() ? nullptr : *found;
+}
 
 }  // namespace
 
-class QtQuickWindow::View final : public QQuickView {
- public:
-  View(QQmlEngine& engine, quillmonger::WindowSystem& windowSystem)
-      : QQuickView(&engine, nullptr), m_windowSystem(windowSystem) {}
-
-  // The window manager must know the window before it is asked for the front.
-  void showInFront() {
-    m_comesToFront = !isExposed();
-    if (!isActive()) setProperty(awaitsFrontProperty, true);
-    show();
-    raise();
-    if (isExposed()) m_windowSystem.bringToFront(winId());
-  }
-
- private:
-  void exposeEvent(QExposeEvent* event) override {
-    QQuickView::exposeEvent(event);
-    if (isExposed() && std::exchange(m_comesToFront, false)) m_windowSystem.bringToFront(winId());
-  }
-
-  void focusInEvent(QFocusEvent* event) override {
-    setProperty(awaitsFrontProperty, false);
-    QQuickView::focusInEvent(event);
-  }
-
-  void hideEvent(QHideEvent* event) override {
-    setProperty(awaitsFrontProperty, false);
-    QQuickView::hideEvent(event);
-  }
-
-  quillmonger::WindowSystem& m_windowSystem;
-  bool m_comesToFront = false;
-};
-
 QtQuickWindow::QtQuickWindow(Description description, quillmonger::WindowSystem& windowSystem)
-    : m_description(std::move(description)), m_windowSystem(windowSystem) {}
+    : m_description(std::move(description)),
+      m_windowSystem(windowSystem),
+      m_level(m_description.kind == Kind::dialog ? ordinaryLevel : floatingLevel) {}
 
 QtQuickWindow::~QtQuickWindow() = default;
 
 void QtQuickWindow::prepare() {
   if (m_view) return;
-  m_view = std::make_unique<View>(m_description.engine(), m_windowSystem);
+  m_view = std::make_unique<QuickView>(m_description.engine(), m_windowSystem);
   m_view->setTitle(m_description.title);
-  m_view->setResizeMode(QQuickView::SizeRootObjectToView);
+  m_view->setProperty(levelProperty, m_level);
   applyKind();
   Content content = m_description.content();
   m_view->setInitialProperties(content.initialProperties);
@@ -112,10 +95,45 @@ void QtQuickWindow::unload() { m_view.reset(); }
 
 bool QtQuickWindow::isVisible() const { return m_view && m_view->isVisible(); }
 
+quillmonger::WindowFrame QtQuickWindow::frame() const {
+  const QRect place = m_view ? m_view->geometry() : QRect(QPoint(), m_description.size);
+  return {static_cast<double>(place.x()), static_cast<double>(place.y() + place.height()),
+          static_cast<double>(place.width()), static_cast<double>(place.height())};
+}
+
+double QtQuickWindow::paneWidth() {
+  prepare();
+  const QRegion mask = m_view->mask();
+  return mask.isEmpty() ? m_view->width() : mask.boundingRect().right() + 1;
+}
+
+void QtQuickWindow::setFrame(const quillmonger::WindowFrame& frame) {
+  prepare();
+  m_view->setGeometry(static_cast<int>(std::lround(frame.left)),
+                      static_cast<int>(std::lround(frame.bottom - frame.height)),
+                      static_cast<int>(std::lround(frame.width)), static_cast<int>(std::lround(frame.height)));
+}
+
+void QtQuickWindow::setAlpha(double alpha) {
+  prepare();
+  m_view->setOpacity(alpha);
+}
+
+void QtQuickWindow::setLevel(int level) {
+  m_level = level;
+  if (m_view) m_view->setProperty(levelProperty, level);
+}
+
+QScreen* QtQuickWindow::screenInUse() const {
+  const auto focused = m_windowSystem.focusedWindowCentre();
+  QScreen* screen = focused ? screenAt(*focused) : nullptr;
+  if (screen == nullptr) screen = QGuiApplication::screenAt(QCursor::pos());
+  return screen == nullptr ? QGuiApplication::primaryScreen() : screen;
+}
+
 void QtQuickWindow::center() {
   prepare();
-  QScreen* screen = QGuiApplication::screenAt(QCursor::pos());
-  if (screen == nullptr) screen = QGuiApplication::primaryScreen();
+  QScreen* screen = screenInUse();
   if (screen == nullptr) return;
   const QRect free = screen->availableGeometry();
   const int x = free.x() + (free.width() - m_view->width()) / 2;
@@ -124,19 +142,36 @@ void QtQuickWindow::center() {
   m_view->setPosition(std::max(x, free.x()), std::max(y, free.y()));
 }
 
+void QtQuickWindow::makeRoomAtRight(double width) {
+  if (!m_view || m_view->screen() == nullptr) return;
+  const QRect free = m_view->screen()->availableGeometry();
+  const int furthestRight = free.x() + free.width() - static_cast<int>(std::ceil(width)) - m_view->width();
+  if (m_view->x() > furthestRight) m_view->setPosition(std::max(furthestRight, free.x()), m_view->y());
+}
+
 void QtQuickWindow::makeKeyAndOrderFront() {
-  prepare();
-  if (m_description.kind == Kind::palette) {
-    m_view->rootObject()->setProperty("blendsTransparency", m_windowSystem.blendsTransparency());
-    if (!isVisible()) m_windowSystem.keepOutOfTaskList(m_view->winId());
-  }
+  prepareToShow();
   m_view->showInFront();
+}
+
+void QtQuickWindow::orderFront() {
+  prepareToShow();
+  m_view->showBehindTheFront();
+}
+
+void QtQuickWindow::prepareToShow() {
+  prepare();
+  if (m_description.kind == Kind::dialog) return;
+  m_view->rootObject()->setProperty("blendsTransparency", m_windowSystem.blendsTransparency());
+  if (!isVisible()) m_windowSystem.keepOutOfTaskList(m_view->winId());
 }
 
 QQuickView* QtQuickWindow::view() const { return m_view.get(); }
 
 void QtQuickWindow::orderOut() {
-  if (m_view) m_view->hide();
+  if (!m_view) return;
+  m_view->handOverFront();
+  m_view->hide();
 }
 
 }  // namespace platform

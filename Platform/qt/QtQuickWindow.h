@@ -7,20 +7,20 @@
 #include <functional>
 #include <memory>
 
-#include "Quillmonger/shell/windows/Window.h"
+#include "Quillmonger/shell/windows/Panel.h"
 #include "Quillmonger/shell/windows/WindowSystem.h"
 
 class QQmlEngine;
 class QQuickView;
+class QScreen;
 
 namespace platform {
 
-/// The property of a `QWindow` that has asked for the front and hasn't come there yet.
-inline constexpr auto awaitsFrontProperty = "awaitsFront";
+class QuickView;
 
 /// A window whose content is a Qt Quick view tree. The tree is loaded when it is first needed, or earlier by
 /// `prepare`, and stays painted while the window is hidden, so that showing it is instant.
-class QtQuickWindow final : public quillmonger::Window {
+class QtQuickWindow final : public quillmonger::Panel {
  public:
   enum class Kind {
     palette,  ///< no frame, above the other windows, no entry in the task list, corners of the content's own
@@ -50,23 +50,35 @@ class QtQuickWindow final : public quillmonger::Window {
   void unload();
 
   [[nodiscard]] bool isVisible() const override;
-  /// On the screen with the pointer.
+  [[nodiscard]] quillmonger::WindowFrame frame() const override;
+  [[nodiscard]] int level() const override { return m_level; }
+  /// As far as the content's mask of the window goes, if it sets one. Loads the tree.
+  [[nodiscard]] double paneWidth() override;
+  void setFrame(const quillmonger::WindowFrame& frame) override;
+  void setAlpha(double alpha) override;
+  void setLevel(int level) override;
+  /// On the screen with the window that has the keyboard, or else with the pointer.
   void center() override;
+  void makeRoomAtRight(double width) override;
+  void orderFront() override;
   void makeKeyAndOrderFront() override;
+  /// If it has the keyboard, it hands it to a window of the program that stands above it.
   void orderOut() override;
 
   /// Null before `prepare`.
   [[nodiscard]] QQuickView* view() const;
 
  private:
-  class View;
   void applyKind();
   void followSize();
   void applySize(const QSize& size);
+  void prepareToShow();
+  [[nodiscard]] QScreen* screenInUse() const;
 
   Description m_description;
   quillmonger::WindowSystem& m_windowSystem;
-  std::unique_ptr<View> m_view;
+  int m_level;
+  std::unique_ptr<QuickView> m_view;
 };
 
 }  // namespace platform

@@ -2,13 +2,16 @@
 
 #include <algorithm>
 
+#include "Platform/x11/X11Property.h"
 #include "Platform/x11/X11Requests.h"
+#include "Platform/x11/XSettings.h"
 
 namespace platform {
 
 namespace {
 
 constexpr std::uint32_t stateLimit = 64;
+constexpr std::size_t settingsLimit = std::size_t{256} << 10;
 // A pager speaks for the user: a window manager that guards the focus lets its requests through.
 constexpr std::uint32_t sourceIsPager = 2;
 
@@ -40,7 +43,11 @@ X11WindowSystem::X11WindowSystem(xcb_connection_t* connection, const xcb_screen_
       m_state(internAtom(connection, "_NET_WM_STATE")),
       m_skipTaskbar(internAtom(connection, "_NET_WM_STATE_SKIP_TASKBAR")),
       m_skipPager(internAtom(connection, "_NET_WM_STATE_SKIP_PAGER")),
-      m_activeWindow(internAtom(connection, "_NET_ACTIVE_WINDOW")) {
+      m_activeWindow(internAtom(connection, "_NET_ACTIVE_WINDOW")),
+      m_windowType(internAtom(connection, "_NET_WM_WINDOW_TYPE")),
+      m_desktopType(internAtom(connection, "_NET_WM_WINDOW_TYPE_DESKTOP")),
+      m_settingsOwner(internAtom(connection, "_XSETTINGS_S" + std::to_string(screenIndex))),
+      m_settings(internAtom(connection, "_XSETTINGS_SETTINGS")) {
   const std::uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
   xcb_create_window(connection, XCB_COPY_FROM_PARENT, m_clock, m_root, 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
                     XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK, &events);
@@ -49,11 +56,34 @@ X11WindowSystem::X11WindowSystem(xcb_connection_t* connection, const xcb_screen_
 
 X11WindowSystem::~X11WindowSystem() { xcb_disconnect(m_connection); }
 
-bool X11WindowSystem::blendsTransparency() const {
-  const auto cookie = xcb_get_selection_owner(m_connection, m_compositor);
+xcb_window_t X11WindowSystem::owner(xcb_atom_t selection) const {
+  const auto cookie = xcb_get_selection_owner(m_connection, selection);
   const ReplyPointer<xcb_get_selection_owner_reply_t> reply(
       xcb_get_selection_owner_reply(m_connection, cookie, nullptr));
-  return reply && reply->owner != XCB_NONE;
+  return reply ? reply->owner : xcb_window_t{XCB_NONE};
+}
+
+bool X11WindowSystem::blendsTransparency() const { return owner(m_compositor) != XCB_NONE; }
+
+bool X11WindowSystem::reducesMotion() const {
+  const xcb_window_t service = owner(m_settingsOwner);
+  if (service == XCB_NONE) return false;
+  const auto settings = readProperty(m_connection, service, m_settings, settingsLimit, AfterReading::keepProperty);
+  return settings && xSettingsNumber(settings->bytes, "Gtk/EnableAnimations") == 0;
+}
+
+std::optional<quillmonger::WindowSystem::Pixel> X11WindowSystem::focusedWindowCentre() const {
+  const auto active = numbersProperty(m_connection, m_root, m_activeWindow, XCB_ATOM_WINDOW, 1);
+  if (active.empty() || active.front() == XCB_NONE) return std::nullopt;
+  const auto types = numbersProperty(m_connection, active.front(), m_windowType, XCB_ATOM_ATOM, stateLimit);
+  if (std::ranges::find(types, m_desktopType) != types.end()) return std::nullopt;
+  const auto geometryCookie = xcb_get_geometry(m_connection, active.front());
+  const auto placeCookie = xcb_translate_coordinates(m_connection, active.front(), m_root, 0, 0);
+  const ReplyPointer<xcb_get_geometry_reply_t> geometry(xcb_get_geometry_reply(m_connection, geometryCookie, nullptr));
+  const ReplyPointer<xcb_translate_coordinates_reply_t> place(
+      xcb_translate_coordinates_reply(m_connection, placeCookie, nullptr));
+  if (!geometry || !place) return std::nullopt;
+  return Pixel{place->dst_x + geometry->width / 2, place->dst_y + geometry->height / 2};
 }
 
 // A hidden window's state is a property that its own program writes; the window manager reads it when it is shown.

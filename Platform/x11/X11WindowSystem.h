@@ -3,25 +3,31 @@
 #include <xcb/xcb.h>
 
 #include <memory>
+#include <optional>
 #include <string>
 
+#include "Quillmonger/shell/windows/MotionPreference.h"
 #include "Quillmonger/shell/windows/WindowSystem.h"
 
 namespace platform {
 
 /// The X server and its window manager, on a connection of its own. Main thread; waits for the server alone.
-class X11WindowSystem final : public quillmonger::WindowSystem {
+class X11WindowSystem final : public quillmonger::WindowSystem, public quillmonger::MotionPreference {
  public:
   /// Null when there is no X server.
   [[nodiscard]] static std::unique_ptr<X11WindowSystem> connect(const std::string& display = {});
   ~X11WindowSystem() override;
 
   [[nodiscard]] bool blendsTransparency() const override;
+  [[nodiscard]] std::optional<Pixel> focusedWindowCentre() const override;
   void keepOutOfTaskList(WindowId window) override;
   void bringToFront(WindowId window) override;
+  /// As the desktop's settings service tells every program of the display.
+  [[nodiscard]] bool reducesMotion() const override;
 
  private:
   X11WindowSystem(xcb_connection_t* connection, const xcb_screen_t& screen, int screenIndex);
+  [[nodiscard]] xcb_window_t owner(xcb_atom_t selection) const;
   [[nodiscard]] xcb_timestamp_t serverTime() const;
 
   xcb_connection_t* m_connection;
@@ -32,6 +38,10 @@ class X11WindowSystem final : public quillmonger::WindowSystem {
   xcb_atom_t m_skipTaskbar;
   xcb_atom_t m_skipPager;
   xcb_atom_t m_activeWindow;
+  xcb_atom_t m_windowType;
+  xcb_atom_t m_desktopType;
+  xcb_atom_t m_settingsOwner;
+  xcb_atom_t m_settings;
 };
 
 }  // namespace platform

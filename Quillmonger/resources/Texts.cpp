@@ -16,6 +16,14 @@ struct Entry {
 
 constexpr auto entries = std::to_array<Entry>({
     {"%lld lines", "{0, plural, one {# line} other {# lines}}", "How many lines a text has, as an ICU message."},
+    {"about_acknowledgements_button", "Acknowledgements", "About: opens the list of the libraries in use."},
+    {"about_licence", "Free software under the GNU General Public License, version 3",
+     "About: the second line of rights."},
+    {"about_privacy_button", "Privacy", "About: opens the page on privacy."},
+    {"about_rights", "\u00A9 2026 The Quillmonger authors", "About: the first line of rights."},
+    {"about_title", "About Quillmonger", "Title of the window that says what this program is."},
+    {"about_version", "Version %1", "About: %1 is the version."},
+    {"about_website_button", "Website", "About: opens the program's home page."},
     {"accessibility_app_icon", "Copied from %1", "Read aloud for the source application's icon; %1 is its name."},
     {"accessibility_color", "Colour %1", "Read aloud for the sample of a colour that a text names; %1 is #RRGGBB."},
     {"accessibility_file", "File", "Read aloud for the mark of a file."},

@@ -63,8 +63,8 @@ Quillmonger::Quillmonger(const Platform& platform)
                             platform.eventMonitoring, platform.shortcuts, platform.runLoop, platform.notificationCenter,
                             platform.defaults}),
       m_windowManager({m_clipboardViewModel, m_searchViewModel, platform.gettingStartedWindow, platform.appWindow,
-                       platform.settingsWindow, platform.application, platform.eventMonitoring, platform.runLoop,
-                       platform.notificationCenter}) {
+                       platform.settingsWindowController, platform.aboutWindow, platform.previewPanel, platform.motion,
+                       platform.application, platform.eventMonitoring, platform.runLoop, platform.notificationCenter}) {
   m_pasteInjection.setDismissal([this] { m_windowManager.hideAppWindow(); });
   m_platform.shortcuts.declare(shortcutname::activate());
 }
@@ -127,6 +127,8 @@ void Quillmonger::toggle() {
 }
 
 void Quillmonger::showSettings() { m_windowManager.showSettingsWindow(); }
+
+void Quillmonger::showAbout() { m_windowManager.showAboutWindow(); }
 
 void Quillmonger::applicationDidResignActive() { m_windowManager.applicationDidResignActive(); }
 

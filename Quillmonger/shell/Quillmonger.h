@@ -27,6 +27,9 @@
 #include "Quillmonger/settings/panes/IgnoreAppsViewModel.h"
 #include "Quillmonger/shell/WindowManager.h"
 #include "Quillmonger/shell/windows/Application.h"
+#include "Quillmonger/shell/windows/MotionPreference.h"
+#include "Quillmonger/shell/windows/Panel.h"
+#include "Quillmonger/shell/windows/SettingsWindowController.h"
 #include "Quillmonger/shell/windows/Window.h"
 
 namespace quillmonger {
@@ -56,7 +59,10 @@ class Quillmonger final {
     Application& application;
     Window& gettingStartedWindow;
     Window& appWindow;
-    Window& settingsWindow;
+    SettingsWindowController& settingsWindowController;
+    Window& aboutWindow;
+    Panel& previewPanel;
+    const MotionPreference& motion;
     AppPicker& appPicker;
   };
 
@@ -85,6 +91,8 @@ class Quillmonger final {
   void toggle();
   /// Shows the settings, also before the user has been through the guide.
   void showSettings();
+  /// Shows what this program is, also before the user has been through the guide.
+  void showAbout();
   /// The program lost the front.
   void applicationDidResignActive();
   /// The program is about to end: brings the store to the disk.

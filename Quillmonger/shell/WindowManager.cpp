@@ -2,8 +2,18 @@
 
 namespace quillmonger {
 
+namespace {
+
+constexpr double previewPadding = 6;
+
+}  // namespace
+
 WindowManager::WindowManager(const Collaborators& collaborators)
-    : BaseEventManager(collaborators.eventMonitoring), m_with(collaborators) {}
+    : BaseEventManager(collaborators.eventMonitoring),
+      m_with(collaborators),
+      m_previewWindow(collaborators.previewPanel, collaborators.runLoop, collaborators.motion) {
+  m_previewWindow.visibilityChanged = [this](bool isVisible) { m_previewVisibility.isVisible().set(isVisible); };
+}
 
 void WindowManager::toggleAppWindow() {
   if (m_with.appWindow.isVisible()) {
@@ -15,7 +25,8 @@ void WindowManager::toggleAppWindow() {
 
 void WindowManager::showAppWindow() {
   if (m_with.appWindow.isVisible()) return;
-  m_with.settingsWindow.orderOut();
+  m_with.settingsWindowController.window().orderOut();
+  m_with.aboutWindow.orderOut();
   m_with.runLoop.post([this, isAlive = std::weak_ptr(m_isAlive)] {
     if (!isAlive.expired()) presentAppWindow();
   });
@@ -35,15 +46,29 @@ void WindowManager::presentAppWindow() {
 }
 
 void WindowManager::hideAppWindow() {
+  m_previewWindow.hide();
   m_with.appWindow.orderOut();
   m_with.application.hide();
 }
 
-void WindowManager::showSettingsWindow() {
+void WindowManager::orderHistoryOut() {
   m_with.appWindow.orderOut();
+  m_previewWindow.orderOut();
+}
+
+void WindowManager::showSettingsWindow(SettingsPane pane) {
+  orderHistoryOut();
   m_with.application.activateIgnoringOtherApps();
-  if (!m_with.settingsWindow.isVisible()) m_with.settingsWindow.center();
-  m_with.settingsWindow.makeKeyAndOrderFront();
+  m_with.settingsWindowController.show(pane == SettingsPane::appearance ? std::optional<std::string_view>("appearance")
+                                                                        : std::nullopt);
+  m_with.settingsWindowController.window().makeKeyAndOrderFront();
+}
+
+void WindowManager::showAboutWindow() {
+  orderHistoryOut();
+  m_with.application.activateIgnoringOtherApps();
+  m_with.aboutWindow.center();
+  m_with.aboutWindow.makeKeyAndOrderFront();
 }
 
 void WindowManager::showGettingStartedWindow() {
@@ -53,8 +78,23 @@ void WindowManager::showGettingStartedWindow() {
 
 void WindowManager::hideGettingStartedWindow() { m_with.gettingStartedWindow.orderOut(); }
 
+void WindowManager::togglePreviewWindow() {
+  if (m_previewWindow.isVisible()) {
+    m_previewWindow.hide();
+  } else if (m_with.appWindow.isVisible()) {
+    showPreviewWindow();
+  }
+}
+
+void WindowManager::showPreviewWindow() {
+  if (m_previewWindow.isVisible() || m_previewWindow.isAnimating()) return;
+  m_with.appWindow.makeRoomAtRight(previewPadding + m_with.previewPanel.paneWidth());
+  m_previewWindow.show(m_with.appWindow, previewPadding);
+}
+
 bool WindowManager::isAuxiliaryWindowVisible() const {
-  return m_with.settingsWindow.isVisible() || m_with.gettingStartedWindow.isVisible();
+  return m_with.settingsWindowController.window().isVisible() || m_with.gettingStartedWindow.isVisible() ||
+         m_with.aboutWindow.isVisible();
 }
 
 void WindowManager::applicationDidResignActive() {

@@ -6,9 +6,14 @@
 #include "Foundation/RunLoop.h"
 #include "Quillmonger/history/ClipboardViewModel.h"
 #include "Quillmonger/input/BaseEventManager.h"
+#include "Quillmonger/preview/window/PreviewWindow.h"
 #include "Quillmonger/search/SearchViewModel.h"
 #include "Quillmonger/shell/windows/Application.h"
+#include "Quillmonger/shell/windows/MotionPreference.h"
+#include "Quillmonger/shell/windows/Panel.h"
+#include "Quillmonger/shell/windows/SettingsWindowController.h"
 #include "Quillmonger/shell/windows/Window.h"
+#include "Quillmonger/shell/windows/WindowVisibility.h"
 
 namespace quillmonger {
 
@@ -20,7 +25,10 @@ class WindowManager final : public BaseEventManager {
     SearchViewModel& searchViewModel;
     Window& gettingStartedWindow;
     Window& appWindow;
-    Window& settingsWindow;
+    SettingsWindowController& settingsWindowController;
+    Window& aboutWindow;
+    Panel& previewPanel;
+    const MotionPreference& motion;
     Application& application;
     LocalEventMonitoring& eventMonitoring;
     foundation::RunLoop& runLoop;
@@ -35,13 +43,25 @@ class WindowManager final : public BaseEventManager {
   /// Shows the history, unfiltered and with its top row selected, in the middle of the screen: the later part in the
   /// next turn of the main queue. Nothing happens while it is up. The settings go: one main window at a time.
   void showAppWindow();
-  /// Takes the history off the screen and gives the front back to the application that had it.
+  /// Dismisses the history: takes it off the screen with its preview, and gives the front back to the application that
+  /// had it.
   void hideAppWindow();
-  /// Shows the settings instead of the history, where the user left them, or in the middle of the screen.
-  void showSettingsWindow();
+  enum class SettingsPane { lastShown, appearance };
+  /// Shows the settings instead of the history.
+  void showSettingsWindow(SettingsPane pane = SettingsPane::lastShown);
+  /// Shows the window that tells what this program is, in the middle of the screen, instead of the history.
+  void showAboutWindow();
   void showGettingStartedWindow();
   void hideGettingStartedWindow();
+  /// Hides the preview if it is up, and otherwise shows it beside the history if that is up.
+  void togglePreviewWindow();
+  /// Shows the preview beside the history, unless it is up already. On a screen too narrow for both, the history gives
+  /// way to the left.
+  void showPreviewWindow();
 
+  /// Whether the preview is on the screen.
+  [[nodiscard]] WindowVisibility& previewVisibility() { return m_previewVisibility; }
+  [[nodiscard]] bool isAppWindowVisible() const { return m_with.appWindow.isVisible(); }
   /// Whether a window is up that stays when the user goes to another application.
   [[nodiscard]] bool isAuxiliaryWindowVisible() const;
   /// The program lost the front: a click elsewhere closes the history.
@@ -51,8 +71,11 @@ class WindowManager final : public BaseEventManager {
 
  private:
   void presentAppWindow();
+  void orderHistoryOut();
 
   Collaborators m_with;
+  WindowVisibility m_previewVisibility;
+  PreviewWindow m_previewWindow;
   std::shared_ptr<const bool> m_isAlive = std::make_shared<const bool>(true);
 };
 

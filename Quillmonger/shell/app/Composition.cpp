@@ -76,7 +76,10 @@ Composition::Composition(const platform::XdgFolders& folders, const std::vector<
               m_application,
               m_views.gettingStartedWindow(),
               m_views.appWindow(),
-              m_views.settingsWindow(),
+              m_views.settingsWindowController(),
+              m_views.aboutWindow(),
+              m_views.previewPanel(),
+              *m_windowSystem,
               m_views.appPicker()}),
       m_commandLine(commandOperations(), m_defaults) {
   m_views.feed(m_root, *m_pasteboard);
@@ -120,9 +123,13 @@ void Composition::saveChanges() {
 }
 
 CommandLine::Operations Composition::commandOperations() {
-  return {[this] { m_root.toggle(); },       [this] { m_root.show(); },
-          [this] { m_root.showSettings(); }, [this](const std::vector<std::string>& urls) { m_root.openURLs(urls); },
-          [this] { m_root.quitApp(); },      [this] { return recordsNewestFirst(); }};
+  return {[this] { m_root.toggle(); },
+          [this] { m_root.show(); },
+          [this] { m_root.showSettings(); },
+          [this] { m_root.showAbout(); },
+          [this](const std::vector<std::string>& urls) { m_root.openURLs(urls); },
+          [this] { m_root.quitApp(); },
+          [this] { return recordsNewestFirst(); }};
 }
 
 std::vector<std::shared_ptr<ClipboardItem>> Composition::recordsNewestFirst() {

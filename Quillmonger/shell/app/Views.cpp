@@ -1,5 +1,6 @@
 #include "Quillmonger/shell/app/Views.h"
 
+#include <QCoreApplication>
 #include <QQuickView>
 #include <utility>
 
@@ -10,6 +11,7 @@
 #include "Quillmonger/resources/Texts.h"
 #include "Quillmonger/search/view/QmlModule.h"
 #include "Quillmonger/settings/view/QmlModule.h"
+#include "Quillmonger/shell/app/OutsidePages.h"
 #include "Quillmonger/shell/view/QmlModule.h"
 
 namespace quillmonger {
@@ -17,6 +19,8 @@ namespace quillmonger {
 namespace {
 
 constexpr QSize appWindowSize(600, 445);
+constexpr QSize previewWindowSize(600, 445);
+constexpr QSize aboutWindowSize(540, 280);
 constexpr QSize gettingStartedWindowSize(550, 640);
 
 // The beginning of the text that the clipboard holds, as far as it has been read.
@@ -37,6 +41,7 @@ Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCach
       m_appearance(defaults),
       m_historySettings(defaults),
       m_ignoreSettings(defaults),
+      m_aboutModel(QCoreApplication::applicationVersion(), openOutsidePage),
       m_alert([this]() -> QQmlEngine& { return engine(); }, m_appearance),
       m_appWindow({platform::QtQuickWindow::Kind::palette, appWindowSize, QStringLiteral("Quillmonger"),
                    [this] { return appContent(); }, [this]() -> QQmlEngine& { return engine(); }},
@@ -49,6 +54,14 @@ Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCach
                         QString::fromStdString(localizedText("settings_ignore_title")),
                         [this] { return settingsContent(); }, [this]() -> QQmlEngine& { return engine(); }},
                        windowSystem),
+      m_settingsController(m_settingsWindow),
+      m_aboutWindow(
+          {platform::QtQuickWindow::Kind::dialog, aboutWindowSize, QString::fromStdString(localizedText("about_title")),
+           [this] { return aboutContent(); }, [this]() -> QQmlEngine& { return engine(); }},
+          windowSystem),
+      m_previewPanel({platform::QtQuickWindow::Kind::palette, previewWindowSize, QStringLiteral("Quillmonger Preview"),
+                      [this] { return previewContent(); }, [this]() -> QQmlEngine& { return engine(); }},
+                     windowSystem),
       m_appPicker({applications, m_appearance, [this]() -> QQmlEngine& { return engine(); },
                    [this]() -> QWindow* { return m_settingsWindow.view(); }, [this] { return m_clipboardText(); }}) {}
 
@@ -68,6 +81,8 @@ void Views::feed(Quillmonger& root, const Pasteboard& pasteboard) {
 void Views::close() {
   m_appPicker.close();
   m_settingsWindow.unload();
+  m_aboutWindow.unload();
+  m_previewPanel.unload();
   m_appWindow.unload();
   m_gettingStartedWindow.unload();
   m_ignoredAppsModel.reset();
@@ -110,6 +125,16 @@ Views::Content Views::settingsContent() {
           {{"settings", QVariant::fromValue(&m_ignoreSettings)},
            {"apps", QVariant::fromValue(m_ignoredAppsModel.get())},
            {"appearance", QVariant::fromValue(&m_appearance)}}};
+}
+
+Views::Content Views::aboutContent() {
+  return {QUrl(QStringLiteral("qrc:/qt-project.org/imports/Quillmonger/Settings/AboutView.qml")),
+          {{"model", QVariant::fromValue(&m_aboutModel)}, {"appearance", QVariant::fromValue(&m_appearance)}}};
+}
+
+Views::Content Views::previewContent() {
+  return {QUrl(QStringLiteral("qrc:/qt-project.org/imports/Quillmonger/Preview/PreviewView.qml")),
+          {{"appearance", QVariant::fromValue(&m_appearance)}}};
 }
 
 }  // namespace quillmonger

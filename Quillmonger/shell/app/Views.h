@@ -15,10 +15,12 @@
 #include "Quillmonger/search/view/SearchBarModel.h"
 #include "Quillmonger/settings/panes/AppPickerViewModel.h"
 #include "Quillmonger/settings/panes/IgnoreAppsViewModel.h"
+#include "Quillmonger/settings/view/AboutModel.h"
 #include "Quillmonger/settings/view/AppPickerWindow.h"
 #include "Quillmonger/settings/view/IgnoreSettings.h"
 #include "Quillmonger/settings/view/IgnoredAppsModel.h"
 #include "Quillmonger/shell/Quillmonger.h"
+#include "Quillmonger/shell/app/OnePaneSettings.h"
 #include "Quillmonger/shell/view/QtAlert.h"
 #include "Quillmonger/shell/windows/WindowSystem.h"
 
@@ -34,7 +36,9 @@ class Views final {
 
   [[nodiscard]] platform::QtQuickWindow& appWindow() { return m_appWindow; }
   [[nodiscard]] platform::QtQuickWindow& gettingStartedWindow() { return m_gettingStartedWindow; }
-  [[nodiscard]] platform::QtQuickWindow& settingsWindow() { return m_settingsWindow; }
+  [[nodiscard]] SettingsWindowController& settingsWindowController() { return m_settingsController; }
+  [[nodiscard]] platform::QtQuickWindow& aboutWindow() { return m_aboutWindow; }
+  [[nodiscard]] platform::QtQuickWindow& previewPanel() { return m_previewPanel; }
   [[nodiscard]] AppPicker& appPicker() { return m_appPicker; }
   [[nodiscard]] Alert& alert() { return m_alert; }
 
@@ -50,12 +54,15 @@ class Views final {
   [[nodiscard]] Content appContent();
   [[nodiscard]] Content gettingStartedContent();
   [[nodiscard]] Content settingsContent();
+  [[nodiscard]] Content aboutContent();
+  [[nodiscard]] Content previewContent();
 
   defaults::Defaults& m_defaults;
   ImageCache::IconNaming m_iconNaming;
   Appearance m_appearance;
   HistorySettings m_historySettings;
   IgnoreSettings m_ignoreSettings;
+  AboutModel m_aboutModel;
   std::function<std::string()> m_clipboardText;
   std::function<IgnoreAppsViewModel&()> m_ignoreAppsViewModel;
   std::unique_ptr<SearchBarModel> m_searchBarModel;
@@ -68,6 +75,9 @@ class Views final {
   platform::QtQuickWindow m_appWindow;
   platform::QtQuickWindow m_gettingStartedWindow;
   platform::QtQuickWindow m_settingsWindow;
+  OnePaneSettings m_settingsController;
+  platform::QtQuickWindow m_aboutWindow;
+  platform::QtQuickWindow m_previewPanel;
   AppPickerWindow m_appPicker;
 };
 

@@ -20,7 +20,8 @@ CommandResult failed(std::string_view why) { return {1, {}, std::string(why) + "
 
 bool isStarting(const Command& command) {
   return command.kind == Command::Kind::toggle || command.kind == Command::Kind::show ||
-         command.kind == Command::Kind::settings || command.kind == Command::Kind::open;
+         command.kind == Command::Kind::settings || command.kind == Command::Kind::about ||
+         command.kind == Command::Kind::open;
 }
 
 bool isAboutSettings(const Command& command) {

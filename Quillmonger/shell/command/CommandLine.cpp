@@ -56,6 +56,9 @@ CommandResult CommandLine::run(const Command& command) {
     case Command::Kind::settings:
       m_operations.settings();
       return {};
+    case Command::Kind::about:
+      m_operations.about();
+      return {};
     case Command::Kind::open:
       m_operations.openURLs(command.urls);
       return {};

@@ -19,6 +19,7 @@ class CommandLine final {
     std::function<void()> toggle;
     std::function<void()> show;
     std::function<void()> settings;
+    std::function<void()> about;
     std::function<void(const std::vector<std::string>& urls)> openURLs;
     /// Ends the program, after the answer has gone out: so in a later turn.
     std::function<void()> quit;

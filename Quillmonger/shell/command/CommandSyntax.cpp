@@ -19,6 +19,7 @@ constexpr std::string_view usage =
     "  toggle                        show the history, or hide it if it is showing\n"
     "  show                          show the history (also without a command)\n"
     "  settings                      show the settings\n"
+    "  about                         show what Quillmonger is, and its version\n"
     "  list [--json]                 print the history, newest first\n"
     "  defaults read [NAME]          print one setting, or all\n"
     "  defaults write NAME VALUE     change a setting\n"
@@ -53,6 +54,13 @@ constexpr std::array forms{
          0,
          0,
          "usage: quillmonger settings\n\nShows the settings. Starts Quillmonger first if it is not running.\n"},
+    Form{
+        Kind::about,
+        {"about", ""},
+        0,
+        0,
+        "usage: quillmonger about\n\nShows what Quillmonger is, and its version. Starts Quillmonger first if it is not "
+        "running.\n"},
     Form{Kind::quit, {"quit", ""}, 0, 0, "usage: quillmonger quit\n\nEnds Quillmonger.\n"},
     Form{Kind::list,
          {"list", ""},

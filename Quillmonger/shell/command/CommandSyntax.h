@@ -10,7 +10,7 @@ namespace quillmonger {
 
 /// A call of the command `quillmonger` that has a meaning.
 struct Command {
-  enum class Kind { toggle, show, settings, open, quit, list, defaultsRead, defaultsWrite, defaultsDelete };
+  enum class Kind { toggle, show, settings, about, open, quit, list, defaultsRead, defaultsWrite, defaultsDelete };
 
   Kind kind = Kind::show;
   /// `list --json`.

@@ -6,12 +6,15 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
+#include <QRegion>
 #include <QScreen>
 #include <QTemporaryFile>
 #include <QTest>
+#include <optional>
 #include <vector>
 
 #include "Platform/qt/QtApplication.h"
+#include "Platform/qt/QuickView.h"
 
 namespace {
 
@@ -20,10 +23,12 @@ using platform::QtQuickWindow;
 class FakeWindowSystem final : public quillmonger::WindowSystem {
  public:
   [[nodiscard]] bool blendsTransparency() const override { return isBlending; }
+  [[nodiscard]] std::optional<Pixel> focusedWindowCentre() const override { return focused; }
   void keepOutOfTaskList(WindowId /*window*/) override { ++keptOutCount; }
   void bringToFront(WindowId /*window*/) override { ++frontCount; }
 
   bool isBlending = true;
+  std::optional<Pixel> focused;
   int keptOutCount = 0;
   int frontCount = 0;
 };
@@ -87,6 +92,51 @@ TEST_F(QtQuickWindowTest, TellsItsContentWhetherTransparencyIsBlended) {
   m_system.isBlending = true;
   m_window.makeKeyAndOrderFront();
   EXPECT_TRUE(m_window.view()->rootObject()->property("blendsTransparency").toBool());
+}
+
+TEST_F(QtQuickWindowTest, TellsItsFrameBeforeItIsLoaded) {
+  EXPECT_EQ(m_window.frame(), (quillmonger::WindowFrame{0, 200, 300, 200}));
+  EXPECT_EQ(m_window.level(), 3);
+}
+
+TEST_F(QtQuickWindowTest, StandsWhereItsFrameIsSet) {
+  m_window.setFrame({40.4, 300, 310, 210});
+
+  EXPECT_EQ(m_window.view()->geometry(), QRect(40, 90, 310, 210));
+  EXPECT_EQ(m_window.frame(), (quillmonger::WindowFrame{40, 300, 310, 210}));
+}
+
+TEST_F(QtQuickWindowTest, StandsBehindTheFrontWithoutAskingForIt) {
+  m_window.setLevel(2);
+
+  m_window.orderFront();
+  QTest::qWait(0);
+
+  EXPECT_TRUE(m_window.isVisible());
+  EXPECT_EQ(m_window.level(), 2);
+  EXPECT_EQ(m_system.frontCount, 0);
+  EXPECT_EQ(m_system.keptOutCount, 1);
+}
+
+TEST_F(QtQuickWindowTest, PaneIsAsWideAsTheMaskOfTheWindow) {
+  EXPECT_EQ(m_window.paneWidth(), 300);
+
+  m_window.view()->setMask(QRegion(0, 0, 120, 200));
+
+  EXPECT_EQ(m_window.paneWidth(), 120);
+}
+
+TEST_F(QtQuickWindowTest, MakesRoomAtItsRightOnlyWhereItIsMissing) {
+  m_window.center();
+  const QRect screen = m_window.view()->screen()->availableGeometry();
+  const int centred = m_window.view()->x();
+
+  m_window.makeRoomAtRight(50);
+  EXPECT_EQ(m_window.view()->x(), centred);
+  m_window.makeRoomAtRight(screen.width() - 310);
+  EXPECT_EQ(m_window.view()->x(), screen.x() + 10);
+  m_window.makeRoomAtRight(screen.width());
+  EXPECT_EQ(m_window.view()->x(), screen.x()) << "and never leaves the screen itself";
 }
 
 TEST_F(QtQuickWindowTest, LetsGoOfItsTreeWhenItIsUnloaded) {

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <csignal>
 #include <memory>
+#include <optional>
+#include <string>
 
 #include "tests/support/ChildProcess.h"
 #include "tests/support/PrivateDisplay.h"
@@ -15,6 +17,14 @@ namespace {
 
 using testsupport::ChildProcess;
 using testsupport::KeyboardClient;
+
+// What a settings service tells of animations alone, the least significant byte first.
+std::string settingsWithAnimations(char isOn) {
+  std::string settings(12, '\0');
+  settings[8] = 1;
+  settings += std::string("\0\0\x14\0", 4) + "Gtk/EnableAnimations" + std::string(4, '\0');
+  return settings + isOn + std::string(3, '\0');
+}
 
 class X11WindowSystem : public testing::Test {
  protected:
@@ -59,6 +69,31 @@ TEST_F(X11WindowSystem, KeepsAWindowOutOfTheTaskListOnce) {
   auto states = m_first.windowAtoms("_NET_WM_STATE");
   EXPECT_EQ(std::ranges::count(states, m_first.atom("_NET_WM_STATE_SKIP_TASKBAR")), 1);
   EXPECT_EQ(std::ranges::count(states, m_first.atom("_NET_WM_STATE_SKIP_PAGER")), 1);
+}
+
+TEST_F(X11WindowSystem, KnowsTheMiddleOfTheWindowThatHasTheKeyboard) {
+  EXPECT_EQ(m_system->focusedWindowCentre(), std::nullopt) << "nobody says which one it is";
+  m_first.moveWindow(200, 100);
+
+  m_first.claimActive();
+
+  EXPECT_EQ(m_system->focusedWindowCentre(), (quillmonger::WindowSystem::Pixel{250, 150}));
+}
+
+TEST_F(X11WindowSystem, TakesTheDesktopForNoFocusedWindow) {
+  m_first.setWindowAtom("_NET_WM_WINDOW_TYPE", "_NET_WM_WINDOW_TYPE_DESKTOP");
+  m_first.claimActive();
+
+  EXPECT_EQ(m_system->focusedWindowCentre(), std::nullopt);
+}
+
+TEST_F(X11WindowSystem, ReducesMotionAsTheDesktopsSettingsSay) {
+  EXPECT_FALSE(m_system->reducesMotion()) << "without a service";
+  m_first.serveSettings(settingsWithAnimations(1));
+  EXPECT_FALSE(m_system->reducesMotion());
+
+  m_first.serveSettings(settingsWithAnimations(0));
+  EXPECT_TRUE(m_system->reducesMotion());
 }
 
 TEST_F(X11WindowSystem, IsAbsentWithoutAnXServer) {

@@ -19,9 +19,11 @@
 #include "tests/support/FakeHotKeyService.h"
 #include "tests/support/FakeInputSourceService.h"
 #include "tests/support/FakeLocalEventMonitor.h"
+#include "tests/support/FakeMotionPreference.h"
 #include "tests/support/FakePasteKeys.h"
 #include "tests/support/FakePasteboard.h"
 #include "tests/support/FakePostEventAccess.h"
+#include "tests/support/FakeSettingsWindowController.h"
 #include "tests/support/FakeStoreContext.h"
 #include "tests/support/FakeWindow.h"
 #include "tests/support/InlineBackgroundQueue.h"
@@ -41,10 +43,12 @@ constexpr testsupport::FakeHotKeyService::Chord activateChord{9, 0x300};
 constexpr std::uint16_t commaKey = 43;
 constexpr std::uint16_t escapeKey = 53;
 constexpr std::uint16_t returnKey = 36;
-const Log shown{"settings orderOut", "application activate", "history center", "history makeKeyAndOrderFront",
-                "ClipboardActivated"};
+const Log shown{
+    "settings orderOut", "about orderOut", "application activate", "history center", "history makeKeyAndOrderFront",
+    "ClipboardActivated"};
 const Log dismissed{"history orderOut", "application hide"};
-const Log settingsShown{"history orderOut", "application activate", "settings center", "settings makeKeyAndOrderFront"};
+const Log settingsShown{"history orderOut", "preview orderOut", "application activate", "settings show the last pane",
+                        "settings makeKeyAndOrderFront"};
 
 // The whole logic, wired as the program wires it, on ports without a desktop.
 class QuillmongerTest : public testing::Test {
@@ -74,7 +78,10 @@ class QuillmongerTest : public testing::Test {
                                                                                          application,
                                                                                          gettingStartedWindow,
                                                                                          appWindow,
-                                                                                         settingsWindow,
+                                                                                         settingsWindowController,
+                                                                                         aboutWindow,
+                                                                                         previewPanel,
+                                                                                         motion,
                                                                                          picker});
     settle();
     return *root;
@@ -134,7 +141,10 @@ class QuillmongerTest : public testing::Test {
   testsupport::FakeApplication application{log};
   testsupport::FakeWindow gettingStartedWindow{"guide", log};
   testsupport::FakeWindow appWindow{"history", log};
-  testsupport::FakeWindow settingsWindow{"settings", log};
+  testsupport::FakeSettingsWindowController settingsWindowController{log};
+  testsupport::FakeWindow aboutWindow{"about", log};
+  testsupport::FakePanel previewPanel{"preview", log};
+  testsupport::FakeMotionPreference motion;
   testsupport::FakeAppPicker picker;
   foundation::Subscription activated =
       notificationCenter.observe("ClipboardActivated", [this](const auto&) { log.emplace_back("ClipboardActivated"); });
@@ -160,8 +170,8 @@ TEST_F(QuillmongerTest, EndsTheGuideWithTheNormalStartAndTheHistory) {
   root->finishGettingStarted();
   settle();
 
-  EXPECT_EQ(log, (Log{"guide orderOut", "application accessory", "settings orderOut", "application activate",
-                      "history center", "history makeKeyAndOrderFront", "ClipboardActivated"}));
+  EXPECT_EQ(log, (Log{"guide orderOut", "application accessory", "settings orderOut", "about orderOut",
+                      "application activate", "history center", "history makeKeyAndOrderFront", "ClipboardActivated"}));
   EXPECT_FALSE(settings.defaults[keys::firstLaunch]);
   EXPECT_TRUE(hotKeys.isRegistered(activateChord));
 }
@@ -202,8 +212,8 @@ TEST_F(QuillmongerTest, ShowsAndTogglesTheHistoryOnceTheGuideIsOver) {
   root->show();
   settle();
 
-  EXPECT_EQ(log, (Log{"history orderOut", "application hide", "settings orderOut", "application activate",
-                      "history center", "history makeKeyAndOrderFront", "ClipboardActivated"}));
+  EXPECT_EQ(log, (Log{"history orderOut", "application hide", "settings orderOut", "about orderOut",
+                      "application activate", "history center", "history makeKeyAndOrderFront", "ClipboardActivated"}));
 }
 
 TEST_F(QuillmongerTest, CapturesAtTheGuidesEndWhatWasCopiedMeanwhile) {
@@ -382,16 +392,6 @@ TEST_F(QuillmongerTest, ShowsTheSettingsAlsoWithoutTheHistory) {
   EXPECT_EQ(log, settingsShown);
 }
 
-TEST_F(QuillmongerTest, LeavesTheSettingsWhereTheyAreWhenTheyAreShownAlready) {
-  start();
-  root->showSettings();
-  log.clear();
-
-  root->showSettings();
-
-  EXPECT_EQ(log, (Log{"history orderOut", "application activate", "settings makeKeyAndOrderFront"}));
-}
-
 TEST_F(QuillmongerTest, ShowsTheSettingsBeforeTheGuideIsOver) {
   settings.defaults.set(keys::firstLaunch, true);
   start();
@@ -411,7 +411,7 @@ TEST_F(QuillmongerTest, ClosesTheSettingsAndShowsTheHistoryForTheChord) {
   pressChord();
 
   EXPECT_EQ(log, shown);
-  EXPECT_FALSE(settingsWindow.isVisible());
+  EXPECT_FALSE(settingsWindowController.window().isVisible());
 }
 
 TEST_F(QuillmongerTest, KeepsTheSettingsWhenTheUserGoesToAnotherApplication) {

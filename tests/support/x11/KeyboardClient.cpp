@@ -118,6 +118,32 @@ void KeyboardClient::ownClipboard() {
   settle();
 }
 
+void KeyboardClient::moveWindow(std::int16_t x, std::int16_t y) {
+  const std::uint32_t values[] = {static_cast<std::uint32_t>(x), static_cast<std::uint32_t>(y)};
+  xcb_configure_window(m_connection, m_window, XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y, values);
+  settle();
+}
+
+void KeyboardClient::setWindowAtom(const std::string& property, const std::string& value) {
+  const xcb_atom_t number = atom(value);
+  xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, m_window, atom(property), XCB_ATOM_ATOM, 32, 1, &number);
+  settle();
+}
+
+void KeyboardClient::claimActive() {
+  xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, m_root, atom("_NET_ACTIVE_WINDOW"), XCB_ATOM_WINDOW, 32, 1,
+                      &m_window);
+  settle();
+}
+
+void KeyboardClient::serveSettings(const std::string& settings) {
+  const xcb_atom_t name = atom("_XSETTINGS_SETTINGS");
+  xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, m_window, name, name, 8,
+                      static_cast<std::uint32_t>(settings.size()), settings.data());
+  xcb_set_selection_owner(m_connection, m_window, atom("_XSETTINGS_S0"), XCB_CURRENT_TIME);
+  settle();
+}
+
 bool KeyboardClient::isUnderWindowManager() const { return platform::hasWindowManager(m_connection, m_root); }
 
 std::vector<std::uint32_t> KeyboardClient::windowAtoms(const std::string& property) const {

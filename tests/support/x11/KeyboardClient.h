@@ -46,6 +46,12 @@ class KeyboardClient final {
   void setWindowClass(const std::string& instanceName, const std::string& className);
   void setWindowProcess(std::uint32_t processId);
   void ownClipboard();
+  void moveWindow(std::int16_t x, std::int16_t y);
+  void setWindowAtom(const std::string& property, const std::string& value);
+  /// Says of its window what only a window manager says: that it is the active one.
+  void claimActive();
+  /// Is the desktop's settings service from now on, with these settings.
+  void serveSettings(const std::string& settings);
   [[nodiscard]] xcb_window_t focus() const;
   [[nodiscard]] bool isUnderWindowManager() const;
   [[nodiscard]] std::vector<std::uint32_t> windowAtoms(const std::string& property) const;

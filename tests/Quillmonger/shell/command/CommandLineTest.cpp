@@ -25,20 +25,20 @@ class CommandLineTest : public testing::Test {
   std::vector<std::shared_ptr<ClipboardItem>> records;
   defaults::UserDefaults store;
   defaults::Defaults settings{store};
-  CommandLine commandLine{
-      {[this] { called.emplace_back("toggle"); }, [this] { called.emplace_back("show"); },
-       [this] { called.emplace_back("settings"); }, [this](const std::vector<std::string>& urls) { called = urls; },
-       [this] { called.emplace_back("quit"); }, [this] { return records; }},
-      settings};
+  CommandLine commandLine{{[this] { called.emplace_back("toggle"); }, [this] { called.emplace_back("show"); },
+                           [this] { called.emplace_back("settings"); }, [this] { called.emplace_back("about"); },
+                           [this](const std::vector<std::string>& urls) { called = urls; },
+                           [this] { called.emplace_back("quit"); }, [this] { return records; }},
+                          settings};
 
   nlohmann::json listed() { return nlohmann::json::parse(commandLine.run({"list", "--json"}).output); }
 };
 
 TEST_F(CommandLineTest, CarriesOutTheWindowCommands) {
-  for (const char* word : {"toggle", "show", "settings", "quit"})
+  for (const char* word : {"toggle", "show", "settings", "about", "quit"})
     EXPECT_EQ(commandLine.run({word}), CommandResult()) << word;
 
-  EXPECT_EQ(called, (std::vector<std::string>{"toggle", "show", "settings", "quit"}));
+  EXPECT_EQ(called, (std::vector<std::string>{"toggle", "show", "settings", "about", "quit"}));
 }
 
 TEST_F(CommandLineTest, HandsOnUrls) {
@@ -169,8 +169,9 @@ TEST_P(Help, IsPrintedAndNothingIsDone) {
 INSTANTIATE_TEST_SUITE_P(Words, Help,
                          testing::Values(CommandWords{"--help"}, CommandWords{"toggle", "--help"},
                                          CommandWords{"show", "--help"}, CommandWords{"settings", "--help"},
-                                         CommandWords{"quit", "--help"}, CommandWords{"list", "--help"},
-                                         CommandWords{"defaults", "--help"}, CommandWords{"defaults", "read", "--help"},
+                                         CommandWords{"about", "--help"}, CommandWords{"quit", "--help"},
+                                         CommandWords{"list", "--help"}, CommandWords{"defaults", "--help"},
+                                         CommandWords{"defaults", "read", "--help"},
                                          CommandWords{"defaults", "write", "--help"},
                                          CommandWords{"defaults", "delete", "--help"}));
 

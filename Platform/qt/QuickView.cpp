@@ -1,0 +1,70 @@
+#include "Platform/qt/QuickView.h"
+
+#include <QGuiApplication>
+#include <algorithm>
+#include <utility>
+
+namespace platform {
+
+namespace {
+
+// What the toolkit's own windows carry that must not take the keyboard when they appear.
+constexpr auto showsWithoutActivatingProperty = "_q_showWithoutActivating";
+
+int levelOf(const QWindow* window) { return window->property(levelProperty).toInt(); }
+
+// Those of the program's windows on the screen whose level is higher, the lowest first.
+QWindowList windowsAbove(const QWindow* window) {
+  QWindowList windows = QGuiApplication::topLevelWindows();
+  windows.removeIf([window](const QWindow* other) { return !other->isVisible() || levelOf(other) <= levelOf(window); });
+  std::ranges::stable_sort(windows, {}, levelOf);
+  return windows;
+}
+
+}  // namespace
+
+QuickView::QuickView(QQmlEngine& engine, quillmonger::WindowSystem& windowSystem)
+    : QQuickView(&engine, nullptr), m_windowSystem(windowSystem) {
+  setResizeMode(QQuickView::SizeRootObjectToView);
+}
+
+// The window manager must know the window before it is asked for the front.
+void QuickView::showInFront() {
+  m_comesToFront = !isExposed();
+  if (!isActive()) setProperty(awaitsFrontProperty, true);
+  show();
+  raise();
+  if (isExposed()) m_windowSystem.bringToFront(winId());
+}
+
+void QuickView::showBehindTheFront() {
+  setProperty(showsWithoutActivatingProperty, true);
+  show();
+  raise();
+  for (QWindow* window : windowsAbove(this))
+    window->raise();
+}
+
+void QuickView::handOverFront() {
+  const QWindowList windows = windowsAbove(this);
+  if (!isActive() || windows.isEmpty()) return;
+  windows.last()->setProperty(awaitsFrontProperty, true);
+  m_windowSystem.bringToFront(windows.last()->winId());
+}
+
+void QuickView::exposeEvent(QExposeEvent* event) {
+  QQuickView::exposeEvent(event);
+  if (isExposed() && std::exchange(m_comesToFront, false)) m_windowSystem.bringToFront(winId());
+}
+
+void QuickView::focusInEvent(QFocusEvent* event) {
+  setProperty(awaitsFrontProperty, false);
+  QQuickView::focusInEvent(event);
+}
+
+void QuickView::hideEvent(QHideEvent* event) {
+  setProperty(awaitsFrontProperty, false);
+  QQuickView::hideEvent(event);
+}
+
+}  // namespace platform
