@@ -19,7 +19,8 @@ namespace platform {
 /// other.
 class CommandSocket final {
  public:
-  static constexpr std::size_t requestLimit = std::size_t{1} << 20U;
+  /// In bytes.
+  static constexpr std::size_t requestLimit = std::size_t{12} << 20U;
   static constexpr std::size_t clientLimit = 16;
 
   using Reply = std::function<void(std::string)>;

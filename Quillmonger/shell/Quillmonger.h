@@ -25,6 +25,7 @@
 #include "Quillmonger/search/SearchViewModel.h"
 #include "Quillmonger/settings/panes/AppPicker.h"
 #include "Quillmonger/settings/panes/IgnoreAppsViewModel.h"
+#include "Quillmonger/shell/RunningHistory.h"
 #include "Quillmonger/shell/WindowManager.h"
 #include "Quillmonger/shell/windows/Application.h"
 #include "Quillmonger/shell/windows/MotionPreference.h"
@@ -73,6 +74,8 @@ class Quillmonger final {
 
   [[nodiscard]] ClipboardManager& clipboardManager() { return m_clipboardManager; }
   [[nodiscard]] ClipboardViewModel& clipboardViewModel() { return m_clipboardViewModel; }
+  /// The history for the command line.
+  [[nodiscard]] CommandedHistory& commandedHistory() { return m_commandedHistory; }
   [[nodiscard]] SearchViewModel& searchViewModel() { return m_searchViewModel; }
   /// Made when it is first asked for: it reads the applications that it lists.
   [[nodiscard]] IgnoreAppsViewModel& ignoreAppsViewModel();
@@ -114,6 +117,7 @@ class Quillmonger final {
   SearchViewModel m_searchViewModel;
   SearchManager<ClipboardItemViewModel> m_searchManager;
   ClipboardViewModel m_clipboardViewModel;
+  RunningHistory m_commandedHistory;
   std::optional<IgnoreAppsViewModel> m_ignoreAppsViewModel;
   WindowManager m_windowManager;
   bool m_isStartedNormally = false;

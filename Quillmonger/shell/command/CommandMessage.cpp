@@ -1,6 +1,9 @@
 #include "Quillmonger/shell/command/CommandMessage.h"
 
 #include <nlohmann/json.hpp>
+#include <utility>
+
+#include "Defaults/Base64.h"
 
 namespace quillmonger::commandmessage {
 
@@ -24,24 +27,41 @@ Json parse(std::string_view line, std::size_t limit) {
 
 std::string dump(const Json& json) { return json.dump(-1, ' ', false, Json::error_handler_t::replace); }
 
+std::optional<std::string> decodedInput(const Json& json) {
+  const auto* text = json.get_ptr<const std::string*>();
+  const auto bytes = text != nullptr ? defaults::decodeBase64(*text) : std::nullopt;
+  if (!bytes || bytes->size() > inputLimit) return std::nullopt;
+  return std::string(bytes->begin(), bytes->end());
+}
+
 }  // namespace
 
-std::string encode(const CommandWords& words) { return dump({{"words", words}}); }
+std::string encode(const CommandRequest& request) {
+  Json json{{"words", request.words}};
+  if (!request.input.empty()) json["input"] = defaults::encodeBase64({request.input.begin(), request.input.end()});
+  return dump(json);
+}
 
 std::string encode(const CommandResult& result) {
   return dump({{"exitCode", result.exitCode}, {"output", result.output}, {"errorOutput", result.errorOutput}});
 }
 
-std::optional<CommandWords> decodeWords(std::string_view line) {
+std::optional<CommandRequest> decodeRequest(std::string_view line) {
   const Json json = parse(line, requestLimit);
-  const auto words = json.is_object() ? json.find("words") : json.end();
+  if (!json.is_object()) return std::nullopt;
+  const auto words = json.find("words");
   if (words == json.end() || !words->is_array() || words->size() > wordLimit) return std::nullopt;
-  CommandWords decoded;
+  CommandRequest request;
   for (const auto& word : *words) {
     if (!word.is_string()) return std::nullopt;
-    decoded.push_back(word.get<std::string>());
+    request.words.push_back(word.get<std::string>());
   }
-  return decoded;
+  if (const auto input = json.find("input"); input != json.end()) {
+    auto bytes = decodedInput(*input);
+    if (!bytes) return std::nullopt;
+    request.input = *std::move(bytes);
+  }
+  return request;
 }
 
 std::optional<CommandResult> decodeResult(std::string_view line) {

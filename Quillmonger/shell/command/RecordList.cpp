@@ -6,6 +6,7 @@
 #include <chrono>
 #include <nlohmann/json.hpp>
 #include <optional>
+#include <utility>
 
 #include "Foundation/Text.h"
 #include "Quillmonger/capture/PasteboardTypes.h"
@@ -14,7 +15,7 @@ namespace quillmonger::recordlist {
 
 namespace {
 
-using Json = nlohmann::json;
+using Json = nlohmann::ordered_json;
 
 constexpr std::size_t bytesPerCharacter = 4;
 
@@ -61,35 +62,50 @@ std::string onOneLine(std::string text) {
   return text;
 }
 
+Json object(const NumberedRecord& numbered, const std::optional<std::string>& text) {
+  const auto& record = *numbered.record;
+  Json types = Json::array();
+  for (const auto& entry : record.data())
+    types.push_back(entry.first);
+  const auto& source = record.sourceAppBundleIdentifier();
+  return {{"number", numbered.number},
+          {"id", record.id().toString()},
+          {"creationDate", isoDate(record.creationDate())},
+          {"sourceAppBundleIdentifier", source.has_value() ? Json(*source) : Json()},
+          {"types", std::move(types)},
+          {"size", record.dataSize()},
+          {"timesPasted", record.timesPasted()},
+          {"text", text.has_value() ? Json(*text) : Json()}};
+}
+
+std::string dump(const Json& json) { return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n"; }
+
 }  // namespace
 
-std::string lines(const std::vector<std::shared_ptr<ClipboardItem>>& records) {
+std::string lines(const std::vector<NumberedRecord>& records) {
   std::string all;
-  for (const auto& record : records) {
+  for (const auto& [number, record] : records) {
     const auto source = foundation::toValidUtf8(record->sourceAppBundleIdentifier().value_or("-"));
-    all += isoDate(record->creationDate()) + "  " + std::to_string(record->dataSize()) + "  " + onOneLine(source) +
-           "  " + onOneLine(textOf(*record).value_or("")) + "\n";
+    all += std::to_string(number) + "  " + isoDate(record->creationDate()) + "  " + std::to_string(record->dataSize()) +
+           "  " + onOneLine(source) + "  " + onOneLine(textOf(*record).value_or("")) + "\n";
   }
   return all;
 }
 
-std::string json(const std::vector<std::shared_ptr<ClipboardItem>>& records) {
+std::string json(const std::vector<NumberedRecord>& records) {
   Json list = Json::array();
-  for (const auto& record : records) {
-    Json types = Json::array();
-    for (const auto& entry : record->data())
-      types.push_back(entry.first);
-    const auto text = textOf(*record);
-    const auto& source = record->sourceAppBundleIdentifier();
-    list.push_back({{"id", record->id().toString()},
-                    {"creationDate", isoDate(record->creationDate())},
-                    {"sourceAppBundleIdentifier", source.has_value() ? Json(*source) : Json()},
-                    {"types", std::move(types)},
-                    {"size", record->dataSize()},
-                    {"timesPasted", record->timesPasted()},
-                    {"text", text.has_value() ? Json(*text) : Json()}});
-  }
-  return list.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+  for (const auto& each : records)
+    list.push_back(object(each, textOf(*each.record)));
+  return dump(list);
+}
+
+std::string wholeJson(const NumberedRecord& record) { return dump(object(record, wholeText(*record.record))); }
+
+std::optional<std::string> wholeText(const ClipboardItem& record) {
+  const auto data = record.data(pasteboardtype::utf8PlainText);
+  if (!data || data->size() > wholeLimit) return std::nullopt;
+  const auto bytes = data->bytes();
+  return bytes ? std::optional(*bytes) : std::nullopt;
 }
 
 }  // namespace quillmonger::recordlist
