@@ -1,6 +1,9 @@
 #include "Quillmonger/shell/command/CommandMessage.h"
 
+#include <charconv>
+#include <cstddef>
 #include <nlohmann/json.hpp>
+#include <system_error>
 #include <utility>
 
 #include "Defaults/Base64.h"
@@ -27,6 +30,15 @@ Json parse(std::string_view line, std::size_t limit) {
 
 std::string dump(const Json& json) { return json.dump(-1, ' ', false, Json::error_handler_t::replace); }
 
+// The decimal number up to `end`, which goes from `text` with it.
+std::optional<std::size_t> takeNumber(std::string_view& text, char end) {
+  std::size_t number = 0;
+  const auto [rest, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (error != std::errc() || rest == text.data() + text.size() || *rest != end) return std::nullopt;
+  text.remove_prefix(static_cast<std::size_t>(rest - text.data()) + 1);
+  return number;
+}
+
 std::optional<std::string> decodedInput(const Json& json) {
   const auto* text = json.get_ptr<const std::string*>();
   const auto bytes = text != nullptr ? defaults::decodeBase64(*text) : std::nullopt;
@@ -43,7 +55,8 @@ std::string encode(const CommandRequest& request) {
 }
 
 std::string encode(const CommandResult& result) {
-  return dump({{"exitCode", result.exitCode}, {"output", result.output}, {"errorOutput", result.errorOutput}});
+  return std::to_string(result.exitCode) + " " + std::to_string(result.output.size()) + " " +
+         std::to_string(result.errorOutput.size()) + "\n" + result.output + result.errorOutput;
 }
 
 std::optional<CommandRequest> decodeRequest(std::string_view line) {
@@ -64,17 +77,15 @@ std::optional<CommandRequest> decodeRequest(std::string_view line) {
   return request;
 }
 
-std::optional<CommandResult> decodeResult(std::string_view line) {
-  const Json json = parse(line, resultLimit);
-  if (!json.is_object()) return std::nullopt;
-  const auto exitCode = json.find("exitCode");
-  const auto output = json.find("output");
-  const auto errorOutput = json.find("errorOutput");
-  if (exitCode == json.end() || output == json.end() || errorOutput == json.end()) return std::nullopt;
-  if (!exitCode->is_number_unsigned() || *exitCode > 255 || !output->is_string() || !errorOutput->is_string()) {
-    return std::nullopt;
-  }
-  return CommandResult{exitCode->get<int>(), output->get<std::string>(), errorOutput->get<std::string>()};
+std::optional<CommandResult> decodeResult(std::string_view text) {
+  if (text.size() > resultLimit) return std::nullopt;
+  const auto exitCode = takeNumber(text, ' ');
+  const auto outputSize = takeNumber(text, ' ');
+  const auto errorSize = takeNumber(text, '\n');
+  if (!exitCode || !outputSize || !errorSize || *exitCode > 255) return std::nullopt;
+  if (*outputSize > text.size() || *errorSize != text.size() - *outputSize) return std::nullopt;
+  return CommandResult{static_cast<int>(*exitCode), std::string(text.substr(0, *outputSize)),
+                       std::string(text.substr(*outputSize))};
 }
 
 }  // namespace quillmonger::commandmessage

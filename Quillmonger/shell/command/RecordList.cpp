@@ -4,9 +4,8 @@
 
 #include <array>
 #include <chrono>
-#include <nlohmann/json.hpp>
 #include <optional>
-#include <utility>
+#include <string_view>
 
 #include "Foundation/Text.h"
 #include "Quillmonger/capture/PasteboardTypes.h"
@@ -14,8 +13,6 @@
 namespace quillmonger::recordlist {
 
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 constexpr std::size_t bytesPerCharacter = 4;
 
@@ -62,23 +59,51 @@ std::string onOneLine(std::string text) {
   return text;
 }
 
-Json object(const NumberedRecord& numbered, const std::optional<std::string>& text) {
-  const auto& record = *numbered.record;
-  Json types = Json::array();
-  for (const auto& entry : record.data())
-    types.push_back(entry.first);
-  const auto& source = record.sourceAppBundleIdentifier();
-  return {{"number", numbered.number},
-          {"id", record.id().toString()},
-          {"creationDate", isoDate(record.creationDate())},
-          {"sourceAppBundleIdentifier", source.has_value() ? Json(*source) : Json()},
-          {"types", std::move(types)},
-          {"size", record.dataSize()},
-          {"timesPasted", record.timesPasted()},
-          {"text", text.has_value() ? Json(*text) : Json()}};
+// Half of the work of a long list, so written straight into it.
+void appendString(std::string& out, std::string_view text) {
+  constexpr std::string_view digits = "0123456789abcdef";
+  out += '"';
+  for (const char letter : text) {
+    const auto byte = static_cast<unsigned char>(letter);
+    if (letter == '"' || letter == '\\') {
+      out += '\\';
+      out += letter;
+    } else if (byte < 0x20) {
+      out += "\\u00";
+      out += digits[byte >> 4U];
+      out += digits[byte & 0xFU];
+    } else {
+      out += letter;
+    }
+  }
+  out += '"';
 }
 
-std::string dump(const Json& json) { return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n"; }
+void appendOptional(std::string& out, const std::optional<std::string>& text) {
+  if (text) {
+    appendString(out, foundation::toValidUtf8(*text));
+  } else {
+    out += "null";
+  }
+}
+
+void appendObject(std::string& out, const NumberedRecord& numbered, const std::optional<std::string>& text) {
+  const auto& record = *numbered.record;
+  out += "{\"number\":" + std::to_string(numbered.number) + ",\"id\":\"" + record.id().toString() +
+         "\",\"creationDate\":\"" + isoDate(record.creationDate()) + "\",\"sourceAppBundleIdentifier\":";
+  appendOptional(out, record.sourceAppBundleIdentifier());
+  out += ",\"types\":[";
+  const char* separator = "";
+  for (const auto& entry : record.data()) {
+    out += separator;
+    appendString(out, foundation::toValidUtf8(entry.first));
+    separator = ",";
+  }
+  out += "],\"size\":" + std::to_string(record.dataSize()) +
+         ",\"timesPasted\":" + std::to_string(record.timesPasted()) + ",\"text\":";
+  appendOptional(out, text);
+  out += '}';
+}
 
 }  // namespace
 
@@ -93,13 +118,21 @@ std::string lines(const std::vector<NumberedRecord>& records) {
 }
 
 std::string json(const std::vector<NumberedRecord>& records) {
-  Json list = Json::array();
-  for (const auto& each : records)
-    list.push_back(object(each, textOf(*each.record)));
-  return dump(list);
+  std::string all = "[";
+  const char* separator = "\n";
+  for (const auto& each : records) {
+    all += separator;
+    appendObject(all, each, textOf(*each.record));
+    separator = ",\n";
+  }
+  return all + (records.empty() ? "]\n" : "\n]\n");
 }
 
-std::string wholeJson(const NumberedRecord& record) { return dump(object(record, wholeText(*record.record))); }
+std::string wholeJson(const NumberedRecord& record) {
+  std::string text;
+  appendObject(text, record, wholeText(*record.record));
+  return text + "\n";
+}
 
 std::optional<std::string> wholeText(const ClipboardItem& record) {
   const auto data = record.data(pasteboardtype::utf8PlainText);

@@ -24,8 +24,8 @@ inline constexpr std::size_t characterLimit = 1000;
 
 /// One line for each record: number, date, size, application and the text's beginning, without control characters.
 [[nodiscard]] std::string lines(const std::vector<NumberedRecord>& records);
-/// A JSON list of objects {number, id, creationDate, sourceAppBundleIdentifier, types, size, timesPasted, text}, in
-/// this order. Dates are UTC in ISO 8601; an application or text that a record doesn't have is null.
+/// A JSON list, a line for each object {number, id, creationDate, sourceAppBundleIdentifier, types, size, timesPasted,
+/// text}, in this order. Dates are UTC in ISO 8601; an application or text that a record doesn't have is null.
 [[nodiscard]] std::string json(const std::vector<NumberedRecord>& records);
 /// One such object, with the whole text.
 [[nodiscard]] std::string wholeJson(const NumberedRecord& record);

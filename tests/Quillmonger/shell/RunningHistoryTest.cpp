@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/Quillmonger/history/ClipboardViewModelFixture.h"
+#include "tests/support/ClipboardViewModelFixture.h"
 
 namespace {
 

@@ -151,6 +151,14 @@ TEST_F(CommandLineTest, CutsTextAfterAThousandCharacters) {
   EXPECT_EQ(listed()[0]["text"].get<std::string>().size(), 4000U);
 }
 
+TEST_F(CommandLineTest, EscapesWhatJsonDoesNotTake) {
+  const std::string text = "\"\\\n\t\x01\x1f/\u00fc\U0001F600";
+  records = {textItem(text, "a\"b")};
+
+  EXPECT_EQ(listed()[0]["text"], text);
+  EXPECT_EQ(listed()[0]["sourceAppBundleIdentifier"], "a\"b");
+}
+
 TEST_F(CommandLineTest, MendsTextThatIsNoUtf8) {
   records = {textItem("a\xff")};
 
