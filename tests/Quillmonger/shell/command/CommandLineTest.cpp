@@ -261,7 +261,8 @@ TEST_F(CommandLineTest, ListsTheFieldsOfARecordInTheDocumentedOrder) {
   records = {textItem("text")};
   std::vector<std::string> names;
 
-  for (const auto& [name, value] : nlohmann::ordered_json::parse(run({"list", "--json"}).output)[0].items())
+  const auto list = nlohmann::ordered_json::parse(run({"list", "--json"}).output);
+  for (const auto& [name, value] : list[0].items())
     names.push_back(name);
 
   EXPECT_EQ(names, (std::vector<std::string>{"number", "id", "creationDate", "sourceAppBundleIdentifier", "types",
