@@ -55,8 +55,13 @@ std::string encode(const CommandRequest& request) {
 }
 
 std::string encode(const CommandResult& result) {
-  return std::to_string(result.exitCode) + " " + std::to_string(result.output.size()) + " " +
-         std::to_string(result.errorOutput.size()) + "\n" + result.output + result.errorOutput;
+  std::string text = std::to_string(result.exitCode) + " " + std::to_string(result.output.size()) + " " +
+                     std::to_string(result.errorOutput.size()) + "\n";
+  // And the line end that follows: a long list is copied no more often than it must.
+  text.reserve(text.size() + result.output.size() + result.errorOutput.size() + 1);
+  text += result.output;
+  text += result.errorOutput;
+  return text;
 }
 
 std::optional<CommandRequest> decodeRequest(std::string_view line) {

@@ -27,12 +27,13 @@ std::string isoDate(foundation::Date date) {
 
 bool isContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
 
-std::string firstCharacters(std::string_view text) {
+std::string firstCharacters(std::string text) {
+  if (text.size() <= characterLimit) return text;
   std::size_t count = 0;
   for (std::size_t index = 0; index < text.size(); ++index) {
-    if (!isContinuation(text[index]) && ++count > characterLimit) return std::string(text.substr(0, index));
+    if (!isContinuation(text[index]) && ++count > characterLimit) return text.substr(0, index);
   }
-  return std::string(text);
+  return text;
 }
 
 std::optional<std::string> textOf(const ClipboardItem& item) {
@@ -59,29 +60,30 @@ std::string onOneLine(std::string text) {
   return text;
 }
 
-// Half of the work of a long list, so written straight into it.
+// A long list is little else than strings, so they are written straight into it.
 void appendString(std::string& out, std::string_view text) {
   constexpr std::string_view digits = "0123456789abcdef";
   out += '"';
-  for (const char letter : text) {
-    const auto byte = static_cast<unsigned char>(letter);
-    if (letter == '"' || letter == '\\') {
-      out += '\\';
-      out += letter;
-    } else if (byte < 0x20) {
-      out += "\\u00";
-      out += digits[byte >> 4U];
-      out += digits[byte & 0xFU];
+  std::size_t written = 0;
+  for (std::size_t index = 0; index < text.size(); ++index) {
+    const auto byte = static_cast<unsigned char>(text[index]);
+    if (byte >= 0x20 && byte != '"' && byte != '\\') continue;
+    out.append(text, written, index - written);
+    written = index + 1;
+    if (byte >= 0x20) {
+      out += {'\\', text[index]};
     } else {
-      out += letter;
+      out += {'\\', 'u', '0', '0', digits[byte >> 4U], digits[byte & 0xFU]};
     }
   }
+  out.append(text, written);
   out += '"';
 }
 
+// `text` is valid UTF-8.
 void appendOptional(std::string& out, const std::optional<std::string>& text) {
   if (text) {
-    appendString(out, foundation::toValidUtf8(*text));
+    appendString(out, *text);
   } else {
     out += "null";
   }
@@ -91,7 +93,8 @@ void appendObject(std::string& out, const NumberedRecord& numbered, const std::o
   const auto& record = *numbered.record;
   out += "{\"number\":" + std::to_string(numbered.number) + ",\"id\":\"" + record.id().toString() +
          "\",\"creationDate\":\"" + isoDate(record.creationDate()) + "\",\"sourceAppBundleIdentifier\":";
-  appendOptional(out, record.sourceAppBundleIdentifier());
+  const auto& source = record.sourceAppBundleIdentifier();
+  appendOptional(out, source ? std::optional(foundation::toValidUtf8(*source)) : std::nullopt);
   out += ",\"types\":[";
   const char* separator = "";
   for (const auto& entry : record.data()) {
@@ -111,8 +114,10 @@ std::string lines(const std::vector<NumberedRecord>& records) {
   std::string all;
   for (const auto& [number, record] : records) {
     const auto source = foundation::toValidUtf8(record->sourceAppBundleIdentifier().value_or("-"));
-    all += std::to_string(number) + "  " + isoDate(record->creationDate()) + "  " + std::to_string(record->dataSize()) +
-           "  " + onOneLine(source) + "  " + onOneLine(textOf(*record).value_or("")) + "\n";
+    all += std::to_string(number) + "  " + isoDate(record->creationDate()) + "  " + std::to_string(record->dataSize());
+    all += "  " + onOneLine(source) + "  ";
+    all += onOneLine(textOf(*record).value_or(""));
+    all += '\n';
   }
   return all;
 }
@@ -138,7 +143,7 @@ std::optional<std::string> wholeText(const ClipboardItem& record) {
   const auto data = record.data(pasteboardtype::utf8PlainText);
   if (!data || data->size() > wholeLimit) return std::nullopt;
   const auto bytes = data->bytes();
-  return bytes ? std::optional(*bytes) : std::nullopt;
+  return bytes ? std::optional(foundation::toValidUtf8(*bytes)) : std::nullopt;
 }
 
 }  // namespace quillmonger::recordlist

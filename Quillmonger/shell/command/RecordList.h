@@ -29,7 +29,8 @@ inline constexpr std::size_t characterLimit = 1000;
 [[nodiscard]] std::string json(const std::vector<NumberedRecord>& records);
 /// One such object, with the whole text.
 [[nodiscard]] std::string wholeJson(const NumberedRecord& record);
-/// The whole text; absent when the record has none, or one of more than `wholeLimit` bytes.
+/// The whole text, without anything that is no UTF-8; absent when the record has none, or one of more than `wholeLimit`
+/// bytes.
 [[nodiscard]] std::optional<std::string> wholeText(const ClipboardItem& record);
 inline constexpr std::size_t wholeLimit = std::size_t{8} << 20U;
 
