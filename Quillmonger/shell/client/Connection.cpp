@@ -70,7 +70,10 @@ std::optional<std::string> Connection::request(std::string line, std::chrono::mi
     const ssize_t count = recv(m_descriptor, buffer.data(), buffer.size(), MSG_DONTWAIT);
     if (count < 0 && (errno == EAGAIN || errno == EINTR)) continue;
     if (count < 0 || (count == 0 && !reply.ends_with('\n'))) break;
-    if (count == 0) return reply.substr(0, reply.size() - 1);
+    if (count == 0) {
+      reply.pop_back();
+      return reply;
+    }
     reply.append(buffer.data(), static_cast<std::size_t>(count));
   }
   return std::nullopt;

@@ -130,13 +130,15 @@ std::string json(const std::vector<NumberedRecord>& records) {
     appendObject(all, each, textOf(*each.record));
     separator = ",\n";
   }
-  return all + (records.empty() ? "]\n" : "\n]\n");
+  all += records.empty() ? "]\n" : "\n]\n";
+  return all;
 }
 
 std::string wholeJson(const NumberedRecord& record) {
   std::string text;
   appendObject(text, record, wholeText(*record.record));
-  return text + "\n";
+  text += '\n';
+  return text;
 }
 
 std::optional<std::string> wholeText(const ClipboardItem& record) {
