@@ -39,6 +39,13 @@ bool isMimeType(std::string_view text) {
          std::ranges::all_of(text, isPermitted);
 }
 
+std::string quoted(std::string_view word) {
+  std::string text = "\"";
+  text += word;
+  text += '"';
+  return text;
+}
+
 bool takesValue(std::string_view option) { return option == "--limit" || option == "--type"; }
 
 }  // namespace
@@ -47,6 +54,14 @@ CommandResult misuse(const std::string& why, std::string_view help) {
   return {2,
           {},
           "quillmonger: " + why + "\n" + std::string(help.substr(0, help.find('\n') + 1)) + "\"--help\" tells more.\n"};
+}
+
+std::string suggestion(std::string_view word, std::span<const std::string_view> candidates) {
+  const auto nearest = nearestWord(word, candidates);
+  if (!nearest) return {};
+  std::string text = " Did you mean ";
+  text += quoted(*nearest) + "?";
+  return text;
 }
 
 std::variant<Command, CommandResult> ArgumentReader::read(CommandWords words) {
@@ -82,10 +97,10 @@ ArgumentReader::Complaint ArgumentReader::readOption(std::string_view word) {
   if (std::ranges::find(m_form.options, name) == m_form.options.end()) return unknownOption(name);
   if (takesValue(name)) {
     if (sign != std::string_view::npos) return readValue(name, std::string(word.substr(sign + 1)));
-    if (isAtEnd()) return "\"" + std::string(name) + "\" needs a value.";
+    if (isAtEnd()) return quoted(name) + " needs a value.";
     return readValue(name, m_words[m_next++]);
   }
-  if (sign != std::string_view::npos) return "\"" + std::string(name) + "\" takes no value.";
+  if (sign != std::string_view::npos) return quoted(name) + " takes no value.";
   m_command.isJson = m_command.isJson || name == "--json";
   m_command.isRegularExpression = m_command.isRegularExpression || name == "--regex";
   m_command.isPrinted = m_command.isPrinted || name == "--print";
@@ -120,7 +135,7 @@ ArgumentReader::Complaint ArgumentReader::check() {
 ArgumentReader::Complaint ArgumentReader::readRecords() {
   for (const auto& argument : m_command.arguments) {
     const auto name = recordName(argument);
-    if (!name) return "\"" + argument + "\" is no record: give its number in \"list\", or its id.";
+    if (!name) return quoted(argument) + " is no record: give its number in \"list\", or its id.";
     m_command.records.push_back(*name);
   }
   if (m_command.records.empty()) m_command.records.emplace_back(std::size_t{1});
@@ -128,10 +143,11 @@ ArgumentReader::Complaint ArgumentReader::readRecords() {
 }
 
 ArgumentReader::Complaint ArgumentReader::unknownOption(std::string_view name) const {
-  std::string complaint = "unknown option \"" + std::string(name) + "\".";
-  if (const auto nearest = nearestWord(name, m_form.options))
-    return complaint + " Did you mean \"" + std::string(*nearest) + "\"?";
-  return m_form.mostArguments > 0 ? complaint + " Put \"--\" before a word that begins with \"-\"." : complaint;
+  std::string complaint = "unknown option ";
+  complaint += quoted(name) + ".";
+  const auto guess = suggestion(name, m_form.options);
+  if (guess.empty() && m_form.mostArguments > 0) return complaint + " Put \"--\" before a word that begins with \"-\".";
+  return complaint + guess;
 }
 
 }  // namespace quillmonger

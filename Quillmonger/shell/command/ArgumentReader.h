@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -14,6 +15,9 @@ namespace quillmonger {
 
 /// The answer to a call that is not understood: why, and the first line of `help`.
 [[nodiscard]] CommandResult misuse(const std::string& why, std::string_view help);
+
+/// The question whether the nearest of `candidates` is meant; empty when none is near.
+[[nodiscard]] std::string suggestion(std::string_view word, std::span<const std::string_view> candidates);
 
 /// Reads what follows a command's name. Used once. Any thread.
 class ArgumentReader final {

@@ -6,7 +6,6 @@
 #include "Foundation/Url.h"
 #include "Quillmonger/shell/command/ArgumentReader.h"
 #include "Quillmonger/shell/command/CommandForm.h"
-#include "Quillmonger/shell/command/NearestWord.h"
 
 namespace quillmonger {
 
@@ -27,10 +26,7 @@ CommandResult unknown(const std::string& word) {
   std::vector<std::string_view> names{"defaults", "help"};
   for (const auto& form : commandForms())
     names.push_back(form.words[0]);
-  const auto nearest = nearestWord(word, names);
-  return misuse(
-      "unknown word \"" + word + "\"." + (nearest ? " Did you mean \"" + std::string(*nearest) + "\"?" : std::string()),
-      commandUsage());
+  return misuse("unknown word \"" + word + "\"." + suggestion(word, names), commandUsage());
 }
 
 std::variant<Command, CommandResult> parseDefaults(const CommandWords& words) {
