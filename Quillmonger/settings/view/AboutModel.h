@@ -20,7 +20,8 @@ class AboutModel final : public QObject {
   Q_ENUM(Page)
 
   /// `open` shows a page outside the program.
-  AboutModel(QString version, std::function<void(Page)> open) : m_version(std::move(version)), m_open(std::move(open)) {}
+  AboutModel(QString version, std::function<void(Page)> open)
+      : m_version(std::move(version)), m_open(std::move(open)) {}
 
   [[nodiscard]] QString version() const { return m_version; }
 

@@ -4,7 +4,8 @@
 
 namespace quillmonger {
 
-/// Opens a page in the user's browser. What is not installed, or can't be shown, is told on standard output. Main thread.
+/// Opens a page in the user's browser. What is not installed, or can't be shown, is told on standard output. Main
+/// thread.
 void openOutsidePage(AboutModel::Page page);
 
 }  // namespace quillmonger
