@@ -61,6 +61,7 @@ bool isValidUtf8(std::string_view text) {
 }
 
 std::string toValidUtf8(std::string_view text) {
+  if (isValidUtf8(text)) return std::string(text);
   constexpr std::string_view replacement = "\xEF\xBF\xBD";
   const auto* bytes = unsignedBytes(text);
   const std::size_t size = text.size();

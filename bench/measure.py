@@ -273,8 +273,24 @@ def copies():
                  f"afterwards {desktop.resident() - rest_memory:+.0f} MB")
 
 
+def command():
+    print("\nCommand line, 10,000 records of 200 bytes")
+    with Measured(10_000) as desktop:
+        desktop.start_to_ready()
+        settle(desktop)
+        for words in (["--version"], ["incognito", "status"], ["list", "--limit", "10"], ["list"], ["list", "--json"],
+                      ["search", "--limit", "10", "record 12"], ["search", "--json", "LOREM"],
+                      ["search", "--regex", "^record 1[0-9]+5:"], ["paste", "--print", "5000"], ["delete", "1"]):
+            times = []
+            for _ in range(ROUNDS * 2):
+                begin = time.perf_counter()
+                desktop.quillmonger(*words)
+                times.append((time.perf_counter() - begin) * 1000)
+            tell("quillmonger " + " ".join(words), *spread(times))
+
+
 if __name__ == "__main__":
     chosen = [word for word in sys.argv[2:] if not word.startswith("--")]
-    for part in (start, window, typing, paste, memory, rest, copies):
+    for part in (start, window, typing, paste, memory, rest, copies, command):
         if not chosen or part.__name__ in chosen:
             part()

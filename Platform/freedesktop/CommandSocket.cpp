@@ -176,8 +176,9 @@ class CommandSocket::Server final : public std::enable_shared_from_this<Server> 
     std::array<char, 16384> buffer{};
     const ssize_t count = recv(client.descriptor, buffer.data(), buffer.size(), 0);
     if (count < 0 && (errno == EAGAIN || errno == EINTR)) return;
+    const auto start = client.text.size();
     if (count > 0) client.text.append(buffer.data(), static_cast<std::size_t>(count));
-    const auto end = client.text.find('\n');
+    const auto end = client.text.find('\n', start);
     if (end != std::string::npos && end <= requestLimit) {
       client.phase = Phase::waiting;
       client.deadline = Clock::now() + m_patience.answer;

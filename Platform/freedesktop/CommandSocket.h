@@ -14,17 +14,19 @@
 
 namespace platform {
 
-/// Where this user's other processes hand in requests: one line each way, then the connection ends. Has a thread of
+/// Where this user's other processes hand in requests: one line in, a text and a line end out, then
+/// the connection ends. Has a thread of
 /// its own that sleeps while nobody calls. A caller that is slow, silent or another user is cut off, and holds up no
 /// other.
 class CommandSocket final {
  public:
-  static constexpr std::size_t requestLimit = std::size_t{1} << 20U;
+  /// In bytes.
+  static constexpr std::size_t requestLimit = std::size_t{12} << 20U;
   static constexpr std::size_t clientLimit = 16;
 
   using Reply = std::function<void(std::string)>;
   /// Called on the main thread with the line, without its end. `reply`: once, from any thread, at any later time, even
-  /// when this object is gone; a line without its end.
+  /// when this object is gone.
   using Handler = std::function<void(std::string request, Reply reply)>;
 
   /// How long a caller may take for its request, the program for its answer, and the caller to read it.

@@ -155,14 +155,25 @@ void ClipboardViewModel::deleteSelectedItem() {
   const auto selected = m_selectedItem.value();
   if (!selected) return;
   m_with.context.remove(selected->item());
-  if (const auto row = rowOf(selected)) {
-    const auto& rows = *m_filteredItems.value();
-    const bool isLast = *row + 1 == rows.size();
-    const auto next = isLast ? itemAt(*row - 1) : itemAt(*row + 1);
-    removeRow(*row);
-    m_selectedItem.set(next);
-  }
+  removeFromRows(selected);
   m_items.remove(*selected);
+}
+
+void ClipboardViewModel::deleteItem(const Item& item) {
+  if (!m_items.contains(*item)) return;
+  m_with.context.remove(item->item());
+  removeFromRows(item);
+  m_items.remove(*item);
+}
+
+void ClipboardViewModel::removeFromRows(const Item& item) {
+  const auto row = rowOf(item);
+  if (!row) return;
+  const bool isSelected = m_selectedItem.value() == item;
+  const bool isLast = *row + 1 == m_filteredItems.value()->size();
+  const auto next = isLast ? itemAt(*row - 1) : itemAt(*row + 1);
+  removeRow(*row);
+  if (isSelected) m_selectedItem.set(next);
 }
 
 void ClipboardViewModel::selectFirstItem() { m_selectedItem.set(itemAt(0)); }

@@ -71,6 +71,9 @@ class ClipboardViewModel final : public BaseEventManager {
   /// Selects an item that was clicked. Nothing happens for one that is no longer in the history.
   void select(const Item& item);
 
+  /// Deletes an item from the history and the store. If it is selected, the row below is then, or the last one. Nothing
+  /// happens for one that is no longer in the history.
+  void deleteItem(const Item& item);
   /// Empties the history and the store.
   void deleteAllItems();
 
@@ -97,6 +100,7 @@ class ClipboardViewModel final : public BaseEventManager {
   [[nodiscard]] Item itemAt(std::size_t row) const;  // null beyond the rows
   [[nodiscard]] std::optional<std::size_t> rowOf(const Item& item) const;
   void removeRow(std::size_t row);
+  void removeFromRows(const Item& item);
 
   Collaborators m_with;
   std::shared_ptr<const ClipboardItemViewModel::Services> m_itemServices;

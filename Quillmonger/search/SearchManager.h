@@ -36,8 +36,12 @@ class SearchManager final {
   /// begins. There is no failure, and no way to stop the work: a caller that has lost its interest drops the result.
   /// `items` and `completion` are let go of on the main thread.
   void search(SearchItems<T> items, std::string term, Completion completion) {
+    search(std::move(items), std::move(term), searchOptions(m_defaults), std::move(completion));
+  }
+  /// The same, whatever the user's search settings are.
+  void search(SearchItems<T> items, std::string term, const SearchOptions& options, Completion completion) {
     auto work = std::make_shared<const Work>(
-        Work{std::move(items), std::move(term), searchOptions(m_defaults), std::move(completion), m_isAlive});
+        Work{std::move(items), std::move(term), options, std::move(completion), m_isAlive});
     m_queue.async([work = std::move(work), &queue = m_queue, &runLoop = m_runLoop]() mutable {
       SearchResults<T> results;
       if (!work->isManagerAlive.expired()) results = found(*work, queue);

@@ -62,6 +62,8 @@ Quillmonger::Quillmonger(const Platform& platform)
                             platform.applicationNaming, *m_oculetManager, platform.pictureReading, platform.texts,
                             platform.eventMonitoring, platform.shortcuts, platform.runLoop, platform.notificationCenter,
                             platform.defaults}),
+      m_commandedHistory(
+          {m_clipboardManager, m_clipboardViewModel, m_searchManager, platform.runLoop, platform.notificationCenter}),
       m_windowManager({m_clipboardViewModel, m_searchViewModel, platform.gettingStartedWindow, platform.appWindow,
                        platform.settingsWindowController, platform.aboutWindow, platform.previewPanel, platform.motion,
                        platform.application, platform.eventMonitoring, platform.runLoop, platform.notificationCenter}),

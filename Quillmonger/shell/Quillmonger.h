@@ -28,6 +28,7 @@
 #include "Quillmonger/settings/panes/IgnoreAppsViewModel.h"
 #include "Quillmonger/shell/AudioManager.h"
 #include "Quillmonger/shell/AudioPlayer.h"
+#include "Quillmonger/shell/RunningHistory.h"
 #include "Quillmonger/shell/StatusBarManager.h"
 #include "Quillmonger/shell/StatusItem.h"
 #include "Quillmonger/shell/Updater.h"
@@ -84,6 +85,8 @@ class Quillmonger final {
   [[nodiscard]] ClipboardManager& clipboardManager() { return m_clipboardManager; }
   [[nodiscard]] const OculetManager& oculetManager() const { return *m_oculetManager; }
   [[nodiscard]] ClipboardViewModel& clipboardViewModel() { return m_clipboardViewModel; }
+  /// The history for the command line.
+  [[nodiscard]] CommandedHistory& commandedHistory() { return m_commandedHistory; }
   [[nodiscard]] SearchViewModel& searchViewModel() { return m_searchViewModel; }
   /// Made when it is first asked for: it reads the applications that it lists.
   [[nodiscard]] IgnoreAppsViewModel& ignoreAppsViewModel();
@@ -126,6 +129,7 @@ class Quillmonger final {
   SearchViewModel m_searchViewModel;
   SearchManager<ClipboardItemViewModel> m_searchManager;
   ClipboardViewModel m_clipboardViewModel;
+  RunningHistory m_commandedHistory;
   std::optional<IgnoreAppsViewModel> m_ignoreAppsViewModel;
   WindowManager m_windowManager;
   StatusBarManager m_statusBarManager;

@@ -21,10 +21,13 @@ class FakeClipboard final : public quillmonger::ClipboardManaging {
   void startListening() override {}
   void writeToPasteboard(const quillmonger::ClipboardItem& item, RemoveFormatting removeFormatting) override {
     m_writes.push_back({item.id(), removeFormatting});
+    m_lastPayload = item.data();
   }
   void pasteIntoFrontmostApplication() override { m_writeCountsAtPaste.push_back(m_writes.size()); }
 
   [[nodiscard]] const std::vector<Write>& writes() const { return m_writes; }
+  /// What was written last.
+  [[nodiscard]] const quillmonger::Payload& lastPayload() const { return m_lastPayload; }
   /// For each paste step, oldest first, how many writes came before it.
   [[nodiscard]] const std::vector<std::size_t>& writeCountsAtPaste() const { return m_writeCountsAtPaste; }
 
@@ -32,6 +35,7 @@ class FakeClipboard final : public quillmonger::ClipboardManaging {
   foundation::Stream<Record> m_newItemPublisher;
   foundation::Stream<Record> m_duplicateItemPublisher;
   std::vector<Write> m_writes;
+  quillmonger::Payload m_lastPayload;
   std::vector<std::size_t> m_writeCountsAtPaste;
 };
 

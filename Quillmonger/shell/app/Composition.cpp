@@ -9,6 +9,7 @@
 
 #include "Foundation/Fatal.h"
 #include "Foundation/Output.h"
+#include "Platform/freedesktop/PasteboardTypeTable.h"
 #include "Platform/sound/SoundProcess.h"
 #include "Quillmonger/resources/Texts.h"
 #include "Quillmonger/shell/command/CommandSyntax.h"
@@ -41,6 +42,11 @@ std::optional<std::string> resource(std::string_view name, std::string_view file
 
 std::string soundPlayer() {
   return QCoreApplication::applicationDirPath().append(QStringLiteral("/quillmonger-sound")).toStdString();
+}
+
+std::string pasteboardType(const std::string& mimeType) {
+  const auto* entry = platform::PasteboardTypeTable::entryForName(mimeType);
+  return entry != nullptr ? std::string(entry->type) : mimeType;
 }
 
 void openUrl(const foundation::Url& url) {
@@ -107,7 +113,7 @@ Composition::Composition(const platform::XdgFolders& folders, const std::vector<
               m_updater,
               resource,
               platform::SoundProcess::factory(soundPlayer())}),
-      m_commandLine(commandOperations(), m_defaults) {
+      m_commandLine(commandOperations(), m_root.commandedHistory(), m_defaults) {
   m_views.follow(m_desktopPreferences);
   m_views.feed(m_root, *m_pasteboard);
   m_resigning = m_application.onDidResignActive([this] { m_root.applicationDidResignActive(); });
@@ -156,20 +162,14 @@ CommandLine::Operations Composition::commandOperations() {
           [this] { m_root.showAbout(); },
           [this](const std::vector<std::string>& urls) { m_root.openURLs(urls); },
           [this] { m_root.quitApp(); },
-          [this] { return recordsNewestFirst(); }};
-}
-
-std::vector<std::shared_ptr<ClipboardItem>> Composition::recordsNewestFirst() {
-  std::vector<std::shared_ptr<ClipboardItem>> records;
-  m_root.clipboardViewModel().items().forEach([&records](const auto& item) { records.push_back(item->item()); });
-  std::ranges::stable_sort(records, std::greater(), [](const auto& record) { return record->creationDate(); });
-  return records;
+          pasteboardType};
 }
 
 void Composition::listenToCommands() {
+  static_assert(platform::CommandSocket::requestLimit >= commandmessage::requestLimit);
   m_commandSocket = platform::CommandSocket::listen(
       m_folders.runtime / "socket", m_runLoop,
-      [this](const auto& line, const auto& reply) { reply(m_commandLine.answer(line)); });
+      [this](const auto& line, const auto& reply) { m_commandLine.answer(line, reply); });
 }
 
 void Composition::tellServices() const {

@@ -61,7 +61,6 @@ class Composition final {
   [[nodiscard]] bool isTerminal(const std::string& windowClass) const;
   [[nodiscard]] std::optional<std::string> iconOf(const std::string& path) const;
   [[nodiscard]] CommandLine::Operations commandOperations();
-  [[nodiscard]] std::vector<std::shared_ptr<ClipboardItem>> recordsNewestFirst();
   void listenToCommands();
   void tellServices() const;
 

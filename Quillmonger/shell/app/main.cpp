@@ -76,7 +76,7 @@ std::unique_ptr<platform::SingleInstance> claimOrHandOver(const platform::XdgFol
   for (;;) {
     if (auto instance = platform::SingleInstance::claim(folders.runtime)) return instance;
     auto first = quillmonger::Connection::open(folders.runtime / "socket");
-    if (first && first->request(quillmonger::commandmessage::encode(words), patience)) return nullptr;
+    if (first && first->request(quillmonger::commandmessage::encode({words, {}}), patience)) return nullptr;
     // It is about to end, or has just begun.
     if (std::chrono::steady_clock::now() > deadline) return nullptr;
     std::this_thread::sleep_for(std::chrono::milliseconds(10));

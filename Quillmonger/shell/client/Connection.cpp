@@ -69,11 +69,12 @@ std::optional<std::string> Connection::request(std::string line, std::chrono::mi
   while (reply.size() <= commandmessage::resultLimit && waitFor(m_descriptor, POLLIN, deadline)) {
     const ssize_t count = recv(m_descriptor, buffer.data(), buffer.size(), MSG_DONTWAIT);
     if (count < 0 && (errno == EAGAIN || errno == EINTR)) continue;
-    if (count <= 0) break;
+    if (count < 0 || (count == 0 && !reply.ends_with('\n'))) break;
+    if (count == 0) {
+      reply.pop_back();
+      return reply;
+    }
     reply.append(buffer.data(), static_cast<std::size_t>(count));
-    if (reply.back() != '\n') continue;
-    reply.pop_back();
-    return reply;
   }
   return std::nullopt;
 }

@@ -18,7 +18,8 @@ class Connection final {
   Connection& operator=(const Connection&) = delete;
   ~Connection();
 
-  /// Sends one line and waits for the line that answers it. Absent when the program gives none in time.
+  /// Sends one line and waits for the text that answers it, up to the connection's end. Absent when the program gives
+  /// none in time.
   [[nodiscard]] std::optional<std::string> request(std::string line, std::chrono::milliseconds patience);
 
  private:

@@ -1,6 +1,12 @@
+#include <errno.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstddef>
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -24,6 +30,27 @@ bool startApplication() {
   return program.has_value() && quillmonger::startDetached(*program);
 }
 
+std::optional<std::string> readInput(std::size_t limit) {
+  std::string input;
+  std::array<char, 65536> buffer{};
+  while (input.size() <= limit) {
+    const ssize_t count = read(STDIN_FILENO, buffer.data(), buffer.size());
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) return std::nullopt;
+    if (count == 0) return input;
+    input.append(buffer.data(), static_cast<std::size_t>(count));
+  }
+  return std::nullopt;
+}
+
+std::optional<bool> confirm(const std::string& question) {
+  if (isatty(STDIN_FILENO) == 0 || isatty(STDERR_FILENO) == 0) return std::nullopt;
+  std::cerr << question << std::flush;
+  std::string answer;
+  std::getline(std::cin, answer);
+  return answer == "y" || answer == "Y" || answer == "yes";
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -33,6 +60,8 @@ int main(int argc, char** argv) {
   if (platform::ensurePrivateFolder(folders.runtime)) surroundings.socket = folders.runtime / "socket";
   surroundings.settingsFile = folders.config / "settings.json";
   surroundings.hasDisplay = isSet("DISPLAY") || isSet("WAYLAND_DISPLAY");
+  surroundings.readInput = readInput;
+  surroundings.confirm = confirm;
   surroundings.startApplication = startApplication;
   const quillmonger::Client client(std::move(surroundings));
   const auto result = client.run({argv + 1, argv + argc});

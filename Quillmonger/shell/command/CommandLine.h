@@ -1,14 +1,13 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 #include <string>
 #include <vector>
 
 #include "Defaults/Defaults.h"
-#include "Quillmonger/capture/ClipboardItem.h"
 #include "Quillmonger/shell/command/CommandMessage.h"
 #include "Quillmonger/shell/command/CommandSyntax.h"
+#include "Quillmonger/shell/command/CommandedHistory.h"
 
 namespace quillmonger {
 
@@ -23,24 +22,29 @@ class CommandLine final {
     std::function<void(const std::vector<std::string>& urls)> openURLs;
     /// Ends the program, after the answer has gone out: so in a later turn.
     std::function<void()> quit;
-    /// The history, newest first.
-    std::function<std::vector<std::shared_ptr<ClipboardItem>>()> records;
+    /// The pasteboard type that a MIME type stands for; the MIME type itself when there is none.
+    std::function<std::string(const std::string& mimeType)> pasteboardType;
   };
+  using Done = std::function<void(const CommandResult&)>;
 
-  /// `settings` must outlive this object.
-  CommandLine(Operations operations, defaults::Defaults& settings);
+  /// `history` and `settings` must outlive this object.
+  CommandLine(Operations operations, CommandedHistory& history, defaults::Defaults& settings);
 
-  [[nodiscard]] CommandResult run(const CommandWords& words);
+  /// `done` is called once, during the call or, for a search, in a later turn.
+  void run(const CommandRequest& request, const Done& done);
   /// The same for one line of `commandmessage`, answered as one. A malformed line is answered with exit code 2.
-  [[nodiscard]] std::string answer(const std::string& line);
-
-  /// The commands on settings, which need no running program.
-  [[nodiscard]] static CommandResult runOnSettings(const Command& command, defaults::Defaults& settings);
+  void answer(const std::string& line, const std::function<void(std::string)>& reply);
 
  private:
-  [[nodiscard]] CommandResult run(const Command& command);
+  void search(const Command& command, const Done& done);
+  void runOnProgram(const Command& command);
+  [[nodiscard]] CommandResult runOnHistory(const Command& command, const std::string& input);
+  [[nodiscard]] CommandResult copy(const Command& command, const std::string& input);
+  [[nodiscard]] CommandResult paste(const Command& command);
+  [[nodiscard]] CommandResult remove(const Command& command);
 
   Operations m_operations;
+  CommandedHistory& m_history;
   defaults::Defaults& m_settings;
 };
 

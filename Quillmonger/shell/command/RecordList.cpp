@@ -4,8 +4,8 @@
 
 #include <array>
 #include <chrono>
-#include <nlohmann/json.hpp>
 #include <optional>
+#include <string_view>
 
 #include "Foundation/Text.h"
 #include "Quillmonger/capture/PasteboardTypes.h"
@@ -13,8 +13,6 @@
 namespace quillmonger::recordlist {
 
 namespace {
-
-using Json = nlohmann::json;
 
 constexpr std::size_t bytesPerCharacter = 4;
 
@@ -29,12 +27,13 @@ std::string isoDate(foundation::Date date) {
 
 bool isContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
 
-std::string firstCharacters(std::string_view text) {
+std::string firstCharacters(std::string text) {
+  if (text.size() <= characterLimit) return text;
   std::size_t count = 0;
   for (std::size_t index = 0; index < text.size(); ++index) {
-    if (!isContinuation(text[index]) && ++count > characterLimit) return std::string(text.substr(0, index));
+    if (!isContinuation(text[index]) && ++count > characterLimit) return text.substr(0, index);
   }
-  return std::string(text);
+  return text;
 }
 
 std::optional<std::string> textOf(const ClipboardItem& item) {
@@ -61,35 +60,92 @@ std::string onOneLine(std::string text) {
   return text;
 }
 
+// A long list is little else than strings, so they are written straight into it.
+void appendString(std::string& out, std::string_view text) {
+  constexpr std::string_view digits = "0123456789abcdef";
+  out += '"';
+  std::size_t written = 0;
+  for (std::size_t index = 0; index < text.size(); ++index) {
+    const auto byte = static_cast<unsigned char>(text[index]);
+    if (byte >= 0x20 && byte != '"' && byte != '\\') continue;
+    out.append(text, written, index - written);
+    written = index + 1;
+    if (byte >= 0x20) {
+      out += {'\\', text[index]};
+    } else {
+      out += {'\\', 'u', '0', '0', digits[byte >> 4U], digits[byte & 0xFU]};
+    }
+  }
+  out.append(text, written);
+  out += '"';
+}
+
+// `text` is valid UTF-8.
+void appendOptional(std::string& out, const std::optional<std::string>& text) {
+  if (text) {
+    appendString(out, *text);
+  } else {
+    out += "null";
+  }
+}
+
+void appendObject(std::string& out, const NumberedRecord& numbered, const std::optional<std::string>& text) {
+  const auto& record = *numbered.record;
+  out += "{\"number\":" + std::to_string(numbered.number) + ",\"id\":\"" + record.id().toString() +
+         "\",\"creationDate\":\"" + isoDate(record.creationDate()) + "\",\"sourceAppBundleIdentifier\":";
+  const auto& source = record.sourceAppBundleIdentifier();
+  appendOptional(out, source ? std::optional(foundation::toValidUtf8(*source)) : std::nullopt);
+  out += ",\"types\":[";
+  const char* separator = "";
+  for (const auto& entry : record.data()) {
+    out += separator;
+    appendString(out, foundation::toValidUtf8(entry.first));
+    separator = ",";
+  }
+  out += "],\"size\":" + std::to_string(record.dataSize()) +
+         ",\"timesPasted\":" + std::to_string(record.timesPasted()) + ",\"text\":";
+  appendOptional(out, text);
+  out += '}';
+}
+
 }  // namespace
 
-std::string lines(const std::vector<std::shared_ptr<ClipboardItem>>& records) {
+std::string lines(const std::vector<NumberedRecord>& records) {
   std::string all;
-  for (const auto& record : records) {
+  for (const auto& [number, record] : records) {
     const auto source = foundation::toValidUtf8(record->sourceAppBundleIdentifier().value_or("-"));
-    all += isoDate(record->creationDate()) + "  " + std::to_string(record->dataSize()) + "  " + onOneLine(source) +
-           "  " + onOneLine(textOf(*record).value_or("")) + "\n";
+    all += std::to_string(number) + "  " + isoDate(record->creationDate()) + "  " + std::to_string(record->dataSize());
+    all += "  " + onOneLine(source) + "  ";
+    all += onOneLine(textOf(*record).value_or(""));
+    all += '\n';
   }
   return all;
 }
 
-std::string json(const std::vector<std::shared_ptr<ClipboardItem>>& records) {
-  Json list = Json::array();
-  for (const auto& record : records) {
-    Json types = Json::array();
-    for (const auto& entry : record->data())
-      types.push_back(entry.first);
-    const auto text = textOf(*record);
-    const auto& source = record->sourceAppBundleIdentifier();
-    list.push_back({{"id", record->id().toString()},
-                    {"creationDate", isoDate(record->creationDate())},
-                    {"sourceAppBundleIdentifier", source.has_value() ? Json(*source) : Json()},
-                    {"types", std::move(types)},
-                    {"size", record->dataSize()},
-                    {"timesPasted", record->timesPasted()},
-                    {"text", text.has_value() ? Json(*text) : Json()}});
+std::string json(const std::vector<NumberedRecord>& records) {
+  std::string all = "[";
+  const char* separator = "\n";
+  for (const auto& each : records) {
+    all += separator;
+    appendObject(all, each, textOf(*each.record));
+    separator = ",\n";
   }
-  return list.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+  all += records.empty() ? "]\n" : "\n]\n";
+  return all;
+}
+
+std::string wholeJson(const NumberedRecord& record) {
+  std::string text;
+  appendObject(text, record, wholeText(*record.record));
+  text += '\n';
+  return text;
+}
+
+std::optional<std::string> wholeText(const ClipboardItem& record) {
+  const auto data = record.data(pasteboardtype::utf8PlainText);
+  if (!data || data->size() > wholeLimit) return std::nullopt;
+  const auto bytes = data->bytes();
+  return bytes ? std::optional(foundation::toValidUtf8(*bytes)) : std::nullopt;
 }
 
 }  // namespace quillmonger::recordlist

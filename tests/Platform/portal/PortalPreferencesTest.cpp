@@ -34,6 +34,8 @@ class PortalPreferencesTest : public testing::Test {
 
   // Whatever the bus delivers in the order of its sending has been delivered.
   void settle(PortalPreferences& preferences) {
+    // It asks again once it listens.
+    ASSERT_TRUE(QTest::qWaitFor([this] { return m_portal.askedCount() > 1; }));
     const bool present = preferences.reducesMotion().value();
     m_portal.announce(desktopInterface, animations, present);
 
@@ -115,7 +117,6 @@ TEST_F(PortalPreferencesTest, HeedsNoAnswerOfAnotherType) {
   m_portal.answerWith(QStringLiteral("dark"));
   m_portal.appear();
   PortalPreferences preferences(m_connection);
-  ASSERT_TRUE(QTest::qWaitFor([this] { return m_portal.askedCount() > 0; }));
 
   settle(preferences);
 

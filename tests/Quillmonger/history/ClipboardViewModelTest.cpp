@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/Quillmonger/history/ClipboardViewModelFixture.h"
+#include "tests/support/ClipboardViewModelFixture.h"
 
 namespace {
 
@@ -290,6 +290,46 @@ TEST_F(ClipboardViewModelTest, FindsAnItemByItsTextOnceItsApplicationIsGone) {
   EXPECT_EQ(viewModel->selectedItem().value()->appName(), std::nullopt);
   type("Editor");
   EXPECT_EQ(rows(), Texts{});
+}
+
+TEST_F(ClipboardViewModelTest, DeletesAnItemThatIsNotSelectedAndLeavesTheSelection) {
+  startWith({"a", "b", "c"});
+
+  viewModel->deleteItem(viewModel->items().all()[1]);
+
+  EXPECT_EQ(rows(), (Texts{"c", "a"}));
+  EXPECT_EQ(items(), (Texts{"a", "c"}));
+  EXPECT_EQ(stored(), (Texts{"a", "c"}));
+  EXPECT_EQ(selected(), "c");
+}
+
+TEST_F(ClipboardViewModelTest, SelectsTheRowBelowWhenTheSelectedItemIsDeletedByName) {
+  startWith({"a", "b"});
+
+  viewModel->deleteItem(viewModel->selectedItem().value());
+
+  EXPECT_EQ(rows(), Texts{"a"});
+  EXPECT_EQ(selected(), "a");
+}
+
+TEST_F(ClipboardViewModelTest, DeletesAnItemThatTheSearchDoesNotShow) {
+  startWith({"apple", "pear"});
+  type("pear");
+
+  viewModel->deleteItem(viewModel->items().all()[0]);
+
+  EXPECT_EQ(rows(), Texts{"pear"});
+  EXPECT_EQ(items(), Texts{"pear"});
+}
+
+TEST_F(ClipboardViewModelTest, DeletesAnItemOnce) {
+  startWith({"a", "b"});
+  const auto item = viewModel->selectedItem().value();
+  viewModel->deleteItem(item);
+
+  viewModel->deleteItem(item);
+
+  EXPECT_EQ(items(), Texts{"a"});
 }
 
 }  // namespace

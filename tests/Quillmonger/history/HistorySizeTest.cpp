@@ -3,7 +3,7 @@
 #include <string>
 
 #include "Quillmonger/history/ClipboardViewModel.h"
-#include "tests/Quillmonger/history/ClipboardViewModelFixture.h"
+#include "tests/support/ClipboardViewModelFixture.h"
 
 namespace {
 

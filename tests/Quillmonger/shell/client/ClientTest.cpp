@@ -6,6 +6,7 @@
 #include <fstream>
 #include <future>
 #include <memory>
+#include <optional>
 #include <sstream>
 
 #include "Defaults/DefaultsFile.h"
@@ -27,14 +28,26 @@ class ClientTest : public testing::Test {
   testsupport::VirtualRunLoop runLoop;
   std::unique_ptr<platform::CommandSocket> socket;
   std::vector<CommandWords> heard;
+  std::string heardInput;
   int starts = 0;
+  std::string input;
+  std::optional<bool> isSure;
   Client::Surroundings surroundings{
-      folder.path() / "socket", folder.path() / "settings.json", true, [this] { return ++starts > 0; }, 50ms, 5000ms};
+      folder.path() / "socket",
+      folder.path() / "settings.json",
+      true,
+      [this](std::size_t limit) { return input.size() <= limit ? std::optional(input) : std::nullopt; },
+      [this](const std::string&) { return isSure; },
+      [this] { return ++starts > 0; },
+      50ms,
+      5000ms};
 
   void startProgram() {
     socket = platform::CommandSocket::listen(folder.path() / "socket", runLoop,
                                              [this](const std::string& request, const auto& reply) {
-                                               heard.push_back(commandmessage::decodeWords(request).value());
+                                               const auto decoded = commandmessage::decodeRequest(request);
+                                               heard.push_back(decoded.value().words);
+                                               heardInput = decoded.value().input;
                                                reply(commandmessage::encode(CommandResult{3, "out", "error"}));
                                              });
     ASSERT_NE(socket, nullptr);
@@ -105,10 +118,11 @@ TEST_F(ClientTest, StartsNothingWithoutADisplay) {
   EXPECT_EQ(starts, 0);
 }
 
-TEST_F(ClientTest, QuitAndListSayThatNothingRuns) {
-  for (const char* word : {"quit", "list"}) {
-    EXPECT_EQ(run({word}), (CommandResult{1, "", "Quillmonger is not running.\n"})) << word;
-  }
+TEST_F(ClientTest, WhatNeedsTheHistorySaysThatNothingRuns) {
+  const std::vector<CommandWords> calls{{"quit"},  {"list"},        {"search", "a"},
+                                        {"paste"}, {"delete", "1"}, {"clear", "--yes"}};
+  for (const auto& words : calls)
+    EXPECT_EQ(run(words), (CommandResult{1, "", "Quillmonger is not running.\n"})) << words[0];
   EXPECT_EQ(starts, 0);
 }
 
@@ -172,5 +186,85 @@ TEST_F(ClientTest, FindsTheProgramBesideItselfBeforeLibexec) {
 }
 
 TEST_F(ClientTest, CannotStartWhatIsNotThere) { EXPECT_FALSE(startDetached(folder.path() / "nothing")); }
+
+TEST_F(ClientTest, HandsStandardInputOverToCopy) {
+  startProgram();
+  input = std::string("\x00\xff", 2);
+
+  EXPECT_EQ(run({"copy", "--type", "image/png"}).exitCode, 3);
+
+  EXPECT_EQ(heard, (std::vector<CommandWords>{{"copy", "--type", "image/png"}}));
+  EXPECT_EQ(heardInput, input);
+}
+
+TEST_F(ClientTest, LeavesStandardInputAloneForAText) {
+  startProgram();
+  input = "input";
+
+  run({"copy", "text"});
+
+  EXPECT_EQ(heardInput, "");
+}
+
+TEST_F(ClientTest, RefusesInputThatIsTooLarge) {
+  startProgram();
+  input = std::string(commandmessage::inputLimit + 1, 'a');
+
+  const auto result = run({"copy"});
+
+  EXPECT_EQ(result.exitCode, 1);
+  EXPECT_NE(result.errorOutput.find("8 MiB"), std::string::npos);
+  EXPECT_TRUE(heard.empty());
+}
+
+TEST_F(ClientTest, StartsTheProgramToCopy) {
+  surroundings.startPatience = 5000ms;
+  surroundings.startApplication = [this] {
+    startProgram();
+    return true;
+  };
+
+  run({"copy", "text"});
+
+  EXPECT_EQ(heard, (std::vector<CommandWords>{{"copy", "text"}}));
+}
+
+TEST_F(ClientTest, ClearsAfterAYes) {
+  startProgram();
+  isSure = true;
+
+  run({"clear"});
+
+  EXPECT_EQ(heard, (std::vector<CommandWords>{{"clear", "--yes"}}));
+}
+
+TEST_F(ClientTest, ClearsNothingAfterANo) {
+  startProgram();
+  isSure = false;
+
+  EXPECT_EQ(run({"clear"}).exitCode, 1);
+
+  EXPECT_TRUE(heard.empty());
+}
+
+TEST_F(ClientTest, ClearsNothingWhenNobodyCanBeAsked) {
+  startProgram();
+
+  EXPECT_EQ(run({"clear"}).exitCode, 2);
+
+  EXPECT_TRUE(heard.empty());
+}
+
+TEST_F(ClientTest, SwitchesIncognitoInTheFileWhenNothingRuns) {
+  EXPECT_EQ(run({"incognito", "on"}).exitCode, 0);
+
+  EXPECT_EQ(run({"incognito", "status"}).output, "on\n");
+}
+
+TEST_F(ClientTest, DoesNotWriteTheFileForTheStatusOfIncognito) {
+  run({"incognito", "status"});
+
+  EXPECT_FALSE(fs::exists(surroundings.settingsFile));
+}
 
 }  // namespace
