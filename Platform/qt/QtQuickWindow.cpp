@@ -169,9 +169,7 @@ void QtQuickWindow::prepareToShow() {
 QQuickView* QtQuickWindow::view() const { return m_view.get(); }
 
 void QtQuickWindow::orderOut() {
-  if (!m_view) return;
-  m_view->handOverFront();
-  m_view->hide();
+  if (m_view) m_view->goAndHandOverFront();
 }
 
 }  // namespace platform

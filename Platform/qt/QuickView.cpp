@@ -46,10 +46,14 @@ void QuickView::showBehindTheFront() {
     window->raise();
 }
 
-void QuickView::handOverFront() {
+void QuickView::goAndHandOverFront() {
   const QWindowList windows = windowsAbove(this);
-  if (!isActive() || windows.isEmpty()) return;
-  windows.last()->setProperty(awaitsFrontProperty, true);
+  const bool handsOver = isActive() && !windows.isEmpty();
+  if (handsOver) windows.last()->setProperty(awaitsFrontProperty, true);
+  hide();
+  if (!handsOver) return;
+  // Asked before this window is gone, a window manager may then give the keyboard to the program that had it before.
+  QGuiApplication::sync();
   m_windowSystem.bringToFront(windows.last()->winId());
 }
 
