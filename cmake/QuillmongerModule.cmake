@@ -147,6 +147,7 @@ function(quillmonger_test target)
   if(NOT MODULE_TIMEOUT)
     set(MODULE_TIMEOUT 60)
   endif()
-  gtest_discover_tests(${target} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
+  # A parameter's printed value can hold addresses, and a test keeps one name from run to run.
+  gtest_discover_tests(${target} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 NO_PRETTY_VALUES
     PROPERTIES LABELS ${MODULE_LABEL} TIMEOUT ${MODULE_TIMEOUT})
 endfunction()

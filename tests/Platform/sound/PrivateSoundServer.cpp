@@ -13,9 +13,11 @@ namespace testsupport {
 
 namespace {
 
-// Everything that the server keeps goes into the folder, whoever runs the test.
-std::vector<std::string> ownFolders(const std::string& folder) {
-  return {"HOME=" + folder, "XDG_RUNTIME_DIR=" + folder, "XDG_CONFIG_HOME=" + folder, "PULSE_RUNTIME_PATH=" + folder};
+// Everything that the server keeps goes into the folder, whoever runs the test. It stays off the session bus, where a
+// second server ends because the first has its name.
+std::vector<std::string> ownEnvironment(const std::string& folder) {
+  return {"HOME=" + folder, "XDG_RUNTIME_DIR=" + folder, "XDG_CONFIG_HOME=" + folder, "PULSE_RUNTIME_PATH=" + folder,
+          "DBUS_SESSION_BUS_ADDRESS=disabled:"};
 }
 
 }  // namespace
@@ -28,7 +30,7 @@ PrivateSoundServer::PrivateSoundServer() {
                                "--use-pid-file=no", "--log-target=null", "--disable-shm=yes",
                                "-L module-null-sink sink_name=nowhere rate=44100 channels=1",
                                "-L module-native-protocol-unix auth-anonymous=1 socket=" + address},
-      ownFolders(folder));
+      ownEnvironment(folder));
   setenv("PULSE_SERVER", ("unix:" + address).c_str(), 1);
   if (!QTest::qWaitFor([&address] { return access(address.c_str(), F_OK) == 0; }, 10000)) {
     throw std::runtime_error("the sound server does not start");
