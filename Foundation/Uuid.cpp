@@ -2,6 +2,7 @@
 
 #include <sys/random.h>
 
+#include <array>
 #include <cstring>
 
 #include "Foundation/Fatal.h"
@@ -19,13 +20,24 @@ int digitValue(char digit) {
   return -1;
 }
 
+// Asked of the system for many identities at a time: a call costs more than all else that a new row needs.
+Uuid::Bytes randomBytes() {
+  constexpr std::size_t batchSize = 16;  // 256 bytes, which the system always gives whole
+  thread_local std::array<Uuid::Bytes, batchSize> batch;
+  thread_local std::size_t used = batchSize;
+  if (used == batchSize) {
+    if (getrandom(batch.data(), sizeof batch, 0) != static_cast<ssize_t>(sizeof batch)) {
+      stopProcess("The system gives no random numbers.");
+    }
+    used = 0;
+  }
+  return batch[used++];
+}
+
 }  // namespace
 
 Uuid Uuid::random() {
-  Bytes bytes;
-  if (getrandom(bytes.data(), bytes.size(), 0) != static_cast<ssize_t>(bytes.size())) {
-    stopProcess("The system gives no random numbers.");
-  }
+  Bytes bytes = randomBytes();
   bytes[6] = static_cast<std::uint8_t>((bytes[6] & 0x0F) | 0x40);
   bytes[8] = static_cast<std::uint8_t>((bytes[8] & 0x3F) | 0x80);
   return Uuid(bytes);

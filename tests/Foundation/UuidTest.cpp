@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+#include <string>
+
 namespace {
 
 using foundation::Uuid;
@@ -10,6 +13,13 @@ TEST(Uuid, ComesBackFromItsText) {
   const Uuid uuid = Uuid::random();
 
   EXPECT_EQ(Uuid::parse(uuid.toString()), uuid);
+}
+
+TEST(Uuid, IsAnotherOneEachTime) {
+  std::set<std::string> known;
+
+  for (int i = 0; i < 1000; ++i)
+    EXPECT_TRUE(known.insert(Uuid::random().toString()).second);
 }
 
 TEST(Uuid, IsMadeWithVersionFour) { EXPECT_EQ(Uuid::random().toString().at(14), '4'); }
