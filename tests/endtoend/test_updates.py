@@ -135,7 +135,7 @@ class TheUpdates(RoadCase):
         self.desktop.quillmonger("defaults", "write", "firstLaunch", "false")
         settings = self.desktop.home / ".config/quillmonger/settings.json"
         content = json.loads(settings.read_text())
-        content["values"]["automaticallyDownloadsUpdates"] = True
+        content["values"]["automaticallyDownloadsUpdates"] = {"bool": True}
         settings.write_text(json.dumps(content))
         self.start()
         _, editor = self.open_gtk_editor()

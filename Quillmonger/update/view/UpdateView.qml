@@ -95,13 +95,14 @@ Rectangle {
 
             Repeater {
                 model: view.model.buttons
+                // Those that were there before have gone, and the keyboard with them.
+                onItemAdded: (index, item) => index === 0 && item.forceActiveFocus()
 
                 PushButton {
                     required property int index
                     required property string modelData
 
                     objectName: "UpdateButton" + index
-                    focus: index === 0
                     isDefault: index === 0
                     text: modelData
                     theme: view.theme
