@@ -9,6 +9,7 @@ Rectangle {
     required property Theme theme
 
     readonly property bool isUnknown: value < 0
+    readonly property real rest: width - part.width
 
     implicitHeight: 6
     radius: height / 2
@@ -25,14 +26,14 @@ Rectangle {
         radius: height / 2
         antialiasing: true
         color: bar.theme.accentColor
-        // A bar that keeps still stands in the middle.
-        x: !bar.isUnknown ? 0 : bar.theme.reducesMotion ? (bar.width - width) / 2 : wander.place * (bar.width - width)
+        x: bar.rest * (bar.isUnknown ? wander.place : bar.LayoutMirroring.enabled ? 1 : 0)
     }
 
     QtObject {
         id: wander
 
-        property real place: 0
+        // A bar that keeps still stands in the middle.
+        property real place: 0.5
 
         property Animation there: SequentialAnimation {
             running: bar.visible && bar.isUnknown && !bar.theme.reducesMotion

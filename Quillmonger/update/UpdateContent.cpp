@@ -67,7 +67,8 @@ UpdateContent updateContent(const UpdateStatus& status, std::string_view ownVers
               .buttons = {button("ok_string", Answer::close)}};
     case Stage::available:
       return {.heading = withVersion("update_available_title"),
-              .message = withOwnVersion("update_available_message"),
+              .message = withOwnVersion(status.update->notes.empty() ? "update_available_message"
+                                                                     : "update_available_notes_message"),
               .notes = status.update->notes,
               .buttons = {button("update_download_button", Answer::download),
                           button("update_later_button", Answer::close), button("update_skip_button", Answer::skip)}};

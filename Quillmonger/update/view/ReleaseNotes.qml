@@ -8,6 +8,9 @@ Rectangle {
     required property string text
     required property Theme theme
 
+    // Keys that stay with this control in every window.
+    readonly property var ownKeys: [Qt.Key_Up, Qt.Key_Down]
+
     implicitHeight: Math.min(words.implicitHeight + 24, 200)
     radius: theme.fieldRadius
     antialiasing: true

@@ -9,6 +9,8 @@ Rectangle {
     required property UpdateModel model
     required property Appearance appearance
 
+    // Keys that stay with this window, and hide no other one.
+    readonly property var ownKeys: [Qt.Key_Escape]
     readonly property Theme theme: Theme {
         isDark: view.appearance.isDark
         reducesMotion: view.appearance.reducesMotion
@@ -49,6 +51,7 @@ Rectangle {
                 Text {
                     objectName: "UpdateHeading"
                     width: parent.width
+                    horizontalAlignment: Text.AlignLeft
                     wrapMode: Text.Wrap
                     textFormat: Text.PlainText
                     renderType: Text.NativeRendering
@@ -61,6 +64,7 @@ Rectangle {
                     objectName: "UpdateMessage"
                     width: parent.width
                     visible: text !== ""
+                    horizontalAlignment: Text.AlignLeft
                     wrapMode: Text.Wrap
                     textFormat: Text.PlainText
                     renderType: Text.NativeRendering
@@ -103,7 +107,8 @@ Rectangle {
                     required property string modelData
 
                     objectName: "UpdateButton" + index
-                    isDefault: index === 0
+                    // Nobody is led to break off what goes well.
+                    isDefault: index === 0 && !view.model.isBusy
                     text: modelData
                     theme: view.theme
                     onTriggered: view.model.press(index)

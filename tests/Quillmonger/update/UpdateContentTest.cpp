@@ -42,9 +42,16 @@ TEST(UpdateContent, OffersAVersionWithWhatIsNewInIt) {
   const auto content = contentOf({.stage = Stage::available, .update = testsupport::updateTo("2.0")});
 
   EXPECT_EQ(content.heading, "update_available_title <2.0 %2>");
-  EXPECT_EQ(content.message, "update_available_message <1.0 %2>");
+  EXPECT_EQ(content.message, "update_available_notes_message <1.0 %2>");
   EXPECT_EQ(content.notes, "What is new in 2.0");
   EXPECT_EQ(answersOf(content), (std::vector{Answer::download, Answer::close, Answer::skip}));
+}
+
+TEST(UpdateContent, AnnouncesNoNotesWhereThereAreNone) {
+  auto update = testsupport::updateTo("2.0");
+  update.notes.clear();
+
+  EXPECT_EQ(contentOf({.stage = Stage::available, .update = update}).message, "update_available_message <1.0 %2>");
 }
 
 TEST(UpdateContent, ShowsHowMuchOfTheFileIsThere) {

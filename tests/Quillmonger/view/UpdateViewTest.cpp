@@ -80,6 +80,15 @@ TEST_F(UpdateView, TakesEscapeForClosing) {
   EXPECT_EQ(m_stage.answers(), Answers{Answer::close});
 }
 
+TEST_F(UpdateView, KeepsItsKeysFromTheHistory) {
+  auto& view = m_stage.show(available);
+  const auto keysOf = [](const QObject* item) { return item->property("ownKeys").toList(); };
+
+  EXPECT_EQ(keysOf(view.rootObject()), QVariantList{int{Qt::Key_Escape}});
+  EXPECT_EQ(keysOf(find(view, "UpdateButton0")), QVariantList{int{Qt::Key_Return}});
+  EXPECT_EQ(keysOf(find(view, "UpdateNotes")), (QVariantList{int{Qt::Key_Up}, int{Qt::Key_Down}}));
+}
+
 TEST_F(UpdateView, ReachesEachButtonWithTheTabKey) {
   auto& view = activated(available);
 
