@@ -13,7 +13,8 @@ from updateserver import UpdateServer, feed, item  # noqa: E402
 
 UPDATES = 5
 WINDOW = "^Software Update$"
-PACKAGE = b"a package " * 20000
+# As far as the desktop looks to tell what a file is.
+PACKAGE = b"!<arch>\ndebian-binary   1700000000  0     0     100644  4         `\n2.0\n" + b"a package " * 20000
 PROGRAMS = ("quillmonger", "quillmonger-app", "quillmonger-sound", "quillmonger-update")
 
 
@@ -116,7 +117,7 @@ class TheUpdates(RoadCase):
         self.assertTrue(self.can_check())
 
     def test_a_file_that_was_not_announced_is_never_opened(self):
-        self.offer("99.0", content=PACKAGE.replace(b"a", b"b"))
+        self.offer("99.0", content=PACKAGE.replace(b"a package", b"b package"))
         self.start()
 
         self.check()
