@@ -59,8 +59,14 @@ std::optional<KeyEvent> keyEvent(const QKeyEvent& event) {
 
 bool keepsKey(const QWindow& window, const QKeyEvent& event) {
   if (window.modality() != Qt::NonModal) return true;
+  // Of the item with the keyboard, or of one that it stands in.
+  const auto isOwnKey = [&event](const QObject* item) {
+    return item->property("ownKeys").toList().contains(event.key());
+  };
   const QObject* item = window.focusObject();
-  return item != nullptr && item->property("ownKeys").toList().contains(event.key());
+  while (item != nullptr && !isOwnKey(item))
+    item = item->property("parent").value<QObject*>();
+  return item != nullptr;
 }
 
 }  // namespace

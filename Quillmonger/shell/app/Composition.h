@@ -10,8 +10,10 @@
 #include "Defaults/FileUserDefaults.h"
 #include "Foundation/NotificationCenter.h"
 #include "KeyboardShortcuts/KeyboardShortcuts.h"
+#include "LaunchAtLogin/LaunchAtLogin.h"
 #include "Platform/dbus/StatusNotifierBar.h"
 #include "Platform/desktopshortcuts/DesktopShortcuts.h"
+#include "Platform/freedesktop/AutostartEntry.h"
 #include "Platform/freedesktop/CommandSocket.h"
 #include "Platform/freedesktop/DesktopApplicationBundles.h"
 #include "Platform/freedesktop/DesktopApplicationNaming.h"
@@ -35,7 +37,7 @@
 #include "Quillmonger/shell/DialogManager.h"
 #include "Quillmonger/shell/PermissionsManager.h"
 #include "Quillmonger/shell/Quillmonger.h"
-#include "Quillmonger/shell/UnconfiguredUpdater.h"
+#include "Quillmonger/shell/app/Updates.h"
 #include "Quillmonger/shell/app/Views.h"
 #include "Quillmonger/shell/command/CommandLine.h"
 #include "Sauce/Sauce.h"
@@ -92,7 +94,9 @@ class Composition final {
   platform::PortalPreferences m_desktopPreferences;
   Views m_views;
   platform::StatusNotifierBar m_statusBar;
-  UnconfiguredUpdater m_updater;
+  Updates m_updates;
+  platform::AutostartEntry m_autostartEntry;
+  launchatlogin::LaunchAtLogin m_launchAtLogin;
 
   DialogManager m_dialogManager;
   PermissionsManager m_permissionsManager;

@@ -14,6 +14,7 @@
 #include "Quillmonger/settings/view/QmlModule.h"
 #include "Quillmonger/shell/app/OutsidePages.h"
 #include "Quillmonger/shell/view/QmlModule.h"
+#include "Quillmonger/update/view/QmlModule.h"
 
 namespace quillmonger {
 
@@ -47,6 +48,7 @@ Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCach
       m_historySettings(defaults),
       m_ignoreSettings(defaults),
       m_aboutModel(QCoreApplication::applicationVersion(), openOutsidePage),
+      m_updateModel(QCoreApplication::applicationVersion().toStdString()),
       m_alert([this]() -> QQmlEngine& { return engine(); }, m_appearance),
       m_appWindow({platform::QtQuickWindow::Kind::palette, appWindowSize, QStringLiteral("Quillmonger"),
                    [this] { return appContent(); }, [this]() -> QQmlEngine& { return engine(); }},
@@ -63,6 +65,10 @@ Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCach
       m_aboutWindow(
           {platform::QtQuickWindow::Kind::dialog, aboutWindowSize, QString::fromStdString(localizedText("about_title")),
            [this] { return aboutContent(); }, [this]() -> QQmlEngine& { return engine(); }},
+          windowSystem),
+      m_updateWindow(
+          {platform::QtQuickWindow::Kind::dialog, QSize(), QString::fromStdString(localizedText("update_window_title")),
+           [this] { return updateContent(); }, [this]() -> QQmlEngine& { return engine(); }},
           windowSystem),
       m_previewPanel({platform::QtQuickWindow::Kind::palette, previewWindowSize, QStringLiteral("Quillmonger Preview"),
                       [this] { return previewContent(); }, [this]() -> QQmlEngine& { return engine(); }},
@@ -90,6 +96,7 @@ void Views::close() {
   m_appPicker.close();
   m_settingsWindow.unload();
   m_aboutWindow.unload();
+  m_updateWindow.unload();
   m_previewPanel.unload();
   m_appWindow.unload();
   m_gettingStartedWindow.unload();
@@ -109,6 +116,7 @@ QQmlEngine& Views::engine() {
     previewview::registerTypes();
     guideview::registerTypes();
     settingsview::registerTypes();
+    updateview::registerTypes();
     shellview::registerTypes();
     m_engine->addImageProvider(QStringLiteral("appicon"), new ImageCache(m_iconNaming));
   }
@@ -140,6 +148,11 @@ Views::Content Views::settingsContent() {
 Views::Content Views::aboutContent() {
   return {QUrl(QStringLiteral("qrc:/qt-project.org/imports/Quillmonger/Settings/AboutView.qml")),
           {{"model", QVariant::fromValue(&m_aboutModel)}, {"appearance", QVariant::fromValue(&m_appearance)}}};
+}
+
+Views::Content Views::updateContent() {
+  return {QUrl(QStringLiteral("qrc:/qt-project.org/imports/Quillmonger/Update/UpdateView.qml")),
+          {{"model", QVariant::fromValue(&m_updateModel)}, {"appearance", QVariant::fromValue(&m_appearance)}}};
 }
 
 Views::Content Views::previewContent() {

@@ -24,6 +24,7 @@
 #include "Quillmonger/shell/app/PreviewFeed.h"
 #include "Quillmonger/shell/view/QtAlert.h"
 #include "Quillmonger/shell/windows/WindowSystem.h"
+#include "Quillmonger/update/view/UpdateModel.h"
 
 namespace quillmonger {
 
@@ -43,6 +44,8 @@ class Views final {
   [[nodiscard]] SettingsWindowController& settingsWindowController() { return m_settingsController; }
   [[nodiscard]] platform::QtQuickWindow& aboutWindow() { return m_aboutWindow; }
   [[nodiscard]] platform::QtQuickWindow& previewPanel() { return m_previewPanel; }
+  [[nodiscard]] platform::QtQuickWindow& updateWindow() { return m_updateWindow; }
+  [[nodiscard]] UpdateModel& updateModel() { return m_updateModel; }
   [[nodiscard]] AppPicker& appPicker() { return m_appPicker; }
   [[nodiscard]] Alert& alert() { return m_alert; }
 
@@ -59,6 +62,7 @@ class Views final {
   [[nodiscard]] Content gettingStartedContent();
   [[nodiscard]] Content settingsContent();
   [[nodiscard]] Content aboutContent();
+  [[nodiscard]] Content updateContent();
   [[nodiscard]] Content previewContent();
 
   defaults::Defaults& m_defaults;
@@ -71,6 +75,7 @@ class Views final {
   HistorySettings m_historySettings;
   IgnoreSettings m_ignoreSettings;
   AboutModel m_aboutModel;
+  UpdateModel m_updateModel;
   std::function<std::string()> m_clipboardText;
   std::function<IgnoreAppsViewModel&()> m_ignoreAppsViewModel;
   std::unique_ptr<SearchBarModel> m_searchBarModel;
@@ -86,6 +91,7 @@ class Views final {
   platform::QtQuickWindow m_settingsWindow;
   OnePaneSettings m_settingsController;
   platform::QtQuickWindow m_aboutWindow;
+  platform::QtQuickWindow m_updateWindow;
   platform::QtQuickWindow m_previewPanel;
   AppPickerWindow m_appPicker;
 };

@@ -147,4 +147,18 @@ TEST_F(QtLocalEventMonitor, LeavesAKeyToTheFocusedItemThatNamesItAsItsOwn) {
   EXPECT_EQ(m_seen.size(), 1U);
 }
 
+TEST_F(QtLocalEventMonitor, LeavesAKeyToTheItemAroundTheFocusedOne) {
+  const auto monitor = addMonitor(Disposition::swallow);
+  QObject dialog;
+  dialog.setProperty("ownKeys", QVariantList{int(Qt::Key_Escape)});
+  QObject button;
+  button.setProperty("parent", QVariant::fromValue(&dialog));
+  m_window.focused = &button;
+
+  send(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, 1);
+  EXPECT_EQ(m_window.presses, 1);
+  send(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, 28);
+  EXPECT_EQ(m_window.presses, 1);
+}
+
 }  // namespace
