@@ -20,6 +20,9 @@ QtObject {
     readonly property color secondary: isDark ? "#a6a9b5" : "#656873"
     readonly property color tertiary: isDark ? "#9699a6" : "#6b6e79"
 
+    // What a button that loses something is called.
+    readonly property color destructive: isDark ? "#ff9d94" : "#b3261e"
+
     // The selected row
     readonly property color highlightColor: isDark ? "#4557b8" : "#4a5dc4"
     readonly property color selectedPrimary: "#ffffff"

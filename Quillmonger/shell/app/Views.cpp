@@ -13,7 +13,6 @@
 #include "Quillmonger/search/view/QmlModule.h"
 #include "Quillmonger/settings/view/QmlModule.h"
 #include "Quillmonger/shell/app/OutsidePages.h"
-#include "Quillmonger/shell/view/QmlModule.h"
 
 namespace quillmonger {
 
@@ -109,7 +108,6 @@ QQmlEngine& Views::engine() {
     previewview::registerTypes();
     guideview::registerTypes();
     settingsview::registerTypes();
-    shellview::registerTypes();
     m_engine->addImageProvider(QStringLiteral("appicon"), new ImageCache(m_iconNaming));
   }
   return *m_engine;
