@@ -10,7 +10,7 @@
 #include "Foundation/Subscription.h"
 #include "Foundation/TextLookup.h"
 #include "Quillmonger/shell/StatusItem.h"
-#include "Quillmonger/shell/Updater.h"
+#include "Quillmonger/update/Updater.h"
 #include "Quillmonger/shell/windows/Application.h"
 #include "Quillmonger/shell/windows/MotionPreference.h"
 
