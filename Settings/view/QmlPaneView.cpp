@@ -8,7 +8,7 @@
 
 namespace settings {
 
-QmlPaneView::QmlPaneView(Parent parent, QUrl source, QVariantMap properties)
+QmlPaneView::QmlPaneView(Parent parent, QUrl source, Properties properties)
     : m_parent(std::move(parent)), m_source(std::move(source)), m_properties(std::move(properties)) {}
 
 Size QmlPaneView::fittingSize() { return {item().implicitWidth(), item().implicitHeight()}; }
@@ -24,7 +24,7 @@ QQuickItem& QmlPaneView::item() {
   if (m_item) return *m_item;
   QQuickItem& parent = m_parent();
   QQmlComponent component(qmlEngine(&parent), m_source);
-  m_item = qobject_cast<QQuickItem*>(component.createWithInitialProperties(m_properties));
+  m_item = qobject_cast<QQuickItem*>(component.createWithInitialProperties(m_properties()));
   if (!m_item) foundation::stopProcess("A settings pane could not be loaded: " + component.errorString().toStdString());
   QQmlEngine::setObjectOwnership(m_item, QQmlEngine::CppOwnership);
   m_item->setParent(&parent);

@@ -15,9 +15,11 @@ class QmlPaneView final : public PaneView {
  public:
   /// The item that holds the panes, of a loaded window.
   using Parent = std::function<QQuickItem&()>;
+  using Properties = std::function<QVariantMap()>;
 
-  /// `properties` are those that the file's item requires; the objects that they name outlive the item.
-  QmlPaneView(Parent parent, QUrl source, QVariantMap properties);
+  /// `properties` are those that the file's item requires, asked when it is made. The objects that they name outlive
+  /// the item.
+  QmlPaneView(Parent parent, QUrl source, Properties properties);
 
   /// A file that can't be loaded is a fault of the program and stops it.
   [[nodiscard]] Size fittingSize() override;
@@ -29,7 +31,7 @@ class QmlPaneView final : public PaneView {
 
   Parent m_parent;
   QUrl m_source;
-  QVariantMap m_properties;
+  Properties m_properties;
   std::function<void()> m_changed;
   QPointer<QQuickItem> m_item;
 };

@@ -78,7 +78,9 @@ class QtSettingsWindow : public testing::Test {
   std::unique_ptr<settings::PaneView> makeView(const char* name) {
     return std::make_unique<settings::QmlPaneView>([this]() -> QQuickItem& { return m_window.paneArea(); },
                                                    QUrl::fromLocalFile(m_file.fileName()),
-                                                   QVariantMap{{"name", QString::fromLatin1(name)}});
+                                                   [name] {
+                                                     return QVariantMap{{"name", QString::fromLatin1(name)}};
+                                                   });
   }
   QQuickView& view() {
     if (!m_view) {
