@@ -35,6 +35,7 @@ QtObject {
     readonly property int windowRadius: 15
     readonly property int rowRadius: 6
     readonly property int rowHeight: 42
+    readonly property int paneMargin: 24
     readonly property int fieldRadius: 8
     readonly property int margin: 8
     readonly property int searchBarHeight: 58
