@@ -50,7 +50,7 @@ class Acknowledgements(unittest.TestCase):
         page = (ROOT / "Quillmonger/resources/acknowledgements.html").read_text()
         for name in found:
             self.assertIn(name, self.LIBRARIES, "a library without a name for people")
-            self.assertRegex(page, rf"<dt>{self.LIBRARIES[name]}</dt><dd>.*(License|Public domain)")
+            self.assertRegex(page, rf"<dt>{re.escape(self.LIBRARIES[name])}</dt><dd>.*(License|Public domain)")
 
 
 class Sources(unittest.TestCase):
