@@ -56,6 +56,7 @@ Quillmonger::Quillmonger(const Platform& platform)
       m_ignoredApps(platform.defaults, platform.applicationBundles),
       m_clipboardManager({platform.pasteboard, platform.context, platform.bundleProvider, m_pasteInjection,
                           platform.runLoop, platform.notificationCenter, platform.defaults, m_ignoredApps}),
+      m_reviewManager(platform.appStoreDeepLink),
       m_searchViewModel(platform.runLoop, platform.defaults),
       m_searchManager(platform.backgroundQueue, platform.runLoop, platform.defaults),
       m_clipboardViewModel({m_clipboardManager, platform.context, m_searchViewModel, m_searchManager,
@@ -65,8 +66,9 @@ Quillmonger::Quillmonger(const Platform& platform)
       m_commandedHistory(
           {m_clipboardManager, m_clipboardViewModel, m_searchManager, platform.runLoop, platform.notificationCenter}),
       m_windowManager({m_clipboardViewModel, m_searchViewModel, platform.gettingStartedWindow, platform.appWindow,
-                       platform.settingsWindowController, platform.aboutWindow, platform.previewPanel, platform.motion,
-                       platform.application, platform.eventMonitoring, platform.runLoop, platform.notificationCenter}),
+                       platform.settingsWindowController, platform.aboutWindow, platform.updateWindow,
+                       platform.previewPanel, m_reviewManager, platform.motion, platform.application,
+                       platform.eventMonitoring, platform.runLoop, platform.notificationCenter}),
       m_statusBarManager({windowsOfStatusBar(), platform.updater, platform.statusBar, platform.application,
                           platform.texts, platform.motion, platform.runLoop, platform.notificationCenter,
                           platform.defaults}),
@@ -113,6 +115,7 @@ void Quillmonger::startNormally() {
   m_clipboardManager.startListening();
   m_subscriptions.push_back(
       m_platform.shortcuts.onKeyUp(shortcutname::activate(), [this] { m_windowManager.toggleAppWindow(); }));
+  m_platform.updater.startUpdater();
   if (!m_platform.defaults[keys::persistHistory]) m_clipboardViewModel.deleteAllItems();
 }
 

@@ -26,18 +26,19 @@
 #include "Quillmonger/search/SearchViewModel.h"
 #include "Quillmonger/settings/panes/AppPicker.h"
 #include "Quillmonger/settings/panes/IgnoreAppsViewModel.h"
+#include "Quillmonger/shell/AppStoreReviewManager.h"
 #include "Quillmonger/shell/AudioManager.h"
 #include "Quillmonger/shell/AudioPlayer.h"
 #include "Quillmonger/shell/RunningHistory.h"
 #include "Quillmonger/shell/StatusBarManager.h"
 #include "Quillmonger/shell/StatusItem.h"
-#include "Quillmonger/update/Updater.h"
 #include "Quillmonger/shell/WindowManager.h"
 #include "Quillmonger/shell/windows/Application.h"
 #include "Quillmonger/shell/windows/MotionPreference.h"
 #include "Quillmonger/shell/windows/Panel.h"
 #include "Quillmonger/shell/windows/SettingsWindowController.h"
 #include "Quillmonger/shell/windows/Window.h"
+#include "Quillmonger/update/Updater.h"
 
 namespace quillmonger {
 
@@ -68,11 +69,13 @@ class Quillmonger final {
     Window& appWindow;
     SettingsWindowController& settingsWindowController;
     Window& aboutWindow;
+    const Window& updateWindow;
     Panel& previewPanel;
     const MotionPreference& motion;
     AppPicker& appPicker;
     StatusBar& statusBar;
     Updater& updater;
+    foundation::Url appStoreDeepLink;
     ResourceLookup resources;
     AudioPlayerFactory makeAudioPlayer;
   };
@@ -126,6 +129,7 @@ class Quillmonger final {
   PasteInjection m_pasteInjection;
   IgnoredApps m_ignoredApps;
   ClipboardManager m_clipboardManager;
+  AppStoreReviewManager m_reviewManager;
   SearchViewModel m_searchViewModel;
   SearchManager<ClipboardItemViewModel> m_searchManager;
   ClipboardViewModel m_clipboardViewModel;

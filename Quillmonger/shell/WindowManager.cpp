@@ -94,7 +94,7 @@ void WindowManager::showPreviewWindow() {
 
 bool WindowManager::isAuxiliaryWindowVisible() const {
   return m_with.settingsWindowController.window().isVisible() || m_with.gettingStartedWindow.isVisible() ||
-         m_with.aboutWindow.isVisible();
+         m_with.aboutWindow.isVisible() || m_with.updateWindow.isVisible();
 }
 
 void WindowManager::applicationDidResignActive() {

@@ -8,6 +8,7 @@
 #include "Quillmonger/input/BaseEventManager.h"
 #include "Quillmonger/preview/window/PreviewWindow.h"
 #include "Quillmonger/search/SearchViewModel.h"
+#include "Quillmonger/shell/AppStoreReviewManager.h"
 #include "Quillmonger/shell/windows/Application.h"
 #include "Quillmonger/shell/windows/MotionPreference.h"
 #include "Quillmonger/shell/windows/Panel.h"
@@ -27,7 +28,11 @@ class WindowManager final : public BaseEventManager {
     Window& appWindow;
     SettingsWindowController& settingsWindowController;
     Window& aboutWindow;
+    /// The updater shows and hides it.
+    const Window& updateWindow;
     Panel& previewPanel;
+    /// Handed on to what the About window shows.
+    const AppStoreReviewManager& reviewManager;
     const MotionPreference& motion;
     Application& application;
     LocalEventMonitoring& eventMonitoring;
@@ -61,6 +66,7 @@ class WindowManager final : public BaseEventManager {
 
   /// Whether the preview is on the screen.
   [[nodiscard]] WindowVisibility& previewVisibility() { return m_previewVisibility; }
+  [[nodiscard]] const AppStoreReviewManager& reviewManager() const { return m_with.reviewManager; }
   [[nodiscard]] bool isAppWindowVisible() const { return m_with.appWindow.isVisible(); }
   /// Whether a window is up that stays when the user goes to another application.
   [[nodiscard]] bool isAuxiliaryWindowVisible() const;

@@ -11,6 +11,7 @@
 #include "Quillmonger/settings/SettingsKeys.h"
 #include "tests/gallery/PreviewScenes.h"
 #include "tests/gallery/SettingsScenes.h"
+#include "tests/gallery/UpdateScenes.h"
 #include "tests/gallery/ViewStage.h"
 
 // Pictures every state of the views: quillmonger-gallery FOLDER. QT_SCALE_FACTOR sets the scale.
@@ -155,6 +156,7 @@ int main(int argc, char** argv) {
   for (const auto scheme : {quillmonger::ColorScheme::light, quillmonger::ColorScheme::dark}) {
     testsupport::pictureSettings(folder, scheme);
     testsupport::picturePreview(folder, scheme);
+    testsupport::pictureUpdates(folder, scheme);
     for (const Scene& scene : scenes()) {
       ViewStage stage;
       stage.defaults().set<std::optional<quillmonger::ColorScheme>>(quillmonger::keys::selectedColorScheme, scheme);

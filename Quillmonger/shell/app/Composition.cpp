@@ -10,6 +10,7 @@
 #include "Foundation/Fatal.h"
 #include "Foundation/Output.h"
 #include "Platform/freedesktop/PasteboardTypeTable.h"
+#include "Platform/freedesktop/SystemLog.h"
 #include "Platform/sound/SoundProcess.h"
 #include "Quillmonger/resources/Texts.h"
 #include "Quillmonger/shell/command/CommandSyntax.h"
@@ -44,7 +45,9 @@ std::string soundPlayer() {
   return QCoreApplication::applicationDirPath().append(QStringLiteral("/quillmonger-sound")).toStdString();
 }
 
-std::filesystem::path programPath() { return QCoreApplication::applicationFilePath().toStdString(); }
+foundation::Url reviewPage() {
+  return *foundation::Url::parse("https://quillmonger.example/reviews?action=write-review");
+}
 
 std::string pasteboardType(const std::string& mimeType) {
   const auto* entry = platform::PasteboardTypeTable::entryForName(mimeType);
@@ -84,8 +87,10 @@ Composition::Composition(const platform::XdgFolders& folders, const std::vector<
           m_defaults, *m_windowSystem, [this](const std::string& path) { return iconOf(path); },
           {m_installedApplications, m_backgroundQueue, m_runLoop}, m_notificationCenter),
       m_statusBar(QDBusConnection::sessionBus(), [](const std::string& name) { return resourcePlace(name, "svg"); }),
-      m_loginItem(folders.configSearch, programPath()),
-      m_launchAtLogin(m_loginItem, [](const std::string& message) { qCritical("%s", message.c_str()); }),
+      m_updates({m_defaults, m_runLoop, m_views.updateModel(), m_views.updateWindow(), folders.cache / "updates"}),
+      m_autostartEntry(folders.configSearch, QCoreApplication::applicationFilePath().toStdString()),
+      m_launchAtLogin(m_autostartEntry,
+                      [](const std::string& message) { platform::logError("LaunchAtLogin", message); }),
       m_dialogManager(m_views.alert(), localizedText, openUrl, supportAddress),
       m_permissionsManager(m_postEventAccess, m_views.alert(), localizedText, openUrl, m_runLoop),
       m_contextProvider(m_dialogManager, folders.data, m_runLoop),
@@ -111,16 +116,18 @@ Composition::Composition(const platform::XdgFolders& folders, const std::vector<
               m_views.appWindow(),
               m_views.settingsWindowController(),
               m_views.aboutWindow(),
+              m_views.updateWindow(),
               m_views.previewPanel(),
               m_motion,
               m_views.appPicker(),
               m_statusBar,
-              m_updater,
+              m_updates.updater(),
+              reviewPage(),
               resource,
               platform::SoundProcess::factory(soundPlayer())}),
       m_commandLine(commandOperations(), m_root.commandedHistory(), m_defaults) {
   m_views.follow(m_desktopPreferences, m_motion);
-  m_views.feed(m_root, *m_pasteboard, {m_launchAtLogin, m_updater});
+  m_views.feed(m_root, *m_pasteboard, {m_launchAtLogin, m_updates.updater()});
   m_resigning = m_application.onDidResignActive([this] { m_root.applicationDidResignActive(); });
 }
 

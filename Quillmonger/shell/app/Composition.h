@@ -38,9 +38,9 @@
 #include "Quillmonger/shell/DialogManager.h"
 #include "Quillmonger/shell/PermissionsManager.h"
 #include "Quillmonger/shell/Quillmonger.h"
+#include "Quillmonger/shell/app/Updates.h"
 #include "Quillmonger/shell/app/Views.h"
 #include "Quillmonger/shell/command/CommandLine.h"
-#include "Quillmonger/update/UnconfiguredUpdater.h"
 #include "Sauce/Sauce.h"
 
 namespace quillmonger {
@@ -96,8 +96,8 @@ class Composition final {
   DesktopMotion m_motion;
   Views m_views;
   platform::StatusNotifierBar m_statusBar;
-  UnconfiguredUpdater m_updater;
-  platform::AutostartEntry m_loginItem;
+  Updates m_updates;
+  platform::AutostartEntry m_autostartEntry;
   launchatlogin::LaunchAtLogin m_launchAtLogin;
 
   DialogManager m_dialogManager;

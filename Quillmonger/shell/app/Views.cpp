@@ -13,6 +13,7 @@
 #include "Quillmonger/search/view/QmlModule.h"
 #include "Quillmonger/settings/view/QmlModule.h"
 #include "Quillmonger/shell/app/OutsidePages.h"
+#include "Quillmonger/update/view/QmlModule.h"
 #include "Settings/view/QmlModule.h"
 
 namespace quillmonger {
@@ -46,6 +47,7 @@ Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCach
       m_pictureColors(applications.backgroundQueue, applications.runLoop),
       m_historySettings(defaults),
       m_aboutModel(QCoreApplication::applicationVersion(), openOutsidePage),
+      m_updateModel(QCoreApplication::applicationVersion().toStdString()),
       m_alert([this]() -> QQmlEngine& { return engine(); }, m_appearance),
       m_appWindow({platform::QtQuickWindow::Kind::palette, appWindowSize, QStringLiteral("Quillmonger"),
                    [this] { return appContent(); }, [this]() -> QQmlEngine& { return engine(); }},
@@ -59,6 +61,10 @@ Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCach
       m_aboutWindow(
           {platform::QtQuickWindow::Kind::dialog, aboutWindowSize, QString::fromStdString(localizedText("about_title")),
            [this] { return aboutContent(); }, [this]() -> QQmlEngine& { return engine(); }},
+          windowSystem),
+      m_updateWindow(
+          {platform::QtQuickWindow::Kind::dialog, QSize(), QString::fromStdString(localizedText("update_window_title")),
+           [this] { return updateContent(); }, [this]() -> QQmlEngine& { return engine(); }},
           windowSystem),
       m_previewPanel({platform::QtQuickWindow::Kind::palette, previewWindowSize, QStringLiteral("Quillmonger Preview"),
                       [this] { return previewContent(); }, [this]() -> QQmlEngine& { return engine(); }},
@@ -86,6 +92,7 @@ void Views::close() {
   m_appPicker.close();
   m_settings.close();
   m_aboutWindow.unload();
+  m_updateWindow.unload();
   m_previewPanel.unload();
   m_appWindow.unload();
   m_gettingStartedWindow.unload();
@@ -105,6 +112,7 @@ QQmlEngine& Views::engine() {
     guideview::registerTypes();
     settings::registerTypes();
     settingsview::registerTypes();
+    updateview::registerTypes();
     m_engine->addImageProvider(QStringLiteral("appicon"), new ImageCache(m_iconNaming));
   }
   return *m_engine;
@@ -127,6 +135,11 @@ Views::Content Views::gettingStartedContent() {
 Views::Content Views::aboutContent() {
   return {QUrl(QStringLiteral("qrc:/qt-project.org/imports/Quillmonger/Settings/AboutView.qml")),
           {{"model", QVariant::fromValue(&m_aboutModel)}, {"appearance", QVariant::fromValue(&m_appearance)}}};
+}
+
+Views::Content Views::updateContent() {
+  return {QUrl(QStringLiteral("qrc:/qt-project.org/imports/Quillmonger/Update/UpdateView.qml")),
+          {{"model", QVariant::fromValue(&m_updateModel)}, {"appearance", QVariant::fromValue(&m_appearance)}}};
 }
 
 Views::Content Views::previewContent() {

@@ -22,6 +22,7 @@
 #include "Quillmonger/shell/view/QtAlert.h"
 #include "Quillmonger/shell/windows/MotionPreference.h"
 #include "Quillmonger/shell/windows/WindowSystem.h"
+#include "Quillmonger/update/view/UpdateModel.h"
 
 namespace quillmonger {
 
@@ -43,6 +44,8 @@ class Views final {
   [[nodiscard]] SettingsWindowController& settingsWindowController() { return m_settings; }
   [[nodiscard]] platform::QtQuickWindow& aboutWindow() { return m_aboutWindow; }
   [[nodiscard]] platform::QtQuickWindow& previewPanel() { return m_previewPanel; }
+  [[nodiscard]] platform::QtQuickWindow& updateWindow() { return m_updateWindow; }
+  [[nodiscard]] UpdateModel& updateModel() { return m_updateModel; }
   [[nodiscard]] AppPicker& appPicker() { return m_appPicker; }
   [[nodiscard]] Alert& alert() { return m_alert; }
 
@@ -58,6 +61,7 @@ class Views final {
   [[nodiscard]] Content appContent();
   [[nodiscard]] Content gettingStartedContent();
   [[nodiscard]] Content aboutContent();
+  [[nodiscard]] Content updateContent();
   [[nodiscard]] Content previewContent();
 
   defaults::Defaults& m_defaults;
@@ -69,6 +73,7 @@ class Views final {
   PictureColors m_pictureColors;
   HistorySettings m_historySettings;
   AboutModel m_aboutModel;
+  UpdateModel m_updateModel;
   std::function<std::string()> m_clipboardText;
   std::unique_ptr<SearchBarModel> m_searchBarModel;
   std::unique_ptr<ClipboardViewAdapter> m_clipboardViewAdapter;
@@ -81,6 +86,7 @@ class Views final {
   platform::QtQuickWindow m_gettingStartedWindow;
   PanedSettings m_settings;
   platform::QtQuickWindow m_aboutWindow;
+  platform::QtQuickWindow m_updateWindow;
   platform::QtQuickWindow m_previewPanel;
   AppPickerWindow m_appPicker;
 };

@@ -58,9 +58,9 @@ std::optional<Update> enclosureOf(const char** names, const char** values) {
   const auto version = attribute("quillmonger:version");
   const auto sha256 = attribute("quillmonger:sha256");
   const auto length = lengthOf(attribute("length"));
-  auto url = foundation::Url::parse(attribute("url"));
+  auto url = foundation::Url::parse(attribute("url").substr(0, addressLimit + 1));
   const bool isUsable =
-      length && url && url->scheme() == "https" && isDigest(sha256) && SoftwareVersion::parse(version).has_value();
+      length && url && url->absoluteString().size() <= addressLimit && url->scheme() == "https" && isDigest(sha256) && SoftwareVersion::parse(version).has_value();
   if (!isUsable) return std::nullopt;
   return Update{std::string(version), {}, *std::move(url), *length, std::string(sha256)};
 }

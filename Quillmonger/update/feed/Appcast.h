@@ -19,6 +19,8 @@ namespace appcast {
 inline constexpr std::size_t itemLimit = 100;
 /// Bytes of an item's notes; what exceeds them is cut.
 inline constexpr std::size_t notesLimit = std::size_t{16} << 10U;
+/// Bytes of an address; an item with a longer one is passed over.
+inline constexpr std::size_t addressLimit = 2048;
 /// Bytes of a file; an item with a larger one is passed over.
 inline constexpr std::uint64_t downloadLimit = std::uint64_t{1} << 29U;
 

@@ -17,6 +17,8 @@ Rectangle {
     implicitWidth: 520
     implicitHeight: column.implicitHeight + 2 * theme.paneMargin
     color: theme.window
+    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
     Accessible.role: Accessible.Dialog
     Accessible.name: model.heading
     Accessible.description: model.message

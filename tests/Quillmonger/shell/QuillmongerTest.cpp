@@ -9,7 +9,6 @@
 
 #include "Quillmonger/settings/SettingsKeys.h"
 #include "Quillmonger/shell/PermissionsManager.h"
-#include "Quillmonger/update/UnconfiguredUpdater.h"
 #include "Sauce/Sauce.h"
 #include "tests/support/FakeAlert.h"
 #include "tests/support/FakeAppPicker.h"
@@ -29,6 +28,7 @@
 #include "tests/support/FakeStatusBar.h"
 #include "tests/support/FakeStoreContext.h"
 #include "tests/support/FakeSymbolicHotKeys.h"
+#include "tests/support/FakeUpdater.h"
 #include "tests/support/FakeWindow.h"
 #include "tests/support/InlineBackgroundQueue.h"
 #include "tests/support/ItemServices.h"
@@ -85,11 +85,13 @@ class QuillmongerTest : public testing::Test {
         appWindow,
         settingsWindowController,
         aboutWindow,
+        updateWindow,
         previewPanel,
         motion,
         picker,
         statusBar,
         updater,
+        *foundation::Url::parse("https://example.org/page?action=write-review"),
         [](std::string_view name, std::string_view) { return std::optional(std::string(name)); },
         loudspeaker.factory()});
     settle();
@@ -153,11 +155,12 @@ class QuillmongerTest : public testing::Test {
   testsupport::FakeWindow appWindow{"history", log};
   testsupport::FakeSettingsWindowController settingsWindowController{log};
   testsupport::FakeWindow aboutWindow{"about", log};
+  testsupport::FakeWindow updateWindow{"update", log};
   testsupport::FakePanel previewPanel{"preview", log};
   testsupport::FakeMotionPreference motion;
   testsupport::FakeAppPicker picker;
   testsupport::FakeStatusBar statusBar;
-  quillmonger::UnconfiguredUpdater updater;
+  testsupport::FakeUpdater updater;
   testsupport::FakeLoudspeaker loudspeaker;
   foundation::Subscription activated =
       notificationCenter.observe("ClipboardActivated", [this](const auto&) { log.emplace_back("ClipboardActivated"); });
@@ -174,6 +177,30 @@ TEST_F(QuillmongerTest, ShowsOnlyTheGuideOfAFreshInstallation) {
   EXPECT_EQ(rowCount(), 0U);
   EXPECT_FALSE(hotKeys.isRegistered(activateChord));
   EXPECT_FALSE(statusBar.isItemThere());
+}
+
+TEST_F(QuillmongerTest, ChecksForNoUpdatesBeforeTheGuideIsOver) {
+  settings.defaults.set(keys::firstLaunch, true);
+  start();
+  EXPECT_EQ(updater.startCount, 0);
+
+  root->finishGettingStarted();
+  settle();
+
+  EXPECT_EQ(updater.startCount, 1);
+}
+
+TEST_F(QuillmongerTest, StartsTheUpdaterInTheNormalStart) {
+  start();
+
+  EXPECT_EQ(updater.startCount, 1);
+}
+
+TEST_F(QuillmongerTest, HandsTheWayToTheReviewPageToItsWindows) {
+  start();
+
+  EXPECT_EQ(root->windowManager().reviewManager().appStoreDeepLink().absoluteString(),
+            "https://example.org/page?action=write-review");
 }
 
 TEST_F(QuillmongerTest, EndsTheGuideWithTheNormalStartAndTheHistory) {

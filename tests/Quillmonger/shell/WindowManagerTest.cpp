@@ -45,8 +45,8 @@ class WindowManager : public testing::Test, protected testsupport::ItemServices 
     appWindow.place(historyFrame, 3);
     previewPanel.place({0, 445, 600, 445}, 3);
     manager = std::make_unique<Manager>(Manager::Collaborators{
-        viewModel, searchViewModel, gettingStartedWindow, appWindow, settingsController, aboutWindow, previewPanel,
-        motion, application, eventMonitor, runLoop, notificationCenter});
+        viewModel, searchViewModel, gettingStartedWindow, appWindow, settingsController, aboutWindow, updateWindow,
+        previewPanel, reviewManager, motion, application, eventMonitor, runLoop, notificationCenter});
   }
 
   void settle() {
@@ -89,6 +89,8 @@ class WindowManager : public testing::Test, protected testsupport::ItemServices 
   testsupport::FakeWindow appWindow{"history", log};
   testsupport::FakeSettingsWindowController settingsController{log};
   testsupport::FakeWindow aboutWindow{"about", log};
+  testsupport::FakeWindow updateWindow{"update", log};
+  quillmonger::AppStoreReviewManager reviewManager{*foundation::Url::parse("https://example.org/?action=write-review")};
   testsupport::FakePanel previewPanel{"preview", log};
   testsupport::FakeMotionPreference motion;
   testsupport::FakeApplication application{log};
@@ -216,7 +218,7 @@ TEST_F(WindowManager, ClosesSettingsAndAboutForTheHistory) {
   EXPECT_FALSE(aboutWindow.isVisible());
 }
 
-TEST_F(WindowManager, CountsSettingsGuideAndAboutAsAuxiliaryWindows) {
+TEST_F(WindowManager, CountsSettingsGuideAboutAndUpdateAsAuxiliaryWindows) {
   EXPECT_FALSE(manager->isAuxiliaryWindowVisible());
 
   manager->showSettingsWindow();
@@ -228,6 +230,9 @@ TEST_F(WindowManager, CountsSettingsGuideAndAboutAsAuxiliaryWindows) {
   manager->showGettingStartedWindow();
   EXPECT_TRUE(manager->isAuxiliaryWindowVisible());
   manager->hideGettingStartedWindow();
+  updateWindow.makeKeyAndOrderFront();
+  EXPECT_TRUE(manager->isAuxiliaryWindowVisible());
+  updateWindow.orderOut();
   EXPECT_FALSE(manager->isAuxiliaryWindowVisible());
 }
 

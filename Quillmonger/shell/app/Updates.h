@@ -1,0 +1,40 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+
+#include "Defaults/Defaults.h"
+#include "Foundation/RunLoop.h"
+#include "Quillmonger/shell/windows/Panel.h"
+#include "Quillmonger/update/UnconfiguredUpdater.h"
+#include "Quillmonger/update/view/UpdateModel.h"
+
+namespace quillmonger {
+
+/// The updater: one that asks the feed of this installation, if there is one. Main thread.
+class Updates final {
+ public:
+  struct Collaborators {
+    defaults::Defaults& defaults;
+    foundation::RunLoop& runLoop;
+    UpdateModel& model;
+    Panel& window;
+    /// Where downloads are stored.
+    std::filesystem::path folder;
+  };
+
+  /// All collaborators outlive this object.
+  explicit Updates(const Collaborators& collaborators);
+  ~Updates();
+
+  [[nodiscard]] Updater& updater();
+
+ private:
+  class Configured;
+
+  UnconfiguredUpdater m_unconfigured;
+  /// Null without a feed.
+  std::unique_ptr<Configured> m_configured;
+};
+
+}  // namespace quillmonger
