@@ -7,6 +7,8 @@ Rectangle {
     required property string text
     required property Theme theme
     property bool isDefault: false
+    // It loses something.
+    property bool isDestructive: false
     signal triggered()
 
     // Keys that stay with this control in every window.
@@ -33,7 +35,8 @@ Rectangle {
         anchors.centerIn: parent
         renderType: Text.NativeRendering
         font.pixelSize: button.theme.bodyFontSize
-        color: button.isDefault ? button.theme.selectedPrimary : button.theme.primary
+        color: button.isDefault ? button.theme.selectedPrimary
+            : button.isDestructive ? button.theme.destructive : button.theme.primary
         text: button.text
         Accessible.ignored: true
     }

@@ -20,6 +20,9 @@ QtObject {
     readonly property color secondary: isDark ? "#a6a9b5" : "#656873"
     readonly property color tertiary: isDark ? "#9699a6" : "#6b6e79"
 
+    // What a button that loses something is called.
+    readonly property color destructive: isDark ? "#ff9d94" : "#b3261e"
+
     // The selected row
     readonly property color highlightColor: isDark ? "#4557b8" : "#4a5dc4"
     readonly property color selectedPrimary: "#ffffff"
@@ -54,6 +57,7 @@ QtObject {
     readonly property int rowFontSize: 16
     readonly property int bodyFontSize: 15
     readonly property int keyFontSize: 14
+    readonly property int paneFontSize: 14
     readonly property int previewFontSize: 13
     readonly property int hintFontSize: 11
 

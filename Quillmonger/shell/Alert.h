@@ -11,7 +11,7 @@ class Alert {
   struct Content {
     std::string message;
     std::string informativeText;
-    /// The first is the default one.
+    /// The first is the default one, and the second what closing counts as. One or two.
     std::vector<std::string> buttons;
   };
   static constexpr int firstButton = 1000;
@@ -22,8 +22,7 @@ class Alert {
   Alert& operator=(const Alert&) = delete;
   virtual ~Alert() = default;
 
-  /// Shows the alert and returns when the user has answered it: 1000 for the first button, 1001 for the second and so
-  /// on. Closing it counts as the last button.
+  /// Shows the alert and returns when the user has answered it: 1000 for the first button, 1001 for the second.
   virtual int runModal(const Content& content) = 0;
 };
 

@@ -82,6 +82,7 @@ Composition::Composition(const platform::XdgFolders& folders, const std::vector<
       m_installedApplications(m_desktopEntries, platform::XdgFolders::ownEnvironment),
       m_application(*m_windowSystem),
       m_desktopPreferences(QDBusConnection::sessionBus()),
+      m_motion(m_desktopPreferences, *m_windowSystem),
       m_views(
           m_defaults, *m_windowSystem, [this](const std::string& path) { return iconOf(path); },
           {m_installedApplications, m_backgroundQueue, m_runLoop}, m_notificationCenter),
@@ -117,7 +118,7 @@ Composition::Composition(const platform::XdgFolders& folders, const std::vector<
               m_views.aboutWindow(),
               m_views.updateWindow(),
               m_views.previewPanel(),
-              *m_windowSystem,
+              m_motion,
               m_views.appPicker(),
               m_statusBar,
               m_updates.updater(),
@@ -125,8 +126,8 @@ Composition::Composition(const platform::XdgFolders& folders, const std::vector<
               resource,
               platform::SoundProcess::factory(soundPlayer())}),
       m_commandLine(commandOperations(), m_root.commandedHistory(), m_defaults) {
-  m_views.follow(m_desktopPreferences);
-  m_views.feed(m_root, *m_pasteboard);
+  m_views.follow(m_desktopPreferences, m_motion);
+  m_views.feed(m_root, *m_pasteboard, {m_launchAtLogin, m_updates.updater()});
   m_resigning = m_application.onDidResignActive([this] { m_root.applicationDidResignActive(); });
 }
 

@@ -34,6 +34,7 @@
 #include "Platform/x11/X11PostEventAccess.h"
 #include "Platform/x11/X11WindowSystem.h"
 #include "Quillmonger/capture/ContextProvider.h"
+#include "Quillmonger/shell/DesktopMotion.h"
 #include "Quillmonger/shell/DialogManager.h"
 #include "Quillmonger/shell/PermissionsManager.h"
 #include "Quillmonger/shell/Quillmonger.h"
@@ -92,6 +93,7 @@ class Composition final {
   // After all that its work asks, which may still go on when the root has gone.
   platform::QtBackgroundQueue m_backgroundQueue;
   platform::PortalPreferences m_desktopPreferences;
+  DesktopMotion m_motion;
   Views m_views;
   platform::StatusNotifierBar m_statusBar;
   Updates m_updates;

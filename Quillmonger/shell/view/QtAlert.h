@@ -13,7 +13,7 @@ class Appearance;
 /// An alert as a window of its own, with an event loop of its own: it works before the program's loop runs, too.
 class QtAlert final : public Alert {
  public:
-  /// `engine` gives one that knows the types of "Quillmonger.Resources" and "Quillmonger.Shell"; it is asked when an
+  /// `engine` gives one that knows the types of "Quillmonger.Resources"; it is asked when an
   /// alert is shown. Both outlive this object.
   QtAlert(std::function<QQmlEngine&()> engine, Appearance& appearance);
 

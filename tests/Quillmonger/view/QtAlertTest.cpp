@@ -11,7 +11,6 @@
 
 #include "Quillmonger/resources/Appearance.h"
 #include "Quillmonger/resources/QmlModule.h"
-#include "Quillmonger/shell/view/QmlModule.h"
 #include "tests/gallery/ViewStage.h"
 #include "tests/support/TestDefaults.h"
 
@@ -19,10 +18,7 @@ namespace {
 
 class QtAlert : public testing::Test {
  protected:
-  QtAlert() {
-    quillmonger::resourcesview::registerTypes(m_engine);
-    quillmonger::shellview::registerTypes();
-  }
+  QtAlert() { quillmonger::resourcesview::registerTypes(m_engine); }
 
   // Shows the alert, and does `step` to its window as soon as that is active.
   int answerTo(const std::function<void(QQuickView&)>& step) {

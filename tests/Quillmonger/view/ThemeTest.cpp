@@ -60,7 +60,8 @@ INSTANTIATE_TEST_SUITE_P(
                      testing::Values(Pair{"primary", "window"}, Pair{"secondary", "window"}, Pair{"tertiary", "window"},
                                      Pair{"accentColor", "window"}, Pair{"selectedPrimary", "highlightColor"},
                                      Pair{"selectedSecondary", "highlightColor"}, Pair{"primary", "separator"},
-                                     Pair{"primary", "field"}, Pair{"secondary", "field"}, Pair{"tertiary", "field"})),
+                                     Pair{"destructive", "separator"}, Pair{"primary", "field"},
+                                     Pair{"secondary", "field"}, Pair{"tertiary", "field"})),
     nameOf);
 
 INSTANTIATE_TEST_SUITE_P(Theme, ThemeMark,

@@ -1,26 +1,34 @@
 import QtQuick
 import Quillmonger.Resources
 
-// A question with its buttons, the default one last on the line. Escape gives the last answer.
+// A question with its buttons, the first one last on the line. Each has a `title` and a `role`: "standard",
+// "destructive" or "cancel". Return presses the button with the keyboard, which is the first standard one, or else the
+// one that cancels.
 Rectangle {
     id: alert
 
     required property string message
     required property string informativeText
     required property var buttons
+    // Of the button that Escape chooses.
+    required property int cancelIndex
     required property Appearance appearance
     // The index of the chosen button.
     signal answered(int index)
 
     readonly property Theme theme: Theme { isDark: alert.appearance.isDark }
+    readonly property int standardIndex: buttons.findIndex(button => button.role === "standard")
+    readonly property int focusIndex: standardIndex >= 0 ? standardIndex : cancelIndex
 
-    implicitWidth: 460
+    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
+    implicitWidth: Math.max(460, answers.width + 28 * 2)
     implicitHeight: words.height + answers.height + 28 * 2 + 24
     color: theme.window
     Accessible.role: Accessible.AlertMessage
     Accessible.name: message
     Accessible.description: informativeText
-    Keys.onEscapePressed: answered(buttons.length - 1)
+    Keys.onEscapePressed: answered(cancelIndex)
 
     Image {
         id: icon
@@ -41,7 +49,8 @@ Rectangle {
         Text {
             objectName: "AlertMessage"
             width: parent.width
-            wrapMode: Text.WordWrap
+            horizontalAlignment: Text.AlignLeft
+            wrapMode: Text.Wrap
             textFormat: Text.PlainText
             renderType: Text.NativeRendering
             font { pixelSize: alert.theme.rowFontSize; bold: true }
@@ -52,7 +61,9 @@ Rectangle {
         Text {
             objectName: "AlertInformativeText"
             width: parent.width
-            wrapMode: Text.WordWrap
+            visible: text !== ""
+            horizontalAlignment: Text.AlignLeft
+            wrapMode: Text.Wrap
             textFormat: Text.PlainText
             renderType: Text.NativeRendering
             font.pixelSize: alert.theme.bodyFontSize
@@ -64,7 +75,7 @@ Rectangle {
     Row {
         id: answers
         anchors { right: parent.right; bottom: parent.bottom; margins: 28 }
-        layoutDirection: Qt.RightToLeft
+        layoutDirection: LayoutMirroring.enabled ? Qt.LeftToRight : Qt.RightToLeft
         spacing: 12
 
         Repeater {
@@ -72,12 +83,13 @@ Rectangle {
 
             PushButton {
                 required property int index
-                required property string modelData
+                required property var modelData
 
                 objectName: "AlertButton" + index
-                focus: index === 0
-                isDefault: index === 0
-                text: modelData
+                focus: index === alert.focusIndex
+                isDefault: index === alert.standardIndex
+                isDestructive: modelData.role === "destructive"
+                text: modelData.title
                 theme: alert.theme
                 onTriggered: alert.answered(index)
             }
