@@ -54,12 +54,13 @@ RecorderCocoa::RecorderCocoa(Name shortcutName, RecorderView& view, Surroundings
       m_with(std::move(surroundings)),
       m_onChange(std::move(onChange)),
       m_placeholderString(m_with.texts("record_shortcut")),
-      m_observer(m_with.notificationCenter.observe(
-          "KeyboardShortcuts_shortcutByNameDidChange",
-          [this](const auto& notification) {
-            const auto name = notification.userInfo.find("name");
-            if (name != notification.userInfo.end() && name->second == m_shortcutName.rawValue) showStoredShortcut();
-          })),
+      m_observer(m_with.notificationCenter.observe("KeyboardShortcuts_shortcutByNameDidChange",
+                                                   [this](const auto& notification) {
+                                                     const auto name = notification.userInfo.find("name");
+                                                     if (name != notification.userInfo.end() &&
+                                                         name->second == m_shortcutName.rawValue)
+                                                       showStoredShortcut();
+                                                   })),
       m_layoutObserver(m_with.notificationCenter.observe("SauceSelectedKeyboardKeyCodesChanged",
                                                          [this](const auto&) { showStoredShortcut(); })) {
   showStoredShortcut();

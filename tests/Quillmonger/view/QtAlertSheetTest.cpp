@@ -165,8 +165,10 @@ TEST_F(QtAlertSheet, TellsNoAnswerOnceItHasGone) {
 
 TEST_F(QtAlertSheet, ShowsLongAndStrangeTextsAsTheyAre) {
   const std::string message = std::string(300, 'W') + " <b>not bold</b>";
-  ask({message, "", {{"A button with a text that is far longer than those of the usual questions", Role::standard},
-                     {"Another one of the kind", Role::cancel}}});
+  ask({message,
+       "",
+       {{"A button with a text that is far longer than those of the usual questions", Role::standard},
+        {"Another one of the kind", Role::cancel}}});
 
   const auto* text = testsupport::find(*view(), "AlertMessage");
   const auto* button = testsupport::find(*view(), "AlertButton1");
