@@ -5,8 +5,6 @@
 #include <string_view>
 #include <utility>
 
-#include "KeyboardShortcuts/ShortcutDescription.h"
-
 namespace keyboardshortcuts {
 
 namespace {
@@ -49,41 +47,18 @@ std::string formatted(std::string format, std::string_view title) {
 }  // namespace
 
 RecorderCocoa::RecorderCocoa(Name shortcutName, RecorderView& view, Surroundings surroundings, OnChange onChange)
-    : m_shortcutName(std::move(shortcutName)),
-      m_view(view),
+    : m_view(view),
       m_with(std::move(surroundings)),
       m_onChange(std::move(onChange)),
+      m_shortcutText(std::move(shortcutName), m_with.shortcuts, m_with.inputSources, m_with.notificationCenter),
       m_placeholderString(m_with.texts("record_shortcut")),
-      m_observer(m_with.notificationCenter.observe("KeyboardShortcuts_shortcutByNameDidChange",
-                                                   [this](const auto& notification) {
-                                                     const auto name = notification.userInfo.find("name");
-                                                     if (name != notification.userInfo.end() &&
-                                                         name->second == m_shortcutName.rawValue)
-                                                       showStoredShortcut();
-                                                   })),
-      m_layoutObserver(m_with.notificationCenter.observe("SauceSelectedKeyboardKeyCodesChanged",
-                                                         [this](const auto&) { showStoredShortcut(); })) {
-  showStoredShortcut();
-}
+      m_observer(m_shortcutText.value().follow([this](const auto&) { showCancelButton(); })) {}
 
 RecorderCocoa::~RecorderCocoa() {
   if (m_eventMonitor.isActive()) m_with.shortcuts.setPaused(false);
 }
 
-void RecorderCocoa::setShortcutName(Name name) {
-  m_shortcutName = std::move(name);
-  showStoredShortcut();
-}
-
-void RecorderCocoa::showStoredShortcut() {
-  const auto shortcut = m_with.shortcuts.getShortcut(m_shortcutName);
-  show(shortcut ? description(*shortcut, m_with.inputSources) : std::string());
-}
-
-void RecorderCocoa::show(const std::string& text) {
-  m_stringValue.set(text);
-  m_showsCancelButton.set(!text.empty());
-}
+void RecorderCocoa::showCancelButton() { m_showsCancelButton.set(!stringValue().value().empty()); }
 
 void RecorderCocoa::viewDidMoveToWindow() {
   m_with.runLoop.post([this, isAlive = std::weak_ptr(m_isAlive)] {
@@ -95,7 +70,7 @@ bool RecorderCocoa::becomeFirstResponder() {
   if (!m_canBecomeKey.value()) return false;
   if (m_eventMonitor.isActive()) return true;
   m_placeholderString.set(m_with.texts("press_shortcut"));
-  m_showsCancelButton.set(!m_stringValue.value().empty());
+  showCancelButton();
   m_isRecording.set(true);
   m_with.shortcuts.setPaused(true);
   m_eventMonitor = m_with.events.watch([this](const Event& event) { return handle(event); });
@@ -106,14 +81,13 @@ void RecorderCocoa::controlTextDidEndEditing() {
   if (!m_eventMonitor.isActive()) return;
   m_eventMonitor.cancel();
   m_placeholderString.set(m_with.texts("record_shortcut"));
-  m_showsCancelButton.set(!m_stringValue.value().empty());
+  showCancelButton();
   m_isRecording.set(false);
   m_with.shortcuts.setPaused(false);
 }
 
 void RecorderCocoa::performClick() {
-  show("");
-  m_with.shortcuts.setShortcut(std::nullopt, m_shortcutName);
+  m_with.shortcuts.setShortcut(std::nullopt, shortcutName());
   if (m_onChange) m_onChange(std::nullopt);
 }
 
@@ -173,8 +147,7 @@ void RecorderCocoa::refuse(std::string message, std::string informativeText) {
 }
 
 void RecorderCocoa::accept(const Shortcut& shortcut) {
-  show(description(shortcut, m_with.inputSources));
-  m_with.shortcuts.setShortcut(shortcut, m_shortcutName);
+  m_with.shortcuts.setShortcut(shortcut, shortcutName());
   if (m_onChange) m_onChange(shortcut);
   m_view.resignFocus();
 }

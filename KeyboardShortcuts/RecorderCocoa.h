@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "Foundation/AlertSheet.h"
@@ -16,6 +17,7 @@
 #include "KeyboardShortcuts/MenuItem.h"
 #include "KeyboardShortcuts/RecordedEvents.h"
 #include "KeyboardShortcuts/RecorderView.h"
+#include "KeyboardShortcuts/ShortcutText.h"
 #include "Sauce/InputSourceService.h"
 
 namespace keyboardshortcuts {
@@ -52,11 +54,11 @@ class RecorderCocoa final {
   RecorderCocoa& operator=(const RecorderCocoa&) = delete;
   ~RecorderCocoa();
 
-  [[nodiscard]] const Name& shortcutName() const { return m_shortcutName; }
-  void setShortcutName(Name name);
+  [[nodiscard]] const Name& shortcutName() const { return m_shortcutText.name(); }
+  void setShortcutName(Name name) { m_shortcutText.setName(std::move(name)); }
 
   /// The chord as the user reads it; empty without one.
-  [[nodiscard]] foundation::Published<std::string>& stringValue() { return m_stringValue; }
+  [[nodiscard]] foundation::Published<std::string>& stringValue() { return m_shortcutText.value(); }
   /// What stands in place of an empty text.
   [[nodiscard]] foundation::Published<std::string>& placeholderString() { return m_placeholderString; }
   [[nodiscard]] foundation::Published<bool>& showsCancelButton() { return m_showsCancelButton; }
@@ -76,8 +78,7 @@ class RecorderCocoa final {
  private:
   using Disposition = RecordedEvents::Disposition;
 
-  void showStoredShortcut();
-  void show(const std::string& text);
+  void showCancelButton();
   Disposition handle(const Event& event);
   Disposition handleMouseUp(const Event::Location& location);
   Disposition handleKeyDown(const Event& event);
@@ -85,11 +86,10 @@ class RecorderCocoa final {
   void refuse(std::string message, std::string informativeText);
   void accept(const Shortcut& shortcut);
 
-  Name m_shortcutName;
   RecorderView& m_view;
   Surroundings m_with;
   OnChange m_onChange;
-  foundation::Published<std::string> m_stringValue;
+  ShortcutText m_shortcutText;
   foundation::Published<std::string> m_placeholderString;
   foundation::Published<bool> m_showsCancelButton{false};
   foundation::Published<bool> m_isRecording{false};
@@ -98,7 +98,6 @@ class RecorderCocoa final {
   /// While recording.
   foundation::Subscription m_eventMonitor;
   foundation::Subscription m_observer;
-  foundation::Subscription m_layoutObserver;
 };
 
 }  // namespace keyboardshortcuts
