@@ -35,7 +35,6 @@ QtObject {
     readonly property int windowRadius: 15
     readonly property int rowRadius: 6
     readonly property int rowHeight: 42
-    readonly property int paneMargin: 24
     readonly property int fieldRadius: 8
     readonly property int margin: 8
     readonly property int searchBarHeight: 58
@@ -57,6 +56,7 @@ QtObject {
     readonly property int rowFontSize: 16
     readonly property int bodyFontSize: 15
     readonly property int keyFontSize: 14
+    readonly property int paneFontSize: 14
     readonly property int previewFontSize: 13
     readonly property int hintFontSize: 11
 

@@ -31,7 +31,7 @@
 #include "Quillmonger/shell/RunningHistory.h"
 #include "Quillmonger/shell/StatusBarManager.h"
 #include "Quillmonger/shell/StatusItem.h"
-#include "Quillmonger/shell/Updater.h"
+#include "Quillmonger/update/Updater.h"
 #include "Quillmonger/shell/WindowManager.h"
 #include "Quillmonger/shell/windows/Application.h"
 #include "Quillmonger/shell/windows/MotionPreference.h"

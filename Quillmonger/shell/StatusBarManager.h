@@ -12,7 +12,7 @@
 #include "Foundation/TextLookup.h"
 #include "KeyboardShortcuts/MenuItem.h"
 #include "Quillmonger/shell/StatusItem.h"
-#include "Quillmonger/shell/Updater.h"
+#include "Quillmonger/update/Updater.h"
 #include "Quillmonger/shell/windows/Application.h"
 #include "Quillmonger/shell/windows/MotionPreference.h"
 

@@ -3,7 +3,7 @@
 #include <QtQml/qqmlregistration.h>
 #include <QObject>
 
-#include "Quillmonger/settings/view/ToggleModel.h"
+#include "Quillmonger/settings/view/SettingToggle.h"
 
 namespace quillmonger {
 
@@ -23,8 +23,8 @@ class IgnoreSettings final : public QObject {
   [[nodiscard]] ToggleModel* ignoreImages() { return &m_ignoreImages; }
 
  private:
-  ToggleModel m_ignoreSensitiveData;
-  ToggleModel m_ignoreImages;
+  SettingToggle m_ignoreSensitiveData;
+  SettingToggle m_ignoreImages;
 };
 
 }  // namespace quillmonger

@@ -35,7 +35,7 @@
 #include "Quillmonger/shell/DialogManager.h"
 #include "Quillmonger/shell/PermissionsManager.h"
 #include "Quillmonger/shell/Quillmonger.h"
-#include "Quillmonger/shell/UnconfiguredUpdater.h"
+#include "Quillmonger/update/UnconfiguredUpdater.h"
 #include "Quillmonger/shell/app/Views.h"
 #include "Quillmonger/shell/command/CommandLine.h"
 #include "Sauce/Sauce.h"

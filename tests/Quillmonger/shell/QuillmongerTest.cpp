@@ -9,7 +9,7 @@
 
 #include "Quillmonger/settings/SettingsKeys.h"
 #include "Quillmonger/shell/PermissionsManager.h"
-#include "Quillmonger/shell/UnconfiguredUpdater.h"
+#include "Quillmonger/update/UnconfiguredUpdater.h"
 #include "Sauce/Sauce.h"
 #include "tests/support/FakeAlert.h"
 #include "tests/support/FakeAppPicker.h"

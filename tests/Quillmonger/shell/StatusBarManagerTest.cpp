@@ -9,7 +9,7 @@
 
 #include "Quillmonger/settings/SettingsKeys.h"
 #include "Quillmonger/shell/FallAndBounce.h"
-#include "Quillmonger/shell/UnconfiguredUpdater.h"
+#include "Quillmonger/update/UnconfiguredUpdater.h"
 #include "tests/support/FakeApplication.h"
 #include "tests/support/FakeMotionPreference.h"
 #include "tests/support/FakeStatusBar.h"

@@ -1,0 +1,72 @@
+import QtQuick
+import Quillmonger.Resources
+import Quillmonger.Settings
+
+// Radio buttons for the values of a setting, each with what it means. The group is one stop for the Tab key; the arrow
+// keys choose.
+FocusScope {
+    id: group
+
+    required property ChoiceModel choice
+    required property var hints
+    required property int hintWidth
+    // What is chosen, for those who can't see the section's label.
+    required property string label
+    required property Theme theme
+
+    // Keys that stay with this control in every window.
+    readonly property var ownKeys: [Qt.Key_Up, Qt.Key_Down]
+    readonly property real firstLineHeight: 18
+
+    function move(by: int) {
+        group.choice.select(Math.min(Math.max(group.choice.selected + by, 0), group.choice.titles.length - 1))
+    }
+
+    width: parent ? parent.width : 0
+    implicitHeight: column.height
+    activeFocusOnTab: true
+    Accessible.role: Accessible.Grouping
+    Accessible.name: label
+    Accessible.focusable: true
+    Keys.onUpPressed: move(-1)
+    Keys.onDownPressed: move(1)
+    Keys.onLeftPressed: move(LayoutMirroring.enabled ? 1 : -1)
+    Keys.onRightPressed: move(LayoutMirroring.enabled ? -1 : 1)
+
+    Column {
+        id: column
+        width: parent.width
+        spacing: 12
+
+        Repeater {
+            model: group.choice.titles
+
+            Column {
+                id: option
+
+                required property int index
+                required property string modelData
+
+                width: parent.width
+                spacing: 4
+
+                RadioButton {
+                    objectName: group.objectName + "-" + option.index
+                    width: parent.width
+                    text: option.modelData
+                    note: group.hints[option.index]
+                    isSelected: group.choice.selected === option.index
+                    group: group
+                    theme: group.theme
+                    onTriggered: group.choice.select(option.index)
+                }
+
+                SettingNote {
+                    theme: group.theme
+                    maximumWidth: group.hintWidth
+                    text: group.hints[option.index]
+                }
+            }
+        }
+    }
+}

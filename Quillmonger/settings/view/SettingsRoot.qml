@@ -1,0 +1,23 @@
+import QtQuick
+import Settings
+import Quillmonger.Resources
+
+// The settings' window in this program's colours.
+SettingsView {
+    id: root
+
+    required property Appearance appearance
+
+    readonly property Theme theme: Theme { isDark: root.appearance.isDark }
+
+    palette {
+        window: theme.window
+        windowText: theme.primary
+        mid: theme.separator
+        midlight: theme.separator
+        alternateBase: theme.field
+        link: theme.accentColor
+        highlight: theme.highlightColor
+        highlightedText: theme.selectedPrimary
+    }
+}

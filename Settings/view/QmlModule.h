@@ -1,0 +1,8 @@
+#pragma once
+
+namespace settings {
+
+/// Makes "Settings" known to QML. Before an engine loads a view of it.
+void registerTypes();
+
+}  // namespace settings

@@ -1,0 +1,42 @@
+#include "Settings/view/QmlPaneView.h"
+
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <utility>
+
+#include "Foundation/Fatal.h"
+
+namespace settings {
+
+QmlPaneView::QmlPaneView(Parent parent, QUrl source, Properties properties)
+    : m_parent(std::move(parent)), m_source(std::move(source)), m_properties(std::move(properties)) {}
+
+Size QmlPaneView::fittingSize() { return {item().implicitWidth(), item().implicitHeight()}; }
+
+void QmlPaneView::setAlpha(double alpha) {
+  item().setOpacity(alpha);
+  item().setVisible(alpha > 0);
+  // What is on its way takes no keys, and what has gone gives them back.
+  item().setEnabled(alpha >= 1);
+}
+
+QQuickItem& QmlPaneView::item() {
+  if (m_item) return *m_item;
+  QQuickItem& parent = m_parent();
+  QQmlComponent component(qmlEngine(&parent), m_source);
+  m_item = qobject_cast<QQuickItem*>(component.createWithInitialProperties(m_properties()));
+  if (!m_item) foundation::stopProcess("A settings pane could not be loaded: " + component.errorString().toStdString());
+  QQmlEngine::setObjectOwnership(m_item, QQmlEngine::CppOwnership);
+  m_item->setParent(&parent);
+  m_item->setVisible(false);
+  m_item->setEnabled(false);
+  m_item->setParentItem(&parent);
+  const auto tell = [this] {
+    if (m_changed) m_changed();
+  };
+  QObject::connect(m_item, &QQuickItem::implicitWidthChanged, m_item, tell);
+  QObject::connect(m_item, &QQuickItem::implicitHeightChanged, m_item, tell);
+  return *m_item;
+}
+
+}  // namespace settings
