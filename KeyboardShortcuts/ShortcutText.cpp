@@ -11,12 +11,13 @@ ShortcutText::ShortcutText(Name name, const KeyboardShortcuts& shortcuts, const 
     : m_name(std::move(name)),
       m_shortcuts(shortcuts),
       m_inputSources(inputSources),
-      m_observer(notificationCenter.observe(
-          "KeyboardShortcuts_shortcutByNameDidChange",
-          [this](const auto& notification) {
-            const auto changed = notification.userInfo.find("name");
-            if (changed != notification.userInfo.end() && changed->second == m_name.rawValue) update();
-          })),
+      m_observer(notificationCenter.observe("KeyboardShortcuts_shortcutByNameDidChange",
+                                            [this](const auto& notification) {
+                                              const auto changed = notification.userInfo.find("name");
+                                              if (changed != notification.userInfo.end() &&
+                                                  changed->second == m_name.rawValue)
+                                                update();
+                                            })),
       m_layoutObserver(
           notificationCenter.observe("SauceSelectedKeyboardKeyCodesChanged", [this](const auto&) { update(); })) {
   update();

@@ -11,6 +11,9 @@ Rectangle {
     property bool isDestructive: false
     signal triggered()
 
+    // Keys that stay with this control in every window.
+    readonly property var ownKeys: [Qt.Key_Return]
+
     implicitWidth: Math.max(120, label.implicitWidth + 40)
     implicitHeight: 36
     radius: 8

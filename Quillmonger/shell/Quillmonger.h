@@ -31,13 +31,13 @@
 #include "Quillmonger/shell/RunningHistory.h"
 #include "Quillmonger/shell/StatusBarManager.h"
 #include "Quillmonger/shell/StatusItem.h"
-#include "Quillmonger/update/Updater.h"
 #include "Quillmonger/shell/WindowManager.h"
 #include "Quillmonger/shell/windows/Application.h"
 #include "Quillmonger/shell/windows/MotionPreference.h"
 #include "Quillmonger/shell/windows/Panel.h"
 #include "Quillmonger/shell/windows/SettingsWindowController.h"
 #include "Quillmonger/shell/windows/Window.h"
+#include "Quillmonger/update/Updater.h"
 
 namespace quillmonger {
 

@@ -12,9 +12,9 @@
 #include "Foundation/TextLookup.h"
 #include "KeyboardShortcuts/MenuItem.h"
 #include "Quillmonger/shell/StatusItem.h"
-#include "Quillmonger/update/Updater.h"
 #include "Quillmonger/shell/windows/Application.h"
 #include "Quillmonger/shell/windows/MotionPreference.h"
+#include "Quillmonger/update/Updater.h"
 
 namespace quillmonger {
 

@@ -67,4 +67,10 @@ settings::Pane appearancePane(const PaneSurroundings& surroundings, AppearanceSe
               properties("settings", appearance));
 }
 
+settings::Pane keyBindingsPane(const PaneSurroundings& surroundings, KeyBindingsSettings& keyBindings) {
+  return pane(surroundings,
+              {"keyBindings", "settings_key_bindings_title", "keyboard", "symbol_keyboard", "KeyBindingsPane"},
+              properties("settings", keyBindings));
+}
+
 }  // namespace quillmonger

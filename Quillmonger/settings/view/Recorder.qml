@@ -15,7 +15,7 @@ RecorderField {
     readonly property var ownKeys: [Qt.Key_Return]
 
     implicitWidth: Math.max(minimumWidth, 220)
-    implicitHeight: 34
+    implicitHeight: 30
     activeFocusOnTab: canBecomeKey
     Accessible.role: Accessible.HotkeyField
     Accessible.name: label
@@ -41,7 +41,7 @@ RecorderField {
         elide: Text.ElideMiddle
         textFormat: Text.PlainText
         renderType: Text.NativeRendering
-        font.pixelSize: recorder.theme.bodyFontSize
+        font.pixelSize: recorder.theme.paneFontSize
         color: recorder.text === "" || recorder.isRecording ? recorder.theme.tertiary : recorder.theme.primary
         text: recorder.text === "" ? recorder.placeholder : recorder.text
         Accessible.ignored: true

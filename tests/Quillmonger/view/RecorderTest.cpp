@@ -73,7 +73,9 @@ class RecorderView : public testing::Test {
 
   QQuickItem* item(const char* name) { return m_view.rootObject()->findChild<QQuickItem*>(name); }
   [[nodiscard]] bool records(const char* name) { return item(name)->property("isRecording").toBool(); }
-  QString shown(const char* name) { return item(name)->findChild<QQuickItem*>("RecorderText")->property("text").toString(); }
+  QString shown(const char* name) {
+    return item(name)->findChild<QQuickItem*>("RecorderText")->property("text").toString();
+  }
   void click(QQuickItem* where) {
     QTest::mouseClick(&m_view, Qt::LeftButton, {}, where->mapToScene(where->boundingRect().center()).toPoint());
   }
@@ -91,16 +93,10 @@ class RecorderView : public testing::Test {
   testsupport::VirtualRunLoop m_runLoop;
   int m_beeps = 0;
   std::vector<Name> m_names{{"show", Shortcut{9, 0x300}}, {"plain", std::nullopt}};
-  keyboardshortcuts::Recorders m_recorders{{m_shortcuts,
-                                            m_inputSources,
-                                            m_events,
-                                            m_alert,
-                                            m_notificationCenter,
-                                            m_runLoop,
-                                            quillmonger::localizedText,
-                                            [] { return std::vector<keyboardshortcuts::MenuItem>(); },
-                                            [this] { ++m_beeps; }},
-                                           m_names};
+  keyboardshortcuts::Recorders m_recorders{
+      {m_shortcuts, m_inputSources, m_events, m_alert, m_notificationCenter, m_runLoop, quillmonger::localizedText,
+       [] { return std::vector<keyboardshortcuts::MenuItem>(); }, [this] { ++m_beeps; }},
+      m_names};
   QQmlEngine m_engine;
   QQuickView m_view{&m_engine, nullptr};
   QString m_errors;
