@@ -65,6 +65,7 @@ XdgFolders XdgFolders::fromEnvironment(const Environment& environment) {
   XdgFolders folders;
   folders.config = configHome / "quillmonger";
   folders.data = dataHome / "quillmonger";
+  folders.cache = absolutePath(environment, "XDG_CACHE_HOME").value_or(home / ".cache") / "quillmonger";
   folders.runtime = runtime.has_value() ? *runtime / "quillmonger"
                                         : std::filesystem::path("/tmp/quillmonger-" + std::to_string(getuid()));
   folders.dataSearch = dataFolders(environment, dataHome);

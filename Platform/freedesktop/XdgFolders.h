@@ -25,6 +25,8 @@ struct XdgFolders {
   /// The program's own: ".../quillmonger".
   std::filesystem::path config;
   std::filesystem::path data;
+  /// What can be had again.
+  std::filesystem::path cache;
   /// Local to the machine and gone with the session; "/tmp/quillmonger-UID" when the session names none.
   std::filesystem::path runtime;
   /// Where applications are looked for, the most important first: not the program's own.

@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QPalette>
+#include <utility>
 
 #include "Quillmonger/settings/SettingsKeys.h"
 
@@ -17,15 +18,18 @@ Appearance::Appearance(defaults::Defaults& defaults) {
   qGuiApp->installEventFilter(this);
 }
 
-void Appearance::follow(DesktopPreferences& desktop) {
+void Appearance::follow(DesktopPreferences& desktop, std::function<bool()> reducesMotion) {
+  m_motion = std::move(reducesMotion);
   m_schemeSubscription = desktop.colorScheme().follow([this](const std::optional<ColorScheme>& scheme) {
     m_desktopColorScheme = scheme;
     emit isDarkChanged();
   });
-  m_motionSubscription = desktop.reducesMotion().follow([this](bool reduces) {
-    m_reducesMotion = reduces;
-    emit reducesMotionChanged();
-  });
+  m_motionSubscription = desktop.reducesMotion().follow([this](bool) { updateMotion(); });
+}
+
+void Appearance::updateMotion() {
+  const bool reduces = m_motion();
+  if (std::exchange(m_reducesMotion, reduces) != reduces) emit reducesMotionChanged();
 }
 
 bool Appearance::isDark() const {
@@ -36,7 +40,9 @@ bool Appearance::isDark() const {
 }
 
 bool Appearance::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == qGuiApp && event->type() == QEvent::ApplicationPaletteChange) emit isDarkChanged();
+  if (watched != qGuiApp) return false;
+  if (event->type() == QEvent::ApplicationPaletteChange) emit isDarkChanged();
+  if (event->type() == QEvent::ApplicationStateChange) updateMotion();
   return false;
 }
 

@@ -2,6 +2,7 @@
 
 #include <QtQml/qqmlregistration.h>
 #include <QObject>
+#include <functional>
 #include <optional>
 
 #include "Defaults/Defaults.h"
@@ -22,8 +23,10 @@ class Appearance final : public QObject {
   /// `defaults` outlives this object.
   explicit Appearance(defaults::Defaults& defaults);
 
-  /// Heeds the desktop's preferences from now on. They outlive this object. At most once.
-  void follow(DesktopPreferences& desktop);
+  /// Heeds the desktop's preferences from now on. They outlive this object. `reducesMotion` tells whether any place
+  /// where users say so speaks against motion; it is asked again when the preferences change, and when the program
+  /// comes to the front. At most once.
+  void follow(DesktopPreferences& desktop, std::function<bool()> reducesMotion);
 
   [[nodiscard]] bool isDark() const;
   [[nodiscard]] bool reducesMotion() const { return m_reducesMotion; }
@@ -34,9 +37,11 @@ class Appearance final : public QObject {
 
  private:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void updateMotion();
 
   std::optional<ColorScheme> m_selectedColorScheme;
   std::optional<ColorScheme> m_desktopColorScheme;
+  std::function<bool()> m_motion = [] { return false; };
   bool m_reducesMotion = false;
   foundation::Subscription m_settingSubscription;
   foundation::Subscription m_schemeSubscription;

@@ -17,6 +17,8 @@ Rectangle {
     // Keys that stay with this control in every window.
     readonly property var ownKeys: [Qt.Key_Return, Qt.Key_Up, Qt.Key_Down]
 
+    readonly property bool isMirrored: LayoutMirroring.enabled
+
     function open() { menu.open() }
 
     implicitWidth: 200

@@ -3,9 +3,10 @@ import Quillmonger.Resources
 
 // The options of a pop-up button, over the whole window. It has the keyboard while it is open, and gives it back.
 FocusScope {
-    id: menu
+    id: popUp
 
-    required property PopUpButton button
+    // The pop-up button.
+    required property Item button
 
     readonly property Theme theme: button.theme
     // Keys that stay with this menu in every window.
@@ -14,27 +15,29 @@ FocusScope {
 
     // The chosen option lies over the button, as far as the window reaches.
     function open() {
-        menu.current = Math.max(menu.button.selected, 0)
-        const place = menu.button.mapToItem(menu.parent, 0, 0)
+        popUp.current = Math.max(popUp.button.selected, 0)
+        const place = popUp.button.mapToItem(popUp.parent, 0, 0)
         box.x = place.x
-        box.y = Math.max(6, Math.min(place.y - menu.current * 30 - 4, menu.height - box.height - 6))
-        menu.visible = true
-        menu.forceActiveFocus(Qt.PopupFocusReason)
+        box.y = Math.max(6, Math.min(place.y - popUp.current * 30 - 4, popUp.height - box.height - 6))
+        popUp.visible = true
+        popUp.forceActiveFocus(Qt.PopupFocusReason)
     }
 
     function close() {
-        menu.visible = false
-        menu.button.forceActiveFocus(Qt.PopupFocusReason)
+        popUp.visible = false
+        popUp.button.forceActiveFocus(Qt.PopupFocusReason)
     }
 
     function choose(option: int) {
-        menu.close()
-        menu.button.chosen(option)
+        popUp.close()
+        popUp.button.chosen(option)
     }
 
-    function moveTo(option: int) { menu.current = Math.min(Math.max(option, 0), menu.button.titles.length - 1) }
+    function moveTo(option: int) { popUp.current = Math.min(Math.max(option, 0), popUp.button.titles.length - 1) }
 
     objectName: "PopUpMenu"
+    LayoutMirroring.enabled: button.isMirrored
+    LayoutMirroring.childrenInherit: true
     parent: button.Window.contentItem
     anchors.fill: parent
     visible: false
@@ -48,8 +51,8 @@ FocusScope {
     Keys.onUpPressed: moveTo(current - 1)
     Keys.onDownPressed: moveTo(current + 1)
     Keys.onPressed: event => {
-        if (event.key === Qt.Key_Home) menu.moveTo(0)
-        if (event.key === Qt.Key_End) menu.moveTo(menu.button.titles.length - 1)
+        if (event.key === Qt.Key_Home) popUp.moveTo(0)
+        if (event.key === Qt.Key_End) popUp.moveTo(popUp.button.titles.length - 1)
         event.accepted = true
     }
 
@@ -57,29 +60,29 @@ FocusScope {
         anchors.fill: parent
         acceptedButtons: Qt.AllButtons
         // Not at the press, which would then reach what lies below.
-        onReleased: menu.close()
+        onReleased: popUp.close()
         onWheel: wheel => wheel.accepted = true
     }
 
     Rectangle {
         id: box
-        width: menu.button.width
+        width: popUp.button.width
         height: options.height + 8
         radius: 8
         antialiasing: true
-        color: menu.theme.window
-        border { width: 1; color: menu.theme.border }
+        color: popUp.theme.window
+        border { width: 1; color: popUp.theme.border }
 
         Column {
             id: options
             anchors { left: parent.left; right: parent.right; top: parent.top; margins: 4 }
 
             Repeater {
-                model: menu.button.titles
+                model: popUp.button.titles
 
                 PopUpOption {
                     width: options.width
-                    menu: menu
+                    menu: popUp
                 }
             }
         }

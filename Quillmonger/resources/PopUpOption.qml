@@ -7,7 +7,8 @@ Rectangle {
 
     required property int index
     required property string modelData
-    required property PopUpMenu menu
+    // The pop-up menu.
+    required property Item menu
 
     readonly property bool isCurrent: menu.current === index
     readonly property bool isChosen: menu.button.selected === index

@@ -1,10 +1,10 @@
 import QtQuick
 
-// Where the visible rows lie in the whole list. Dragging it scrolls.
+// Where what is visible lies in the whole of a list or a page. Dragging it scrolls.
 Item {
     id: indicator
 
-    required property ListView list
+    required property Flickable list
     required property Theme theme
 
     readonly property real least: 28 / Math.max(height, 1)

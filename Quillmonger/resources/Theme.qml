@@ -35,6 +35,7 @@ QtObject {
     readonly property int windowRadius: 15
     readonly property int rowRadius: 6
     readonly property int rowHeight: 42
+    readonly property int paneMargin: 24
     readonly property int fieldRadius: 8
     readonly property int margin: 8
     readonly property int searchBarHeight: 58
@@ -66,6 +67,8 @@ QtObject {
     // Milliseconds. Long enough to be followed with the eye, too short to be waited for.
     readonly property int rowMotion: reducesMotion ? 0 : 90
     readonly property int fade: reducesMotion ? 0 : 140
+    // Of a bar whose end nobody knows, from one side to the other.
+    readonly property int wander: 900
     // Until a pointer at rest asks what is below it.
     readonly property int tipDelay: 600
 }

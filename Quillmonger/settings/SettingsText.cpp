@@ -81,15 +81,16 @@ struct TextForm<TruncationMode> {
 
 template <>
 struct TextForm<std::optional<ColorScheme>> {
-  static constexpr std::string_view expected = "0 (as the desktop), 1 (light) or 2 (dark)";
+  static constexpr std::string_view expected = "\"system\", \"light\" or \"dark\"";
   static std::string text(std::optional<ColorScheme> value) {
-    if (!value.has_value()) return "0";
-    return *value == ColorScheme::light ? "1" : "2";
+    if (!value.has_value()) return "system";
+    return *value == ColorScheme::light ? "light" : "dark";
   }
   static std::optional<std::optional<ColorScheme>> parse(std::string_view text) {
-    if (text == "0") return std::optional<ColorScheme>();
-    if (text == "1") return ColorScheme::light;
-    if (text == "2") return ColorScheme::dark;
+    for (const auto scheme :
+         {std::optional<ColorScheme>(), std::optional(ColorScheme::light), std::optional(ColorScheme::dark)}) {
+      if (text == TextForm::text(scheme)) return scheme;
+    }
     return std::nullopt;
   }
 };

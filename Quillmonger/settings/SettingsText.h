@@ -18,8 +18,8 @@ class SettingsText final {
   /// The names of all keys, in the order of the table.
   [[nodiscard]] static std::vector<std::string> names();
 
-  /// "true" or "false", a number, a bare string, or a JSON list of strings; for a colour scheme 0, 1 or 2. An unknown
-  /// name is an error.
+  /// "true" or "false", a number, a bare string, or a JSON list of strings; for a colour scheme "system", "light" or
+  /// "dark". An unknown name is an error.
   foundation::Result<std::string> read(std::string_view name) const;
   /// Takes what `read` gives. An unknown name, and a text that is no value of the key's type, are errors that change
   /// nothing.

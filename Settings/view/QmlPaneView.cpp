@@ -16,8 +16,8 @@ Size QmlPaneView::fittingSize() { return {item().implicitWidth(), item().implici
 void QmlPaneView::setAlpha(double alpha) {
   item().setOpacity(alpha);
   item().setVisible(alpha > 0);
-  // What is on its way takes no keys, and what has gone gives them back.
-  item().setEnabled(alpha >= 1);
+  // What has gone gives the keyboard back.
+  item().setEnabled(alpha > 0);
 }
 
 QQuickItem& QmlPaneView::item() {

@@ -62,11 +62,13 @@ Frame QtSettingsWindow::frame() const {
 }
 
 Size QtSettingsWindow::frameRectForContentRect(const Size& content) const {
-  const double toolbar = view().rootObject()->property("toolbarHeight").toDouble();
+  const QQuickItem* root = view().rootObject();
+  const double width = std::max(content.width, root->property("toolbarWidth").toDouble());
+  const double height = content.height + root->property("toolbarHeight").toDouble();
   const QScreen* screen = view().screen();
-  if (screen == nullptr) return {content.width, content.height + toolbar};
+  if (screen == nullptr) return {std::ceil(width), std::ceil(height)};
   const double highest = screen->availableGeometry().height() - usualTitleBar;
-  return {std::ceil(content.width), std::ceil(std::min(content.height + toolbar, highest))};
+  return {std::ceil(width), std::ceil(std::min(height, highest))};
 }
 
 void QtSettingsWindow::setFrame(const Frame& frame) {

@@ -35,7 +35,7 @@ Item {
         y: section.isCentered ? (section.linesHeight - height) / 2 : Math.max(firstLine.middle - firstLine.height / 2, 0)
         width: section.maximumWidth
         wrapMode: Text.Wrap
-        horizontalAlignment: section.LayoutMirroring.enabled ? Text.AlignLeft : Text.AlignRight
+        horizontalAlignment: Text.AlignRight
         renderType: Text.NativeRendering
         textFormat: Text.PlainText
         font.pixelSize: 14

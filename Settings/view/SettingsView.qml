@@ -8,6 +8,7 @@ FocusScope {
 
     required property SettingsModel model
 
+    readonly property real toolbarWidth: toolbar.visible ? toolbar.implicitWidth : 0
     readonly property real toolbarHeight: toolbar.height
     readonly property Item focusItem: Window.activeFocusItem
 

@@ -13,6 +13,7 @@ FocusScope {
     }
 
     objectName: "SettingsToolbar"
+    implicitWidth: (model.isSegmented ? control.width : items.width) + 24
     implicitHeight: 66
     activeFocusOnTab: true
     Keys.onLeftPressed: move(-1)
@@ -21,6 +22,7 @@ FocusScope {
     Accessible.focusable: true
 
     Row {
+        id: items
         anchors.centerIn: parent
         visible: !toolbar.model.isSegmented
         spacing: 4
@@ -36,6 +38,7 @@ FocusScope {
     }
 
     Loader {
+        id: control
         anchors.centerIn: parent
         active: toolbar.model.isSegmented
         sourceComponent: SegmentedControl {

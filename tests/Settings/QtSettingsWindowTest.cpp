@@ -97,7 +97,7 @@ class QtSettingsWindow : public testing::Test {
   }
   QQuickItem* item(const char* name) { return find(view().rootObject(), name); }
   bool awaitPane(const char* name) {
-    return QTest::qWaitFor([this, name] { return item(name) != nullptr && item(name)->isEnabled(); });
+    return QTest::qWaitFor([this, name] { return item(name) != nullptr && item(name)->opacity() == 1; });
   }
   void click(QQuickItem* on) {
     QTest::mouseClick(&view(), Qt::LeftButton, {}, on->mapToScene(on->boundingRect().center()).toPoint());

@@ -34,6 +34,25 @@ class Documentation(unittest.TestCase):
             self.assertIn(f"{top}/", page)
 
 
+class Acknowledgements(unittest.TestCase):
+    # What the build looks for, and the library that it is. The tests' own are not part of the program.
+    LIBRARIES = {"Qt6": "Qt", "ICU": "ICU", "SQLite3": "SQLite", "nlohmann_json": "JSON for Modern C++",
+                 "NETTLE": "Nettle", "HOGWEED": "Nettle", "CURL": "curl", "XCB": "XCB", "XKBCOMMON": "xkbcommon",
+                 "XKBCOMMON_X11": "xkbcommon", "PULSE": "PulseAudio", "GLIB": "GLib", "GIO": "GLib",
+                 "rapidjson": "RapidJSON"}
+    OF_THE_BUILD = {"PkgConfig", "Threads", "GTest", "benchmark"}
+
+    def test_every_library_of_the_program_is_named_with_its_licence(self):
+        outside = (ROOT / "cmake/QuillmongerOutside.cmake").read_text()
+        found = set(re.findall(r"(?:find_package|pkg_check_modules)\((\w+)", outside)) - self.OF_THE_BUILD
+        if "rapidjson" in outside:
+            found.add("rapidjson")
+        page = (ROOT / "Quillmonger/resources/acknowledgements.html").read_text()
+        for name in found:
+            self.assertIn(name, self.LIBRARIES, "a library without a name for people")
+            self.assertRegex(page, rf"<dt>{self.LIBRARIES[name]}</dt><dd>.*(License|Public domain)")
+
+
 class Sources(unittest.TestCase):
     def test_every_file_is_formatted(self):
         files = [str(path) for path in tracked("*.h", "*.cpp")]

@@ -10,7 +10,20 @@ from roadcase import RoadCase
 class TheSettings(RoadCase):
     def open_settings(self):
         self.desktop.quillmonger("settings")
-        return self.wait_for_front("^Ignore$")
+        self.wait_for_front("^General$")
+        return self.go_to_ignored_applications()
+
+    def go_to_ignored_applications(self):
+        """From the toolbar, which the keyboard reaches first."""
+        self.desktop.press("Tab", "Right")
+        settings = self.wait_for_front("^Ignore$")
+        seen = []
+
+        def is_still():
+            seen.append(self.desktop.geometry(settings))
+            return len(seen) > 2 and len(set(seen[-3:])) == 1
+        wait_until(is_still, "the window's size", step=0.1)
+        return settings
 
     def wait_for_front(self, name):
         window = self.desktop.window(name)
@@ -41,8 +54,9 @@ class TheSettings(RoadCase):
         self.desktop.start_app()
         self.desktop.open_history()
         self.desktop.press("ctrl+comma")
-        settings = self.wait_for_front("^Ignore$")
+        self.wait_for_front("^General$")
         self.desktop.wait_hidden()
+        settings = self.go_to_ignored_applications()
 
         self.desktop.press("Tab", "Tab", "Tab", "Tab", "Return")
         self.wait_for_front("^Choose an Application$")
@@ -89,6 +103,7 @@ class TheSettings(RoadCase):
     def test_the_command_starts_the_program_to_show_them(self):
         self.desktop.quillmonger("defaults", "write", "firstLaunch", "false")
 
-        self.open_settings()
+        self.desktop.quillmonger("settings")
+        self.wait_for_front("^General$")
 
         self.desktop.quillmonger("quit")

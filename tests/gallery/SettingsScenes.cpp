@@ -60,42 +60,66 @@ QQuickView& search(SettingsStage& stage, const char* term) {
 
 const std::vector<Scene>& scenes() {
   static const std::vector<Scene> all{
-      {"ignore-fresh", [](SettingsStage& stage) -> QQuickView& { return stage.pane(); }},
+      {"general", [](SettingsStage& stage) -> QQuickView& { return stage.pane("general"); }},
+      {"general-picker",
+       [](SettingsStage& stage) -> QQuickView& {
+         focus(stage.pane("general"), "HistorySizePicker");
+         QTest::keyClick(&stage.pane("general"), Qt::Key_Space);
+         return stage.pane("general");
+       }},
+      {"general-radio-focus",
+       [](SettingsStage& stage) -> QQuickView& {
+         focus(stage.pane("general"), "OnPasteChoice");
+         return stage.pane("general");
+       }},
+      {"search", [](SettingsStage& stage) -> QQuickView& { return stage.pane("search"); }},
+      {"search-slider-focus",
+       [](SettingsStage& stage) -> QQuickView& {
+         focus(stage.pane("search"), "DebounceSlider");
+         return stage.pane("search");
+       }},
+      {"appearance", [](SettingsStage& stage) -> QQuickView& { return stage.pane("appearance"); }},
+      {"appearance-toolbar-focus",
+       [](SettingsStage& stage) -> QQuickView& {
+         focus(stage.pane("appearance"), "SettingsToolbar");
+         return stage.pane("appearance");
+       }},
+      {"ignore-fresh", [](SettingsStage& stage) -> QQuickView& { return stage.pane("ignore"); }},
       {"ignore-empty",
        [](SettingsStage& stage) -> QQuickView& {
          stage.ignoredApps().removeApp(stage.ignoredApps().apps().value().front());
          stage.defaults().set(quillmonger::keys::ignoreImages, true);
-         return stage.pane();
+         return stage.pane("ignore");
        }},
       {"ignore-list",
        [](SettingsStage& stage) -> QQuickView& {
          ignoreMany(stage);
-         return stage.pane();
+         return stage.pane("ignore");
        }},
       {"ignore-list-focus",
        [](SettingsStage& stage) -> QQuickView& {
          ignoreMany(stage);
          for (const char* name : {"Calendar", "Editor", "Files", "Mail"})
            stage.ignore(name);
-         focus(stage.pane(), "IgnoredAppsList");
-         return stage.pane();
+         focus(stage.pane("ignore"), "IgnoredAppsList");
+         return stage.pane("ignore");
        }},
       {"ignore-switch-focus",
        [](SettingsStage& stage) -> QQuickView& {
-         focus(stage.pane(), "IgnoreSensitiveToggle");
-         return stage.pane();
+         focus(stage.pane("ignore"), "IgnoreSensitiveToggle");
+         return stage.pane("ignore");
        }},
       {"ignore-button-focus",
        [](SettingsStage& stage) -> QQuickView& {
-         focus(stage.pane(), "AddAppButton");
-         return stage.pane();
+         focus(stage.pane("ignore"), "AddAppButton");
+         return stage.pane("ignore");
        }},
       {"ignore-menu",
        [](SettingsStage& stage) -> QQuickView& {
          ignoreMany(stage);
-         auto* row = findAll(stage.pane(), "IgnoredApp").at(1);
-         QTest::mouseClick(&stage.pane(), Qt::RightButton, {}, row->mapToScene(QPointF(150, 20)).toPoint());
-         return stage.pane();
+         auto* row = findAll(stage.pane("ignore"), "IgnoredApp").at(1);
+         QTest::mouseClick(&stage.pane("ignore"), Qt::RightButton, {}, row->mapToScene(QPointF(150, 20)).toPoint());
+         return stage.pane("ignore");
        }},
       {"about", [](SettingsStage& stage) -> QQuickView& { return stage.about(); }},
       {"about-focus",

@@ -5,8 +5,10 @@
 
 #include "Quillmonger/history/view/ImageCache.h"
 #include "Quillmonger/resources/QmlModule.h"
+#include "Quillmonger/resources/Texts.h"
 #include "Quillmonger/settings/SettingsKeys.h"
 #include "Quillmonger/settings/view/QmlModule.h"
+#include "Settings/view/QmlModule.h"
 #include "tests/gallery/TileIcon.h"
 #include "tests/gallery/ViewStage.h"
 
@@ -17,10 +19,22 @@ using quillmonger::AppPickerViewModel;
 
 SettingsStage::SettingsStage()
     : m_appearance(m_defaults.defaults),
-      m_settings(m_defaults.defaults),
+      m_historyClearing({m_alert, quillmonger::localizedText, m_notificationCenter}),
+      m_general({m_defaults.defaults, m_launchAtLogin, m_updater, m_historyClearing}),
+      m_ignore(m_defaults.defaults),
+      m_search(m_defaults.defaults),
+      m_appearanceSettings(m_defaults.defaults),
       m_ignoredApps({m_defaults.defaults, m_bundles, m_picker}),
-      m_ignoredAppsModel(m_ignoredApps) {
+      m_ignoredAppsModel(m_ignoredApps),
+      m_settingsWindow({[this]() -> QQuickView& { return settingsWindow(); }, [] {}, [this] { m_pane->show(); },
+                        [] { return true; }, m_defaults.suite}),
+      m_controller(m_settingsWindow, panes(), settings::Style::toolbarItems,
+                   settings::SettingsTabViewController::Animation::on,
+                   settings::SettingsWindowController::SingleItemToolbar::hidden, {}),
+      m_settingsModel(m_controller, m_settingsWindow.size()) {
+  m_historyClearing.setHistory([this] { ++m_clearCount; }, this);
   quillmonger::resourcesview::registerTypes(m_engine);
+  settings::registerTypes();
   quillmonger::settingsview::registerTypes();
   m_engine.addImageProvider(QStringLiteral("appicon"), new quillmonger::ImageCache([this](const std::string& path) {
                               return m_folder.path() / (std::filesystem::path(path).stem().string() + ".svg");
@@ -45,11 +59,37 @@ void SettingsStage::ignore(const std::string& name) {
   m_picker.decide(locationOf(name));
 }
 
-QQuickView& SettingsStage::pane() {
-  return show(m_pane, QStringLiteral("IgnorePane"),
-              {{"settings", QVariant::fromValue(&m_settings)},
-               {"apps", QVariant::fromValue(&m_ignoredAppsModel)},
-               {"appearance", QVariant::fromValue(&m_appearance)}});
+std::vector<settings::Pane> SettingsStage::panes() {
+  const quillmonger::PaneSurroundings surroundings{[this]() -> QQuickItem& { return m_settingsWindow.paneArea(); },
+                                                   m_appearance};
+  std::vector<settings::Pane> panes;
+  panes.push_back(
+      quillmonger::generalPane(surroundings, [this]() -> quillmonger::GeneralSettings& { return m_general; }));
+  panes.push_back(quillmonger::ignorePane(surroundings, m_ignore,
+                                          [this]() -> quillmonger::IgnoredAppsModel& { return m_ignoredAppsModel; }));
+  panes.push_back(quillmonger::searchPane(surroundings, m_search));
+  panes.push_back(quillmonger::appearancePane(surroundings, m_appearanceSettings));
+  return panes;
+}
+
+QQuickView& SettingsStage::settingsWindow() {
+  if (!m_pane) {
+    m_pane = std::make_unique<QQuickView>(&m_engine, nullptr);
+    m_pane->setInitialProperties(
+        {{"model", QVariant::fromValue(&m_settingsModel)}, {"appearance", QVariant::fromValue(&m_appearance)}});
+    m_pane->setSource(QUrl(QStringLiteral("qrc:/qt-project.org/imports/Quillmonger/Settings/SettingsRoot.qml")));
+  }
+  return *m_pane;
+}
+
+QQuickView& SettingsStage::pane(const char* identifier) {
+  auto& tabs = m_controller.tabViewController();
+  const auto active = tabs.activeTab();
+  if (!active || tabs.panes().at(*active)->paneIdentifier().rawValue != identifier)
+    m_controller.show(settings::PaneIdentifier{identifier});
+  m_pane->grabWindow();
+  QCoreApplication::processEvents();
+  return *m_pane;
 }
 
 QQuickView& SettingsStage::pickerView() {
@@ -88,7 +128,7 @@ QQuickView& SettingsStage::show(std::unique_ptr<QQuickView>& view, const QString
 
 std::vector<QQuickItem*> findAll(QQuickView& view, const QString& identifier) {
   std::vector<QQuickItem*> found;
-  collect(view.rootObject(), identifier, found);
+  collect(view.contentItem(), identifier, found);
   std::ranges::stable_sort(found, {}, [](QQuickItem* item) { return item->mapToScene(QPointF()).y(); });
   return found;
 }

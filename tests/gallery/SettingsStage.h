@@ -8,16 +8,23 @@
 #include <string>
 #include <vector>
 
+#include "Foundation/NotificationCenter.h"
+#include "LaunchAtLogin/LaunchAtLogin.h"
 #include "Quillmonger/resources/Appearance.h"
 #include "Quillmonger/settings/panes/AppPickerViewModel.h"
 #include "Quillmonger/settings/panes/IgnoreAppsViewModel.h"
 #include "Quillmonger/settings/view/AboutModel.h"
 #include "Quillmonger/settings/view/AppPickerModel.h"
-#include "Quillmonger/settings/view/IgnoreSettings.h"
-#include "Quillmonger/settings/view/IgnoredAppsModel.h"
+#include "Quillmonger/settings/view/Panes.h"
+#include "Settings/SettingsWindowController.h"
+#include "Settings/view/QtSettingsWindow.h"
+#include "Settings/view/SettingsModel.h"
+#include "tests/support/FakeAlertSheet.h"
 #include "tests/support/FakeAppPicker.h"
+#include "tests/support/FakeAppService.h"
 #include "tests/support/FakeApplicationBundles.h"
 #include "tests/support/FakeInstalledApplications.h"
+#include "tests/support/FakeUpdater.h"
 #include "tests/support/InlineBackgroundQueue.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/support/TestDefaults.h"
@@ -34,6 +41,11 @@ class SettingsStage final {
   defaults::Defaults& defaults() { return m_defaults.defaults; }
   quillmonger::IgnoreAppsViewModel& ignoredApps() { return m_ignoredApps; }
   FakeAppPicker& picker() { return m_picker; }
+  FakeAppService& appService() { return m_appService; }
+  FakeAlertSheet& alert() { return m_alert; }
+  FakeUpdater& updater() { return m_updater; }
+  /// How often the history was cleared.
+  [[nodiscard]] int clearCount() const { return m_clearCount; }
 
   /// Before the picker is built. The same name gives the same application.
   void install(const std::string& name, const std::string& genericName = {});
@@ -44,8 +56,8 @@ class SettingsStage final {
   /// What the picker gave; absent while it is open, empty for none.
   [[nodiscard]] const std::optional<std::string>& picked() const { return m_picked; }
 
-  /// The pane "ignore", as large as it wants to be. Built once, and laid out at each call.
-  QQuickView& pane();
+  /// The settings' window with this pane, as large as it wants to be. Built once, and laid out at each call.
+  QQuickView& pane(const char* identifier);
   /// The picker's list, before the applications have been read.
   QQuickView& pickerView();
   QQuickView& about();
@@ -56,6 +68,8 @@ class SettingsStage final {
 
  private:
   QQuickView& show(std::unique_ptr<QQuickView>& view, const QString& file, const QVariantMap& properties);
+  QQuickView& settingsWindow();
+  std::vector<settings::Pane> panes();
 
   TemporaryFolder m_folder;
   TestDefaults m_defaults;
@@ -67,7 +81,17 @@ class SettingsStage final {
   std::string m_clipboardText;
   std::optional<std::string> m_picked;
   quillmonger::Appearance m_appearance;
-  quillmonger::IgnoreSettings m_settings;
+  int m_clearCount = 0;
+  foundation::NotificationCenter m_notificationCenter;
+  FakeAlertSheet m_alert;
+  FakeAppService m_appService;
+  FakeUpdater m_updater;
+  launchatlogin::LaunchAtLogin m_launchAtLogin{m_appService, [](const std::string&) {}};
+  quillmonger::HistoryClearing m_historyClearing;
+  quillmonger::GeneralSettings m_general;
+  quillmonger::IgnoreSettings m_ignore;
+  quillmonger::SearchSettingsModel m_search;
+  quillmonger::AppearanceSettings m_appearanceSettings;
   quillmonger::IgnoreAppsViewModel m_ignoredApps;
   quillmonger::IgnoredAppsModel m_ignoredAppsModel;
   std::unique_ptr<quillmonger::AppPickerViewModel> m_pickerViewModel;
@@ -75,6 +99,9 @@ class SettingsStage final {
   std::vector<quillmonger::AboutModel::Page> m_openedPages;
   quillmonger::AboutModel m_aboutModel{QStringLiteral("1.2.3"), [this](auto page) { m_openedPages.push_back(page); }};
   QQmlEngine m_engine;
+  settings::QtSettingsWindow m_settingsWindow;
+  settings::SettingsWindowController m_controller;
+  settings::SettingsModel m_settingsModel;
   std::unique_ptr<QQuickView> m_pane;
   std::unique_ptr<QQuickView> m_pickerView;
   std::unique_ptr<QQuickView> m_about;

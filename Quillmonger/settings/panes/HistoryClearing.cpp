@@ -20,12 +20,12 @@ void HistoryClearing::setHistory(std::function<void()> deleteAllItems, const voi
 void HistoryClearing::ask() {
   using Role = foundation::AlertSheet::Button::Role;
   const auto& text = m_with.texts;
-  m_with.alert.begin(
-      {text("settings_clipboard_clear_history_alert_title"), text("settings_clipboard_clear_history_alert_message"),
-       {{text("clear_string"), Role::destructive}, {text("cancel_string"), Role::cancel}}},
-      [this, isAlive = std::weak_ptr(m_isAlive)](std::size_t button) {
-        if (!isAlive.expired() && button == clearButton) clear();
-      });
+  m_with.alert.begin({text("settings_clipboard_clear_history_alert_title"),
+                      text("settings_clipboard_clear_history_alert_message"),
+                      {{text("clear_string"), Role::destructive}, {text("cancel_string"), Role::cancel}}},
+                     [this, isAlive = std::weak_ptr(m_isAlive)](std::size_t button) {
+                       if (!isAlive.expired() && button == clearButton) clear();
+                     });
 }
 
 void HistoryClearing::clear() {

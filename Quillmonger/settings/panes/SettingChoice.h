@@ -50,8 +50,7 @@ class SettingChoice final {
   template <typename T>
   static std::optional<std::size_t> placeOf(const T& value, const std::vector<Option<T>>& options) {
     const auto found = std::ranges::find(options, value, &Option<T>::value);
-    return found == options.end() ? std::nullopt
-                                  : std::optional(static_cast<std::size_t>(found - options.begin()));
+    return found == options.end() ? std::nullopt : std::optional(static_cast<std::size_t>(found - options.begin()));
   }
   template <typename T>
   static std::string textOf(const T& value) {

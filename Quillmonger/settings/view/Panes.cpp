@@ -40,9 +40,11 @@ Properties properties(const char* name, Model& model) {
 
 }  // namespace
 
-settings::Pane generalPane(const PaneSurroundings& surroundings, GeneralSettings& general) {
+settings::Pane generalPane(const PaneSurroundings& surroundings, std::function<GeneralSettings&()> general) {
   return pane(surroundings, {"general", "settings_general_title", "gearshape", "symbol_gear", "GeneralPane"},
-              properties("settings", general));
+              [general = std::move(general)] {
+                return QVariantMap{{QStringLiteral("settings"), QVariant::fromValue(&general())}};
+              });
 }
 
 settings::Pane ignorePane(const PaneSurroundings& surroundings, IgnoreSettings& ignore,

@@ -21,9 +21,9 @@ struct PaneSurroundings {
   Appearance& appearance;
 };
 
-/// The panes of the settings' window. What they show outlives them.
-[[nodiscard]] settings::Pane generalPane(const PaneSurroundings& surroundings, GeneralSettings& general);
-/// `apps` is asked when the pane is first shown.
+/// The panes of the settings' window. What they show outlives them; functions are asked when the pane is first shown.
+[[nodiscard]] settings::Pane generalPane(const PaneSurroundings& surroundings,
+                                         std::function<GeneralSettings&()> general);
 [[nodiscard]] settings::Pane ignorePane(const PaneSurroundings& surroundings, IgnoreSettings& ignore,
                                         std::function<IgnoredAppsModel&()> apps);
 [[nodiscard]] settings::Pane searchPane(const PaneSurroundings& surroundings, SearchSettingsModel& search);

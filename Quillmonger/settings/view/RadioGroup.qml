@@ -5,7 +5,7 @@ import Quillmonger.Settings
 // Radio buttons for the values of a setting, each with what it means. The group is one stop for the Tab key; the arrow
 // keys choose.
 FocusScope {
-    id: group
+    id: radios
 
     required property ChoiceModel choice
     required property var hints
@@ -19,7 +19,7 @@ FocusScope {
     readonly property real firstLineHeight: 18
 
     function move(by: int) {
-        group.choice.select(Math.min(Math.max(group.choice.selected + by, 0), group.choice.titles.length - 1))
+        radios.choice.select(Math.min(Math.max(radios.choice.selected + by, 0), radios.choice.titles.length - 1))
     }
 
     width: parent ? parent.width : 0
@@ -39,7 +39,7 @@ FocusScope {
         spacing: 12
 
         Repeater {
-            model: group.choice.titles
+            model: radios.choice.titles
 
             Column {
                 id: option
@@ -51,20 +51,20 @@ FocusScope {
                 spacing: 4
 
                 RadioButton {
-                    objectName: group.objectName + "-" + option.index
+                    objectName: radios.objectName + "-" + option.index
                     width: parent.width
                     text: option.modelData
-                    note: group.hints[option.index]
-                    isSelected: group.choice.selected === option.index
-                    group: group
-                    theme: group.theme
-                    onTriggered: group.choice.select(option.index)
+                    note: radios.hints[option.index]
+                    isSelected: radios.choice.selected === option.index
+                    group: radios
+                    theme: radios.theme
+                    onTriggered: radios.choice.select(option.index)
                 }
 
                 SettingNote {
-                    theme: group.theme
-                    maximumWidth: group.hintWidth
-                    text: group.hints[option.index]
+                    theme: radios.theme
+                    maximumWidth: radios.hintWidth
+                    text: radios.hints[option.index]
                 }
             }
         }

@@ -44,6 +44,8 @@ std::string soundPlayer() {
   return QCoreApplication::applicationDirPath().append(QStringLiteral("/quillmonger-sound")).toStdString();
 }
 
+std::filesystem::path programPath() { return QCoreApplication::applicationFilePath().toStdString(); }
+
 std::string pasteboardType(const std::string& mimeType) {
   const auto* entry = platform::PasteboardTypeTable::entryForName(mimeType);
   return entry != nullptr ? std::string(entry->type) : mimeType;
@@ -77,10 +79,13 @@ Composition::Composition(const platform::XdgFolders& folders, const std::vector<
       m_installedApplications(m_desktopEntries, platform::XdgFolders::ownEnvironment),
       m_application(*m_windowSystem),
       m_desktopPreferences(QDBusConnection::sessionBus()),
+      m_motion(m_desktopPreferences, *m_windowSystem),
       m_views(
           m_defaults, *m_windowSystem, [this](const std::string& path) { return iconOf(path); },
           {m_installedApplications, m_backgroundQueue, m_runLoop}, m_notificationCenter),
       m_statusBar(QDBusConnection::sessionBus(), [](const std::string& name) { return resourcePlace(name, "svg"); }),
+      m_loginItem(folders.configSearch, programPath()),
+      m_launchAtLogin(m_loginItem, [](const std::string& message) { qCritical("%s", message.c_str()); }),
       m_dialogManager(m_views.alert(), localizedText, openUrl, supportAddress),
       m_permissionsManager(m_postEventAccess, m_views.alert(), localizedText, openUrl, m_runLoop),
       m_contextProvider(m_dialogManager, folders.data, m_runLoop),
@@ -107,15 +112,15 @@ Composition::Composition(const platform::XdgFolders& folders, const std::vector<
               m_views.settingsWindowController(),
               m_views.aboutWindow(),
               m_views.previewPanel(),
-              *m_windowSystem,
+              m_motion,
               m_views.appPicker(),
               m_statusBar,
               m_updater,
               resource,
               platform::SoundProcess::factory(soundPlayer())}),
       m_commandLine(commandOperations(), m_root.commandedHistory(), m_defaults) {
-  m_views.follow(m_desktopPreferences);
-  m_views.feed(m_root, *m_pasteboard);
+  m_views.follow(m_desktopPreferences, m_motion);
+  m_views.feed(m_root, *m_pasteboard, {m_launchAtLogin, m_updater});
   m_resigning = m_application.onDidResignActive([this] { m_root.applicationDidResignActive(); });
 }
 

@@ -10,8 +10,10 @@
 #include "Defaults/FileUserDefaults.h"
 #include "Foundation/NotificationCenter.h"
 #include "KeyboardShortcuts/KeyboardShortcuts.h"
+#include "LaunchAtLogin/LaunchAtLogin.h"
 #include "Platform/dbus/StatusNotifierBar.h"
 #include "Platform/desktopshortcuts/DesktopShortcuts.h"
+#include "Platform/freedesktop/AutostartEntry.h"
 #include "Platform/freedesktop/CommandSocket.h"
 #include "Platform/freedesktop/DesktopApplicationBundles.h"
 #include "Platform/freedesktop/DesktopApplicationNaming.h"
@@ -32,12 +34,13 @@
 #include "Platform/x11/X11PostEventAccess.h"
 #include "Platform/x11/X11WindowSystem.h"
 #include "Quillmonger/capture/ContextProvider.h"
+#include "Quillmonger/shell/DesktopMotion.h"
 #include "Quillmonger/shell/DialogManager.h"
 #include "Quillmonger/shell/PermissionsManager.h"
 #include "Quillmonger/shell/Quillmonger.h"
-#include "Quillmonger/update/UnconfiguredUpdater.h"
 #include "Quillmonger/shell/app/Views.h"
 #include "Quillmonger/shell/command/CommandLine.h"
+#include "Quillmonger/update/UnconfiguredUpdater.h"
 #include "Sauce/Sauce.h"
 
 namespace quillmonger {
@@ -90,9 +93,12 @@ class Composition final {
   // After all that its work asks, which may still go on when the root has gone.
   platform::QtBackgroundQueue m_backgroundQueue;
   platform::PortalPreferences m_desktopPreferences;
+  DesktopMotion m_motion;
   Views m_views;
   platform::StatusNotifierBar m_statusBar;
   UnconfiguredUpdater m_updater;
+  platform::AutostartEntry m_loginItem;
+  launchatlogin::LaunchAtLogin m_launchAtLogin;
 
   DialogManager m_dialogManager;
   PermissionsManager m_permissionsManager;

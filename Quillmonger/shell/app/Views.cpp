@@ -13,6 +13,7 @@
 #include "Quillmonger/search/view/QmlModule.h"
 #include "Quillmonger/settings/view/QmlModule.h"
 #include "Quillmonger/shell/app/OutsidePages.h"
+#include "Settings/view/QmlModule.h"
 
 namespace quillmonger {
 
@@ -44,7 +45,6 @@ Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCach
       m_appearance(defaults),
       m_pictureColors(applications.backgroundQueue, applications.runLoop),
       m_historySettings(defaults),
-      m_ignoreSettings(defaults),
       m_aboutModel(QCoreApplication::applicationVersion(), openOutsidePage),
       m_alert([this]() -> QQmlEngine& { return engine(); }, m_appearance),
       m_appWindow({platform::QtQuickWindow::Kind::palette, appWindowSize, QStringLiteral("Quillmonger"),
@@ -54,11 +54,8 @@ Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCach
                               QString::fromStdString(localizedText("getting_started_title")),
                               [this] { return gettingStartedContent(); }, [this]() -> QQmlEngine& { return engine(); }},
                              windowSystem),
-      m_settingsWindow({platform::QtQuickWindow::Kind::dialog, QSize(),
-                        QString::fromStdString(localizedText("settings_ignore_title")),
-                        [this] { return settingsContent(); }, [this]() -> QQmlEngine& { return engine(); }},
-                       windowSystem),
-      m_settingsController(m_settingsWindow),
+      m_settings({defaults, windowSystem, m_appearance, [this]() -> QQmlEngine& { return engine(); },
+                  applications.runLoop, notificationCenter}),
       m_aboutWindow(
           {platform::QtQuickWindow::Kind::dialog, aboutWindowSize, QString::fromStdString(localizedText("about_title")),
            [this] { return aboutContent(); }, [this]() -> QQmlEngine& { return engine(); }},
@@ -67,12 +64,12 @@ Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCach
                       [this] { return previewContent(); }, [this]() -> QQmlEngine& { return engine(); }},
                      windowSystem),
       m_appPicker({applications, m_appearance, [this]() -> QQmlEngine& { return engine(); },
-                   [this]() -> QWindow* { return m_settingsWindow.view(); }, [this] { return m_clipboardText(); }}) {}
+                   [this]() -> QWindow* { return m_settings.view(); }, [this] { return m_clipboardText(); }}) {}
 
-void Views::feed(Quillmonger& root, const Pasteboard& pasteboard) {
+void Views::feed(Quillmonger& root, const Pasteboard& pasteboard, const PanedSettings::Services& services) {
   ClipboardViewModel& history = root.clipboardViewModel();
   m_clipboardText = [&pasteboard] { return presentText(pasteboard); };
-  m_ignoreAppsViewModel = [&root]() -> IgnoreAppsViewModel& { return root.ignoreAppsViewModel(); };
+  m_settings.feed(root, services);
   m_searchBarModel = std::make_unique<SearchBarModel>(root.searchViewModel().searchTerm(), m_defaults, m_clipboardText,
                                                       [&root] { root.windowManager().togglePreviewWindow(); });
   m_clipboardViewAdapter = std::make_unique<ClipboardViewAdapter>(
@@ -87,12 +84,11 @@ void Views::feed(Quillmonger& root, const Pasteboard& pasteboard) {
 
 void Views::close() {
   m_appPicker.close();
-  m_settingsWindow.unload();
+  m_settings.close();
   m_aboutWindow.unload();
   m_previewPanel.unload();
   m_appWindow.unload();
   m_gettingStartedWindow.unload();
-  m_ignoredAppsModel.reset();
   m_gettingStartedModel.reset();
   m_previewFeed.reset();
   m_clipboardViewAdapter.reset();
@@ -107,6 +103,7 @@ QQmlEngine& Views::engine() {
     historyview::registerTypes();
     previewview::registerTypes();
     guideview::registerTypes();
+    settings::registerTypes();
     settingsview::registerTypes();
     m_engine->addImageProvider(QStringLiteral("appicon"), new ImageCache(m_iconNaming));
   }
@@ -124,14 +121,6 @@ Views::Content Views::appContent() {
 Views::Content Views::gettingStartedContent() {
   return {QUrl(QStringLiteral("qrc:/qt-project.org/imports/Quillmonger/Guide/GettingStartedView.qml")),
           {{"model", QVariant::fromValue(m_gettingStartedModel.get())},
-           {"appearance", QVariant::fromValue(&m_appearance)}}};
-}
-
-Views::Content Views::settingsContent() {
-  m_ignoredAppsModel = std::make_unique<IgnoredAppsModel>(m_ignoreAppsViewModel());
-  return {QUrl(QStringLiteral("qrc:/qt-project.org/imports/Quillmonger/Settings/IgnorePane.qml")),
-          {{"settings", QVariant::fromValue(&m_ignoreSettings)},
-           {"apps", QVariant::fromValue(m_ignoredAppsModel.get())},
            {"appearance", QVariant::fromValue(&m_appearance)}}};
 }
 

@@ -27,6 +27,7 @@ TEST(XdgFolders, LieInTheHomeFolderWhenNothingIsSet) {
 
   EXPECT_EQ(folders.config, "/home/user/.config/quillmonger");
   EXPECT_EQ(folders.data, "/home/user/.local/share/quillmonger");
+  EXPECT_EQ(folders.cache, "/home/user/.cache/quillmonger");
   EXPECT_EQ(folders.runtime, "/tmp/quillmonger-" + std::to_string(getuid()));
   ASSERT_GE(folders.dataSearch.size(), 3U);
   EXPECT_EQ(folders.dataSearch[0], "/home/user/.local/share");
@@ -39,10 +40,12 @@ TEST(XdgFolders, FollowTheEnvironment) {
                                   {"XDG_CONFIG_HOME", "/c"},
                                   {"XDG_DATA_HOME", "/d"},
                                   {"XDG_RUNTIME_DIR", "/r"},
+                                  {"XDG_CACHE_HOME", "/k"},
                                   {"XDG_DATA_DIRS", "/one:/two"}});
 
   EXPECT_EQ(folders.config, "/c/quillmonger");
   EXPECT_EQ(folders.data, "/d/quillmonger");
+  EXPECT_EQ(folders.cache, "/k/quillmonger");
   EXPECT_EQ(folders.runtime, "/r/quillmonger");
   EXPECT_EQ(folders.dataSearch[0], "/d");
   EXPECT_EQ(folders.dataSearch[1], "/one");

@@ -38,6 +38,18 @@ TEST_F(SettingsTextTest, WritesTheKindOfTheKey) {
   EXPECT_EQ(settings[keys::ignoredApps], std::vector<std::string>{"file:///a.desktop"});
 }
 
+TEST_F(SettingsTextTest, TakesThePlainWordOfAColourScheme) {
+  EXPECT_EQ(text.read("selectedColorScheme").value(), "system");
+
+  ASSERT_TRUE(text.write("selectedColorScheme", "dark"));
+  EXPECT_EQ(settings[keys::selectedColorScheme], ColorScheme::dark);
+  EXPECT_EQ(text.read("selectedColorScheme").value(), "dark");
+  ASSERT_TRUE(text.write("selectedColorScheme", "light"));
+  EXPECT_EQ(settings[keys::selectedColorScheme], ColorScheme::light);
+  ASSERT_TRUE(text.write("selectedColorScheme", "system"));
+  EXPECT_EQ(settings[keys::selectedColorScheme], std::nullopt);
+}
+
 TEST_F(SettingsTextTest, RemovesAStoredValue) {
   ASSERT_TRUE(text.write("persistHistory", "true"));
 
@@ -73,7 +85,8 @@ INSTANTIATE_TEST_SUITE_P(Texts, WrongText,
                                          std::pair("soundVolume", "loud"), std::pair("soundVolume", "nan"),
                                          std::pair("soundVolume", "1e99"), std::pair("searchDebounceInterval", "inf"),
                                          std::pair("truncationMode", "centre"), std::pair("selectedColorScheme", "3"),
-                                         std::pair("ignoredApps", "a"), std::pair("ignoredApps", "[1]"),
-                                         std::pair("ignoredApps", "[[\"a\"]]"), std::pair("ignoredApps", "[")));
+                                         std::pair("selectedColorScheme", "Dark"), std::pair("ignoredApps", "a"),
+                                         std::pair("ignoredApps", "[1]"), std::pair("ignoredApps", "[[\"a\"]]"),
+                                         std::pair("ignoredApps", "[")));
 
 }  // namespace

@@ -18,10 +18,13 @@ namespace keys = quillmonger::keys;
 
 class AppearanceTest : public testing::Test {
  protected:
-  AppearanceTest() { m_appearance.follow(m_desktop); }
+  AppearanceTest() {
+    m_appearance.follow(m_desktop, [this] { return m_desktop.reducesMotion().value() || m_isStill; });
+  }
 
   testsupport::TestDefaults m_defaults;
   testsupport::FakeDesktopPreferences m_desktop;
+  bool m_isStill = false;
   Appearance m_appearance{m_defaults.defaults};
 };
 
@@ -65,6 +68,16 @@ TEST_F(AppearanceTest, KeepsStillWhereTheDesktopReducesMotion) {
 
   EXPECT_TRUE(m_appearance.reducesMotion());
   EXPECT_EQ(changes.count(), 1);
+}
+
+TEST_F(AppearanceTest, LooksWhetherMotionIsWantedWhenTheProgramComesToTheFront) {
+  m_isStill = true;
+  EXPECT_FALSE(m_appearance.reducesMotion());
+
+  QEvent event(QEvent::ApplicationStateChange);
+  QCoreApplication::sendEvent(qGuiApp, &event);
+
+  EXPECT_TRUE(m_appearance.reducesMotion());
 }
 
 }  // namespace

@@ -28,14 +28,14 @@ class IgnorePane : public testing::Test {
       m_stage.ignore(name);
   }
   void activate() {
-    m_stage.pane().requestActivate();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&m_stage.pane()));
+    m_stage.pane("ignore").requestActivate();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&m_stage.pane("ignore")));
   }
-  QQuickItem* item(const char* identifier) { return testsupport::find(m_stage.pane(), identifier); }
-  QQuickItem* row(std::size_t index) { return testsupport::findAll(m_stage.pane(), "IgnoredApp").at(index); }
+  QQuickItem* item(const char* identifier) { return testsupport::find(m_stage.pane("ignore"), identifier); }
+  QQuickItem* row(std::size_t index) { return testsupport::findAll(m_stage.pane("ignore"), "IgnoredApp").at(index); }
   Names rows() {
     Names names;
-    for (const auto* name : testsupport::findAll(m_stage.pane(), "IgnoredAppName"))
+    for (const auto* name : testsupport::findAll(m_stage.pane("ignore"), "IgnoredAppName"))
       names.push_back(name->property("text").toString().toStdString());
     return names;
   }
@@ -44,11 +44,11 @@ class IgnorePane : public testing::Test {
     return app ? app->name : "none";
   }
   void click(QQuickItem* on, Qt::MouseButton button = Qt::LeftButton) {
-    QTest::mouseClick(&m_stage.pane(), button, {}, on->mapToScene(on->boundingRect().center()).toPoint());
+    QTest::mouseClick(&m_stage.pane("ignore"), button, {}, on->mapToScene(on->boundingRect().center()).toPoint());
   }
-  void press(Qt::Key key) { QTest::keyClick(&m_stage.pane(), key); }
+  void press(Qt::Key key) { QTest::keyClick(&m_stage.pane("ignore"), key); }
   std::string focused() {
-    const QQuickItem* item = m_stage.pane().activeFocusItem();
+    const QQuickItem* item = m_stage.pane("ignore").activeFocusItem();
     return item == nullptr ? "none" : item->objectName().toStdString();
   }
 
@@ -56,8 +56,8 @@ class IgnorePane : public testing::Test {
 };
 
 TEST_F(IgnorePane, IsAsWideAsItsContentAndAsHighAsItNeeds) {
-  EXPECT_EQ(m_stage.pane().width(), 480);
-  EXPECT_GT(m_stage.pane().height(), 350);
+  EXPECT_EQ(m_stage.pane("ignore").width(), 480 + 2 * 30);
+  EXPECT_GT(m_stage.pane("ignore").height(), 350);
   EXPECT_EQ(item("IgnoredAppsList")->height(), 200);
 }
 
@@ -74,7 +74,7 @@ TEST_F(IgnorePane, WritesASwitchAtOnce) {
 }
 
 TEST_F(IgnorePane, TakesAClickOnASwitchsTitleForOneOnTheSwitch) {
-  QTest::mouseClick(&m_stage.pane(), Qt::LeftButton, {}, QPoint(60, 34));
+  click(item("SwitchTitle"));
 
   EXPECT_FALSE(m_stage.defaults()[keys::ignoreSensitiveData]);
 }
@@ -111,7 +111,7 @@ TEST_F(IgnorePane, RemovesTheRowThatWasClickedWithTheMinusButton) {
 
 TEST_F(IgnorePane, AddsWhatThePickerGivesAndShowsItsRow) {
   ignore({"Mail", "Editor", "Music", "Web", "Terminal", "Files"});
-  m_stage.pane();
+  m_stage.pane("ignore");
 
   click(item("AddAppButton"));
   m_stage.picker().decide(m_stage.locationOf("Paint"));
@@ -187,21 +187,25 @@ TEST_F(IgnorePane, GivesTheKeyboardToOneControlAfterTheOther) {
   activate();
 
   Names order;
-  for (int count = 0; count < 5; ++count) {
+  for (int count = 0; count < 6; ++count) {
     press(Qt::Key_Tab);
     order.push_back(focused());
   }
 
-  EXPECT_EQ(order, (Names{"IgnoreSensitiveToggle", "IgnoreImagesToggle", "IgnoredAppsList", "AddAppButton",
-                          "RemoveAppButton"}));
+  EXPECT_EQ(order, (Names{"SettingsToolbar", "IgnoreSensitiveToggle", "IgnoreImagesToggle", "IgnoredAppsList",
+                          "AddAppButton", "RemoveAppButton"}));
 }
 
 TEST_F(IgnorePane, PutsTheSwitchesOnTheOtherSideInALanguageFromRightToLeft) {
+  const double left = item("IgnoreImagesToggle")->mapToScene(QPointF()).x();
   QGuiApplication::setLayoutDirection(Qt::RightToLeft);
-  const double place = item("IgnoreImagesToggle")->mapToScene(QPointF()).x();
+  testsupport::SettingsStage mirrored;
+  const auto* control = testsupport::find(mirrored.pane("ignore"), "IgnoreImagesToggle");
+  const double right = control->mapToScene(QPointF(control->width(), 0)).x();
+  const double width = mirrored.pane("ignore").width();
   QGuiApplication::setLayoutDirection(Qt::LeftToRight);
 
-  EXPECT_EQ(place, 24);
+  EXPECT_EQ(width - right, left);
 }
 
 struct Spoken {

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "Quillmonger/update/Update.h"
+
+/// How the program that asks the feed hands its answer to the one that shows it: a line for each field, the notes last.
+namespace quillmonger::updateanswer {
+
+/// Bytes of an answer.
+inline constexpr std::size_t sizeLimit = std::size_t{64} << 10U;
+
+[[nodiscard]] std::string encode(const std::optional<Update>& update);
+/// Absent when it is no answer; an answer without an update is one.
+[[nodiscard]] std::optional<std::optional<Update>> decode(std::string_view text);
+
+/// The exit code of a program that failed so. A call that isn't understood has another one.
+[[nodiscard]] int exitCode(UpdateFailure failure);
+/// The reverse; `unreachable` for a code that says nothing.
+[[nodiscard]] UpdateFailure failureOf(int exitCode);
+
+}  // namespace quillmonger::updateanswer
