@@ -17,7 +17,8 @@ ShortcutReset::ShortcutReset(foundation::AlertSheet& alert, foundation::TextLook
 
 void ShortcutReset::ask() {
   using Role = foundation::AlertSheet::Button::Role;
-  m_alert.begin({m_texts("restore_defaults_alert_title"), m_texts("restore_defaults_alert_msg"),
+  m_alert.begin({m_texts("restore_defaults_alert_title"),
+                 m_texts("restore_defaults_alert_msg"),
                  {{m_texts("restore_string"), Role::standard}, {m_texts("cancel_string"), Role::cancel}}},
                 [this, isAlive = std::weak_ptr(m_isAlive)](std::size_t button) {
                   if (!isAlive.expired() && button == restoreButton) m_shortcuts.reset(m_names);

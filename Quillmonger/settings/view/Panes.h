@@ -28,6 +28,7 @@ struct PaneSurroundings {
                                         std::function<IgnoredAppsModel&()> apps);
 [[nodiscard]] settings::Pane searchPane(const PaneSurroundings& surroundings, SearchSettingsModel& search);
 [[nodiscard]] settings::Pane appearancePane(const PaneSurroundings& surroundings, AppearanceSettings& appearance);
-[[nodiscard]] settings::Pane keyBindingsPane(const PaneSurroundings& surroundings, KeyBindingsSettings& keyBindings);
+[[nodiscard]] settings::Pane keyBindingsPane(const PaneSurroundings& surroundings,
+                                             std::function<KeyBindingsSettings&()> keyBindings);
 
 }  // namespace quillmonger
