@@ -23,7 +23,8 @@ std::optional<Shortcut> Shortcut::of(sauce::Key key, std::uint32_t eventFlags) {
 
 std::optional<Shortcut> Shortcut::of(const Event& event) {
   if (event.type != Event::Type::keyDown && event.type != Event::Type::keyUp) return std::nullopt;
-  return Shortcut{event.keyCode, sauce::ModifierTransformer::serviceBits(event.modifierFlags)};
+  if (!event.keyCode) return std::nullopt;
+  return Shortcut{*event.keyCode, sauce::ModifierTransformer::serviceBits(event.modifierFlags)};
 }
 
 std::string Shortcut::toJson() const {

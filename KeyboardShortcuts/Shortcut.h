@@ -21,7 +21,7 @@ struct Shortcut {
 
   /// The key at its place on the ANSI keyboard, with modifiers as event flags. Absent for a key without such a place.
   [[nodiscard]] static std::optional<Shortcut> of(sauce::Key key, std::uint32_t eventFlags);
-  /// What a press or release stands for; absent for any other event.
+  /// What a press or release stands for; absent for any other event, and for a key of no known position.
   [[nodiscard]] static std::optional<Shortcut> of(const Event& event);
 
   /// The stored form: a JSON object with the two members.

@@ -138,6 +138,12 @@ void X11WindowSystem::bringToFront(WindowId window) {
   xcb_flush(m_connection);
 }
 
+void X11WindowSystem::beep() {
+  constexpr std::int8_t usualVolume = 0;
+  xcb_bell(m_connection, usualVolume);
+  xcb_flush(m_connection);
+}
+
 xcb_timestamp_t X11WindowSystem::serverTime() const {
   xcb_change_property(m_connection, XCB_PROP_MODE_APPEND, m_clock, m_state, XCB_ATOM_ATOM, 32, 0, nullptr);
   xcb_flush(m_connection);

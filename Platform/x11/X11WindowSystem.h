@@ -24,6 +24,8 @@ class X11WindowSystem final : public quillmonger::WindowSystem, public quillmong
   /// Heard by the compositors that know nothing of a window's shape; the others need no word.
   void withholdShadow(WindowId window) override;
   void bringToFront(WindowId window) override;
+  /// Sounds the bell, as the user has set it.
+  void beep();
   /// As the desktop's settings service tells every program of the display.
   [[nodiscard]] bool reducesMotion() const override;
 

@@ -47,6 +47,8 @@ Rectangle {
 
     TapHandler {
         id: press
+        // Not for what lies below the button, too.
+        gesturePolicy: TapHandler.WithinBounds
         onTapped: button.triggered()
     }
 }

@@ -94,6 +94,8 @@ class Quillmonger final {
   /// Made when it is first asked for: it reads the applications that it lists.
   [[nodiscard]] IgnoreAppsViewModel& ignoreAppsViewModel();
   [[nodiscard]] PermissionsManaging& permissionsManager() { return m_platform.permissionsManager; }
+  /// The program's own menu, with its chords.
+  [[nodiscard]] std::vector<keyboardshortcuts::MenuItem> mainMenu() { return m_statusBarManager.mainMenu(); }
   [[nodiscard]] WindowManager& windowManager() { return m_windowManager; }
 
   /// The program has been launched: shows the Getting Started guide while the setting `firstLaunch` is on; otherwise

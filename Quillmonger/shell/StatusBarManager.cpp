@@ -1,6 +1,7 @@
 #include "Quillmonger/shell/StatusBarManager.h"
 
 #include "Foundation/Fatal.h"
+#include "Quillmonger/input/KeyEvent.h"
 #include "Quillmonger/settings/SettingsKeys.h"
 #include "Quillmonger/shell/FallAndBounce.h"
 
@@ -54,6 +55,18 @@ StatusMenu StatusBarManager::makeMenu() {
       separator,
       {.title = text("status_bar_quit_button"), .action = [this] { quitApp(); }, .keyEquivalent = "q"},
   };
+}
+
+std::vector<keyboardshortcuts::MenuItem> StatusBarManager::mainMenu() {
+  std::vector<keyboardshortcuts::MenuItem> items;
+  for (const StatusMenuItem& entry : makeMenu()) {
+    auto& item = items.emplace_back();
+    item.title = entry.title;
+    item.keyEquivalent = entry.keyEquivalent;
+    // The Control key is what menus here call Command.
+    if (!entry.keyEquivalent.empty()) item.keyEquivalentModifierMask = controlFlag;
+  }
+  return items;
 }
 
 void StatusBarManager::toggleIncognito() {

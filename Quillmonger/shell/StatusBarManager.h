@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "Defaults/Defaults.h"
 #include "Foundation/NotificationCenter.h"
@@ -9,6 +10,7 @@
 #include "Foundation/RunLoop.h"
 #include "Foundation/Subscription.h"
 #include "Foundation/TextLookup.h"
+#include "KeyboardShortcuts/MenuItem.h"
 #include "Quillmonger/shell/StatusItem.h"
 #include "Quillmonger/shell/windows/Application.h"
 #include "Quillmonger/shell/windows/MotionPreference.h"
@@ -44,6 +46,9 @@ class StatusBarManager final {
 
   /// Builds the menu and the item, once.
   void setup();
+
+  /// The menu's entries with their chords as the user presses them; also before `setup`.
+  [[nodiscard]] std::vector<keyboardshortcuts::MenuItem> mainMenu();
 
   // The menu's actions, from `setup` on.
   void toggleIncognito();

@@ -7,4 +7,9 @@ namespace quillmonger {
 GettingStartedModel::GettingStartedModel(QString chord, std::function<void()> finish)
     : m_chord(std::move(chord)), m_finish(std::move(finish)) {}
 
+void GettingStartedModel::setChord(const QString& chord) {
+  m_chord = chord;
+  emit chordChanged();
+}
+
 }  // namespace quillmonger

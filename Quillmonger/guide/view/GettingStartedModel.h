@@ -12,15 +12,19 @@ class GettingStartedModel final : public QObject {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("made by the program")
-  Q_PROPERTY(QString chord READ chord CONSTANT)
+  Q_PROPERTY(QString chord READ chord NOTIFY chordChanged)
 
  public:
   /// `chord`: the keys that show the history, in the platform's words.
   GettingStartedModel(QString chord, std::function<void()> finish);
 
   [[nodiscard]] QString chord() const { return m_chord; }
+  void setChord(const QString& chord);
 
   Q_INVOKABLE void finish() { m_finish(); }
+
+ signals:
+  void chordChanged();
 
  private:
   QString m_chord;

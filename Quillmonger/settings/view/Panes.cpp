@@ -69,4 +69,13 @@ settings::Pane appearancePane(const PaneSurroundings& surroundings, AppearanceSe
               properties("settings", appearance));
 }
 
+settings::Pane keyBindingsPane(const PaneSurroundings& surroundings,
+                               std::function<KeyBindingsSettings&()> keyBindings) {
+  return pane(surroundings,
+              {"keyBindings", "settings_key_bindings_title", "keyboard", "symbol_keyboard", "KeyBindingsPane"},
+              [keyBindings = std::move(keyBindings)] {
+                return QVariantMap{{QStringLiteral("settings"), QVariant::fromValue(&keyBindings())}};
+              });
+}
+
 }  // namespace quillmonger

@@ -7,6 +7,7 @@
 #include "Quillmonger/settings/view/GeneralSettings.h"
 #include "Quillmonger/settings/view/IgnoreSettings.h"
 #include "Quillmonger/settings/view/IgnoredAppsModel.h"
+#include "Quillmonger/settings/view/KeyBindingsSettings.h"
 #include "Quillmonger/settings/view/SearchSettingsModel.h"
 #include "Settings/Pane.h"
 #include "Settings/view/QmlPaneView.h"
@@ -27,5 +28,7 @@ struct PaneSurroundings {
                                         std::function<IgnoredAppsModel&()> apps);
 [[nodiscard]] settings::Pane searchPane(const PaneSurroundings& surroundings, SearchSettingsModel& search);
 [[nodiscard]] settings::Pane appearancePane(const PaneSurroundings& surroundings, AppearanceSettings& appearance);
+[[nodiscard]] settings::Pane keyBindingsPane(const PaneSurroundings& surroundings,
+                                             std::function<KeyBindingsSettings&()> keyBindings);
 
 }  // namespace quillmonger

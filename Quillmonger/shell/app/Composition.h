@@ -26,6 +26,7 @@
 #include "Platform/qt/QtBackgroundQueue.h"
 #include "Platform/qt/QtLocalEventMonitor.h"
 #include "Platform/qt/QtPictureReading.h"
+#include "Platform/qt/QtRecordedEvents.h"
 #include "Platform/qt/QtRunLoop.h"
 #include "Platform/x11/X11HotKeys.h"
 #include "Platform/x11/X11InputSources.h"
@@ -89,6 +90,7 @@ class Composition final {
   platform::DesktopBundleProvider m_bundleProvider;
   platform::DesktopInstalledApplications m_installedApplications;
   platform::QtLocalEventMonitor m_eventMonitor;
+  platform::QtRecordedEvents m_recordedEvents;
   platform::QtApplication m_application;
   // After all that its work asks, which may still go on when the root has gone.
   platform::QtBackgroundQueue m_backgroundQueue;

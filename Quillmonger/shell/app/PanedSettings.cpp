@@ -31,6 +31,8 @@ PanedSettings::PanedSettings(const Surroundings& with)
       m_search(with.defaults),
       m_appearanceSettings(with.defaults),
       m_defaults(with.defaults),
+      m_runLoop(with.runLoop),
+      m_notificationCenter(with.notificationCenter),
       m_appearance(with.appearance),
       m_window({Kind::dialog, QSize(), {}, [this] { return content(); }, with.engine}, with.windowSystem),
       m_settingsWindow({[this]() -> QQuickView& { return loadedView(); }, [this] { m_window.center(); },
@@ -51,12 +53,17 @@ std::vector<settings::Pane> PanedSettings::panes(Appearance& appearance) {
   }));
   panes.push_back(searchPane(surroundings, m_search));
   panes.push_back(appearancePane(surroundings, m_appearanceSettings));
+  panes.push_back(keyBindingsPane(surroundings, [this]() -> KeyBindingsSettings& { return *m_keyBindings; }));
   return panes;
 }
 
 void PanedSettings::feed(Quillmonger& root, const Services& services) {
   m_general = std::make_unique<GeneralSettings>(
       GeneralSettings::Collaborators{m_defaults, services.launchAtLogin, services.updater, m_historyClearing});
+  m_keyBindings = std::make_unique<KeyBindingsSettings>(
+      m_defaults, keyboardshortcuts::RecorderCocoa::Surroundings{
+                      services.shortcuts, services.inputSources, services.recordedEvents, m_alert, m_notificationCenter,
+                      m_runLoop, localizedText, [&root] { return root.mainMenu(); }, services.beep});
   m_ignoreAppsViewModel = [&root]() -> IgnoreAppsViewModel& { return root.ignoreAppsViewModel(); };
   m_historyClearing.setHistory([&root] { root.clipboardViewModel().deleteAllItems(); }, &root);
 }
@@ -66,6 +73,7 @@ void PanedSettings::close() {
   if (view() != nullptr) m_settingsWindow.endAnimation();
   m_window.unload();
   m_ignoredApps.reset();
+  m_keyBindings.reset();
   m_general.reset();
 }
 

@@ -30,6 +30,10 @@ class PanedSettings final : public SettingsWindowController {
   struct Services {
     launchatlogin::LaunchAtLogin& launchAtLogin;
     const Updater& updater;
+    keyboardshortcuts::KeyboardShortcuts& shortcuts;
+    const sauce::InputSourceService& inputSources;
+    keyboardshortcuts::RecordedEvents& recordedEvents;
+    std::function<void()> beep;
   };
 
   /// All that is named here outlives the settings.
@@ -58,7 +62,10 @@ class PanedSettings final : public SettingsWindowController {
   std::function<IgnoreAppsViewModel&()> m_ignoreAppsViewModel;
   std::unique_ptr<GeneralSettings> m_general;
   std::unique_ptr<IgnoredAppsModel> m_ignoredApps;
+  std::unique_ptr<KeyBindingsSettings> m_keyBindings;
   defaults::Defaults& m_defaults;
+  foundation::RunLoop& m_runLoop;
+  foundation::NotificationCenter& m_notificationCenter;
   Appearance& m_appearance;
   platform::QtQuickWindow m_window;
   settings::QtSettingsWindow m_settingsWindow;

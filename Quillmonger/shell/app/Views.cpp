@@ -4,9 +4,11 @@
 #include <QQuickView>
 #include <utility>
 
+#include "KeyboardShortcuts/view/QmlModule.h"
 #include "Quillmonger/capture/PasteboardTypes.h"
 #include "Quillmonger/guide/view/QmlModule.h"
 #include "Quillmonger/history/view/QmlModule.h"
+#include "Quillmonger/input/ShortcutNames.h"
 #include "Quillmonger/preview/view/QmlModule.h"
 #include "Quillmonger/resources/QmlModule.h"
 #include "Quillmonger/resources/Texts.h"
@@ -84,8 +86,12 @@ void Views::feed(Quillmonger& root, const Pasteboard& pasteboard, const PanedSet
                                     [&history](const auto& item) { history.select(item); }, m_pictureColors});
   m_previewFeed = std::make_unique<PreviewFeed>(
       root, PreviewFeed::Services{m_notificationCenter, m_defaults, m_backgroundQueue, m_runLoop, m_alert});
-  m_gettingStartedModel =
-      std::make_unique<GettingStartedModel>(QStringLiteral("Shift+Super+V"), [&root] { root.finishGettingStarted(); });
+  m_activateChord = std::make_unique<keyboardshortcuts::ShortcutText>(shortcutname::activate(), services.shortcuts,
+                                                                      services.inputSources, m_notificationCenter);
+  m_gettingStartedModel = std::make_unique<GettingStartedModel>(
+      QString::fromStdString(m_activateChord->value().value()), [&root] { root.finishGettingStarted(); });
+  m_activateChordSubscription = m_activateChord->value().subscribe(
+      [this](const auto& chord) { m_gettingStartedModel->setChord(QString::fromStdString(chord)); });
 }
 
 void Views::close() {
@@ -96,6 +102,8 @@ void Views::close() {
   m_previewPanel.unload();
   m_appWindow.unload();
   m_gettingStartedWindow.unload();
+  m_activateChordSubscription.cancel();
+  m_activateChord.reset();
   m_gettingStartedModel.reset();
   m_previewFeed.reset();
   m_clipboardViewAdapter.reset();
@@ -111,6 +119,7 @@ QQmlEngine& Views::engine() {
     previewview::registerTypes();
     guideview::registerTypes();
     settings::registerTypes();
+    keyboardshortcuts::view::registerTypes();
     settingsview::registerTypes();
     updateview::registerTypes();
     m_engine->addImageProvider(QStringLiteral("appicon"), new ImageCache(m_iconNaming));

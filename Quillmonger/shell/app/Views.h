@@ -6,6 +6,7 @@
 #include <string>
 
 #include "Defaults/Defaults.h"
+#include "KeyboardShortcuts/ShortcutText.h"
 #include "Platform/qt/QtQuickWindow.h"
 #include "Quillmonger/guide/view/GettingStartedModel.h"
 #include "Quillmonger/history/view/ClipboardViewAdapter.h"
@@ -79,6 +80,8 @@ class Views final {
   std::unique_ptr<ClipboardViewAdapter> m_clipboardViewAdapter;
   std::unique_ptr<PreviewFeed> m_previewFeed;
   std::unique_ptr<GettingStartedModel> m_gettingStartedModel;
+  std::unique_ptr<keyboardshortcuts::ShortcutText> m_activateChord;
+  foundation::Subscription m_activateChordSubscription;
   // Destroyed after the windows, whose views are its objects, and before what the views show.
   std::unique_ptr<QQmlEngine> m_engine;
   QtAlert m_alert;

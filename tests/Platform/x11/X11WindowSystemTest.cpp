@@ -37,6 +37,15 @@ class X11WindowSystem : public testing::Test {
 
 TEST_F(X11WindowSystem, BlendsNothingWithoutACompositor) { EXPECT_FALSE(m_system->blendsTransparency()); }
 
+TEST_F(X11WindowSystem, SoundsTheBell) {
+  m_first.listenToTheBell();
+  EXPECT_FALSE(m_first.heardTheBell());
+
+  m_system->beep();
+
+  EXPECT_TRUE(m_runLoop.runUntil([this] { return m_first.heardTheBell(); }));
+}
+
 TEST_F(X11WindowSystem, GivesAWindowTheKeyboardWithoutAWindowManager) {
   m_first.showWindow();
 

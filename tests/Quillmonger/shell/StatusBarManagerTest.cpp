@@ -102,6 +102,19 @@ TEST_F(StatusBarManager, HasItsEntriesInTheirOrder) {
                                         {Kind::entry, "status_bar_quit_button", "q"}}));
 }
 
+TEST_F(StatusBarManager, TellsItsChordsAsTheUserPressesThemAlsoBeforeItIsSetUp) {
+  makeManager();
+
+  std::vector<std::tuple<std::string, std::string, std::uint32_t>> chords;
+  for (const auto& item : m_manager->mainMenu())
+    if (!item.keyEquivalent.empty())
+      chords.emplace_back(item.title, item.keyEquivalent, item.keyEquivalentModifierMask);
+
+  constexpr std::uint32_t controlKey = 0x40000;
+  EXPECT_EQ(chords, (decltype(chords){{"status_bar_settings_button", ",", controlKey},
+                                      {"status_bar_quit_button", "q", controlKey}}));
+}
+
 TEST_F(StatusBarManager, DoesWhatItsEntriesSay) {
   setUp();
 

@@ -40,6 +40,13 @@ TEST_F(GettingStartedView, NamesTheChord) {
             "Press Shift+Super+V anywhere");
 }
 
+TEST_F(GettingStartedView, NamesTheChordThatIsChosenMeanwhile) {
+  m_model.setChord("Ctrl+Alt+J");
+
+  EXPECT_EQ(m_view.rootObject()->findChild<QQuickItem*>("GettingStartedChord")->property("title").toString(),
+            "Press Ctrl+Alt+J anywhere");
+}
+
 TEST_F(GettingStartedView, EndsWithReturnOrAClick) {
   ASSERT_TRUE(QTest::qWaitFor([this] { return m_view.isActive(); }));
   QTest::keyClick(&m_view, Qt::Key_Return);

@@ -61,6 +61,21 @@ void KeyboardClient::lockGroup(std::uint8_t group) {
   settle();
 }
 
+void KeyboardClient::listenToTheBell() {
+  xcb_xkb_select_events(m_connection, XCB_XKB_ID_USE_CORE_KBD, XCB_XKB_EVENT_TYPE_BELL_NOTIFY, 0,
+                        XCB_XKB_EVENT_TYPE_BELL_NOTIFY, 0, 0, nullptr);
+  settle();
+}
+
+bool KeyboardClient::heardTheBell() {
+  const std::uint8_t firstEvent = xcb_get_extension_data(m_connection, &xcb_xkb_id)->first_event;
+  while (const ReplyPointer<xcb_generic_event_t> event{xcb_poll_for_event(m_connection)}) {
+    const auto& bell = reinterpret_cast<const xcb_xkb_bell_notify_event_t&>(*event);
+    if ((event->response_type & 0x7F) == firstEvent && bell.xkbType == XCB_XKB_BELL_NOTIFY) return true;
+  }
+  return false;
+}
+
 std::vector<xcb_keysym_t> KeyboardClient::symbols(std::uint32_t evdevKey) const {
   const auto key = static_cast<xcb_keycode_t>(evdevKey + keycodeOffset);
   const ReplyPointer<xcb_get_keyboard_mapping_reply_t> mapping(

@@ -60,6 +60,11 @@ class KeyboardClient final {
   [[nodiscard]] std::optional<std::uint32_t> windowNumber(const std::string& property) const;
   [[nodiscard]] std::uint32_t atom(const std::string& name) const;
 
+  /// Hears the bell from now on, as a desktop that has a sound for it.
+  void listenToTheBell();
+  /// Whether it has sounded since.
+  [[nodiscard]] bool heardTheBell();
+
   /// What the key types, in the order of the core mapping.
   [[nodiscard]] std::vector<xcb_keysym_t> symbols(std::uint32_t evdevKey) const;
 

@@ -1,0 +1,81 @@
+#include "KeyboardShortcuts/view/RecorderField.h"
+
+#include <QFocusEvent>
+#include <QQuickWindow>
+#include <utility>
+
+namespace keyboardshortcuts {
+
+RecorderField::RecorderField() = default;
+
+RecorderField::~RecorderField() = default;
+
+void RecorderField::componentComplete() {
+  QQuickItem::componentComplete();
+  m_recorder = m_recorders->make(m_name, *this);
+  const auto forward = [this](auto& published, auto signal) {
+    m_observations.push_back(published.follow([this, signal](const auto&) { (this->*signal)(); }));
+  };
+  forward(m_recorder->stringValue(), &RecorderField::textChanged);
+  forward(m_recorder->placeholderString(), &RecorderField::placeholderChanged);
+  forward(m_recorder->showsCancelButton(), &RecorderField::showsClearButtonChanged);
+  forward(m_recorder->isRecording(), &RecorderField::isRecordingChanged);
+  forward(m_recorder->canBecomeKey(), &RecorderField::canBecomeKeyChanged);
+  if (window() != nullptr) m_recorder->viewDidMoveToWindow();
+}
+
+void RecorderField::itemChange(ItemChange change, const ItemChangeData& data) {
+  if (m_recorder && change == ItemSceneChange && data.window != nullptr) m_recorder->viewDidMoveToWindow();
+  QQuickItem::itemChange(change, data);
+}
+
+QString RecorderField::text() const {
+  return m_recorder ? QString::fromStdString(m_recorder->stringValue().value()) : QString();
+}
+
+QString RecorderField::placeholder() const {
+  return m_recorder ? QString::fromStdString(m_recorder->placeholderString().value()) : QString();
+}
+
+bool RecorderField::showsClearButton() const { return m_recorder && m_recorder->showsCancelButton().value(); }
+
+bool RecorderField::isRecording() const { return m_recorder && m_recorder->isRecording().value(); }
+
+bool RecorderField::canBecomeKey() const { return m_recorder && m_recorder->canBecomeKey().value(); }
+
+void RecorderField::clear() { m_recorder->performClick(); }
+
+// A window that comes to the front gives the focus to whoever had it. That is no wish to record.
+void RecorderField::focusInEvent(QFocusEvent* event) {
+  QQuickItem::focusInEvent(event);
+  const bool isWished = std::exchange(m_awaitsFocus, false);
+  const auto reason = event->reason();
+  if (isWished || (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)) {
+    m_recorder->becomeFirstResponder();
+  }
+}
+
+void RecorderField::focusOutEvent(QFocusEvent* event) {
+  QQuickItem::focusOutEvent(event);
+  m_recorder->controlTextDidEndEditing();
+}
+
+RecorderView::Bounds RecorderField::bounds() const {
+  const QRectF place = mapRectToScene(boundingRect());
+  return {place.x(), place.y(), place.width(), place.height()};
+}
+
+void RecorderField::takeFocus() {
+  if (window() == nullptr || !window()->isVisible()) return;
+  if (hasActiveFocus()) {
+    m_recorder->becomeFirstResponder();
+    return;
+  }
+  m_awaitsFocus = true;
+  forceActiveFocus(Qt::OtherFocusReason);
+  window()->requestActivate();
+}
+
+void RecorderField::resignFocus() { m_recorder->controlTextDidEndEditing(); }
+
+}  // namespace keyboardshortcuts

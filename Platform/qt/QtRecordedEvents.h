@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QWindow>
+#include <optional>
+
+#include "KeyboardShortcuts/RecordedEvents.h"
+
+class QKeyEvent;
+class QMouseEvent;
+
+namespace platform {
+
+/// The events of the window with the keyboard, which has all keys to itself meanwhile, before every other filter. A key
+/// that was swallowed stays with it until it is up: what it repeats neither runs the chord that it has just become nor
+/// reaches the window.
+/// Made after the application object, and gone before it.
+class QtRecordedEvents final : public QObject, public keyboardshortcuts::RecordedEvents {
+ public:
+  ~QtRecordedEvents() override;
+
+  /// Without a window that has the keyboard nothing is told.
+  foundation::Subscription watch(Handler handler) override;
+
+ private:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  bool handleOwn(const QEvent& event);
+  bool handlePress(const QKeyEvent& event);
+  bool handleRelease(const QKeyEvent& event);
+  void handleMouse(const QMouseEvent& event);
+  void endWatch();
+  void letGo();
+
+  QPointer<QWindow> m_window;
+  Handler m_handler;
+  /// The swallowed key that is still down, by its scan code.
+  std::optional<quint32> m_heldKey;
+};
+
+}  // namespace platform
