@@ -28,7 +28,7 @@ struct VideoSize {
 
 /// Who shows it. Called from the main queue, never from within a call of the looper's.
 struct VideoReceiver {
-  /// The next picture: rows of four bytes a pixel, blue, green, red and one without meaning. Its bytes are valid during
+  /// The next picture: rows of four bytes a pixel, blue, green, red and 255. Its bytes are valid during
   /// the call alone.
   std::function<void(std::string_view pixels)> frame;
   /// No picture comes any more: it can't be played on this system.

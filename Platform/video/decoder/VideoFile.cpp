@@ -87,7 +87,7 @@ bool VideoFile::rewind() {
 bool VideoFile::scale() {
   m_scaler.reset(sws_getCachedContext(m_scaler.release(), m_frame->width, m_frame->height,
                                       static_cast<AVPixelFormat>(m_frame->format), m_size.width, m_size.height,
-                                      AV_PIX_FMT_BGR0, SWS_AREA | SWS_ACCURATE_RND, nullptr, nullptr, nullptr));
+                                      AV_PIX_FMT_BGRA, SWS_AREA | SWS_ACCURATE_RND, nullptr, nullptr, nullptr));
   if (!m_scaler) return false;
   const std::array<std::uint8_t*, 4> planes{m_pixels.data(), nullptr, nullptr, nullptr};
   const std::array<int, 4> strides{m_size.width * bytesOfAPixel, 0, 0, 0};

@@ -30,7 +30,7 @@ class VideoFile final {
   /// Goes to the next picture. False when the file has none that can be read.
   [[nodiscard]] bool advance();
 
-  /// The picture: rows of four bytes a pixel, blue, green, red and one without meaning.
+  /// The picture: rows of four bytes a pixel, blue, green, red and 255.
   [[nodiscard]] const std::vector<std::uint8_t>& pixels() const { return m_pixels; }
   /// How long each picture stands.
   [[nodiscard]] std::chrono::microseconds interval() const { return m_interval; }

@@ -51,8 +51,8 @@ Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCach
       m_appWindow({platform::QtQuickWindow::Kind::palette, appWindowSize, QStringLiteral("Quillmonger"),
                    [this] { return appContent(); }, [this]() -> QQmlEngine& { return engine(); }},
                   windowSystem),
-      m_gettingStartedWindow({platform::QtQuickWindow::Kind::dialog, gettingStartedWindowSize,
-                              QString::fromStdString(localizedText("getting_started_title")),
+      m_gettingStartedWindow({platform::QtQuickWindow::Kind::plain, gettingStartedWindowSize,
+                              QString::fromStdString(localizedText("welcome_message")),
                               [this] { return gettingStartedContent(); }, [this]() -> QQmlEngine& { return engine(); }},
                              windowSystem),
       m_settingsWindow({platform::QtQuickWindow::Kind::dialog, QSize(),
@@ -82,8 +82,10 @@ void Views::feed(Quillmonger& root, const Pasteboard& pasteboard) {
                                     [&history](const auto& item) { history.select(item); }, m_pictureColors});
   m_previewFeed = std::make_unique<PreviewFeed>(
       root, PreviewFeed::Services{m_notificationCenter, m_defaults, m_backgroundQueue, m_runLoop, m_alert});
-  m_gettingStartedModel =
-      std::make_unique<GettingStartedModel>(QStringLiteral("Shift+Super+V"), [&root] { root.finishGettingStarted(); });
+  m_guideFeed = std::make_unique<GuideFeed>(root, QStringLiteral("Shift+Super+V"), m_runLoop, [this] {
+    // Its last button is still at work.
+    m_runLoop.post([this] { m_gettingStartedWindow.unload(); });
+  });
 }
 
 void Views::close() {
@@ -94,7 +96,7 @@ void Views::close() {
   m_appWindow.unload();
   m_gettingStartedWindow.unload();
   m_ignoredAppsModel.reset();
-  m_gettingStartedModel.reset();
+  m_guideFeed.reset();
   m_previewFeed.reset();
   m_clipboardViewAdapter.reset();
   m_searchBarModel.reset();
@@ -125,8 +127,7 @@ Views::Content Views::appContent() {
 
 Views::Content Views::gettingStartedContent() {
   return {QUrl(QStringLiteral("qrc:/qt-project.org/imports/Quillmonger/Guide/GettingStartedView.qml")),
-          {{"model", QVariant::fromValue(m_gettingStartedModel.get())},
-           {"appearance", QVariant::fromValue(&m_appearance)}}};
+          {{"model", QVariant::fromValue(m_guideFeed->model())}, {"appearance", QVariant::fromValue(&m_appearance)}}};
 }
 
 Views::Content Views::settingsContent() {

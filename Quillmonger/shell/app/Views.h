@@ -7,7 +7,6 @@
 
 #include "Defaults/Defaults.h"
 #include "Platform/qt/QtQuickWindow.h"
-#include "Quillmonger/guide/view/GettingStartedModel.h"
 #include "Quillmonger/history/view/ClipboardViewAdapter.h"
 #include "Quillmonger/history/view/HistorySettings.h"
 #include "Quillmonger/history/view/ImageCache.h"
@@ -20,6 +19,7 @@
 #include "Quillmonger/settings/view/IgnoreSettings.h"
 #include "Quillmonger/settings/view/IgnoredAppsModel.h"
 #include "Quillmonger/shell/Quillmonger.h"
+#include "Quillmonger/shell/app/GuideFeed.h"
 #include "Quillmonger/shell/app/OnePaneSettings.h"
 #include "Quillmonger/shell/app/PreviewFeed.h"
 #include "Quillmonger/shell/view/QtAlert.h"
@@ -76,7 +76,7 @@ class Views final {
   std::unique_ptr<SearchBarModel> m_searchBarModel;
   std::unique_ptr<ClipboardViewAdapter> m_clipboardViewAdapter;
   std::unique_ptr<PreviewFeed> m_previewFeed;
-  std::unique_ptr<GettingStartedModel> m_gettingStartedModel;
+  std::unique_ptr<GuideFeed> m_guideFeed;
   std::unique_ptr<IgnoredAppsModel> m_ignoredAppsModel;
   // Destroyed after the windows, whose views are its objects, and before what the views show.
   std::unique_ptr<QQmlEngine> m_engine;
