@@ -18,7 +18,7 @@ Rectangle {
         Qt.Key_Delete, Qt.Key_1, Qt.Key_2, Qt.Key_3, Qt.Key_4, Qt.Key_5, Qt.Key_6, Qt.Key_7, Qt.Key_8, Qt.Key_9
     ]
 
-    implicitWidth: Math.max(leastWidth, content.implicitWidth + 20)
+    implicitWidth: Math.max(leastWidth, content.implicitWidth + 16)
     implicitHeight: 34
     radius: theme.fieldRadius
     antialiasing: true
@@ -38,12 +38,15 @@ Rectangle {
         anchors.centerIn: parent
         spacing: 6
 
-        Symbol {
+        Loader {
             anchors.verticalCenter: parent.verticalCenter
-            visible: name !== ""
-            name: button.symbol
-            color: label.color
-            size: 17
+            active: button.symbol !== ""
+            visible: active
+            sourceComponent: Symbol {
+                name: button.symbol
+                color: label.color
+                size: 17
+            }
         }
 
         Text {
