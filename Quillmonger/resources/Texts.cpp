@@ -29,8 +29,8 @@ constexpr auto entries = std::to_array<Entry>({
     {"accessibility_app_icon", "Copied from %1", "Read aloud for the source application's icon; %1 is its name."},
     {"accessibility_color", "Colour %1", "Read aloud for the sample of a colour that a text names; %1 is #RRGGBB."},
     {"accessibility_description_1",
-     "To paste, Quillmonger presses the paste keys in the window that you came from. Some desktops, those on Wayland "
-     "among them, ask you for permission first; others need none.",
+     "To paste, Quillmonger presses the paste keys for you. Some desktops, those on Wayland among them, ask for your "
+     "permission first; others need none.",
      "Guide, last screen: what the permission is for."},
     {"accessibility_description_2",
      "The check mark shows that all is ready. Without the permission a chosen copy still goes on the clipboard, and "

@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
+#include <QPainterPath>
 #include <chrono>
 #include <functional>
 #include <optional>
@@ -36,7 +37,14 @@ void save(QQuickView& view, const QString& path) {
   const QImage window = view.grabWindow();
   QImage picture(window.size(), QImage::Format_RGB32);
   picture.fill(QColor(0x7f, 0x8f, 0xa6));
-  QPainter(&picture).drawImage(picture.rect(), window);
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const double radius = 15 * view.devicePixelRatio();
+  QPainterPath corners;
+  corners.addRoundedRect(picture.rect(), radius, radius);
+  painter.setClipPath(corners);
+  painter.drawImage(picture.rect(), window);
+  painter.end();
   picture.save(path);
 }
 

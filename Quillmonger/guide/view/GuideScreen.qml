@@ -2,8 +2,8 @@ import QtQuick
 import Quillmonger.Guide
 import Quillmonger.Resources
 
-// What all screens have: the title at the top, the texts and the buttons at the bottom, and between them what the
-// screen shows.
+// What all screens have: the title at the top, below it what the screen shows, then the texts, and the buttons at the
+// bottom. What it shows gives way to long texts.
 FocusScope {
     id: screen
 
@@ -12,6 +12,7 @@ FocusScope {
     property string title: ""
     property var texts: []
     property int textWidth: width - 80
+    property int demonstrationHeight: 360
 
     property string backText: qsTrId("previous_literal")
     property string backSymbol: "arrow.left.circle"
@@ -48,14 +49,16 @@ FocusScope {
     Item {
         id: stage
         anchors {
-            left: parent.left; right: parent.right; top: heading.bottom; bottom: words.top
-            leftMargin: 32; rightMargin: 32; topMargin: 18; bottomMargin: 18
+            left: parent.left; right: parent.right; top: heading.bottom
+            leftMargin: 32; rightMargin: 32; topMargin: 18
         }
+        height: Math.min(screen.demonstrationHeight, extraRow.y - words.height - 36 - y)
     }
 
     Column {
         id: words
-        anchors { horizontalCenter: parent.horizontalCenter; bottom: extraRow.top; bottomMargin: 18 }
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: (stage.y + stage.height + extraRow.y - height) / 2
         width: screen.textWidth
         spacing: 8
 

@@ -27,7 +27,7 @@ Item {
     Rectangle {
         id: frame
         objectName: "GuideVideo"
-        anchors.centerIn: parent
+        anchors { top: parent.top; horizontalCenter: parent.horizontalCenter }
         width: Math.floor(player.pictureWidth)
         height: Math.floor(player.pictureWidth * player.shape.height / player.shape.width)
         radius: 10

@@ -62,7 +62,7 @@ void VideoPicture::paint(QPainter* painter) {
   const bool awaitsFrame = m_canPlay && m_isPlaying && !m_hasFrame;
   if (awaitsFrame) return;
   if (!m_hasFrame && m_still.isNull())
-    m_still.load(QStringLiteral(":/qt-project.org/imports/Quillmonger/Resources/%1.png").arg(m_video));
+    m_still.load(QStringLiteral(":/qt-project.org/imports/Quillmonger/Resources/%1.jpg").arg(m_video));
   const QImage& picture = m_hasFrame ? m_frame : m_still;
   if (picture.isNull()) return;
   QBrush brush(picture);

@@ -5,7 +5,7 @@
 
 The program is driven a step at a time. Each step is pictured when the screen has come to rest, and stands in the video
 as long as the scene says: a busy machine gives the same video as an idle one. What moves between two steps is blended.
-Needs ffmpeg besides what the end-to-end tests need.
+Needs ffmpeg and hsetroot besides what the end-to-end tests need.
 """
 
 import shutil
@@ -23,7 +23,7 @@ SCALE = 2
 # The guide shows them 486 points wide at most.
 SIZE = (972, 730)
 BLEND = 4  # frames
-CAPTION_FONT = "Noto-Sans-Bold"
+CAPTION_FONT = "DejaVu-Sans-Bold"
 
 
 def run(*words):
@@ -57,10 +57,19 @@ class Film:
         words = ["convert", screen, "-crop", f"{width}x{height}+{left}+{top}", "+repage", "-filter", "Lanczos",
                  "-resize", f"{SIZE[0]}x{SIZE[1]}!"]
         if caption:
-            words += ["(", "-background", "#20222aE6", "-fill", "white", "-font", CAPTION_FONT, "-pointsize", "34",
-                      f"label: {caption} ", "-bordercolor", "#20222aE6", "-border", "16x8", ")",
-                      "-gravity", "south", "-geometry", "+0+26", "-composite"]
+            words += [self._key(caption), "-gravity", "south", "-geometry", "+0+28", "-composite"]
         run(*words, picture)
+        return picture
+
+    def _key(self, caption):
+        """A picture of the keys that are pressed, in words."""
+        picture = self.folder / "key.png"
+        run("convert", "-background", "none", "-fill", "white", "-font", CAPTION_FONT, "-pointsize", "36",
+            f"label:{caption}", "-bordercolor", "none", "-border", "30x14", picture)
+        width, height = subprocess.run(["identify", "-format", "%w %h", picture], check=True, capture_output=True,
+                                       text=True).stdout.split()
+        run("convert", "-size", f"{width}x{height}", "xc:none", "-fill", "#23252dF0",
+            "-draw", f"roundrectangle 0,0 {int(width) - 1},{int(height) - 1} 18,18", picture, "-composite", picture)
         return picture
 
     def _at_rest(self):

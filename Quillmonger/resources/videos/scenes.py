@@ -1,5 +1,6 @@
 """What the guide's videos show. All of the content is invented."""
 
+import os
 import subprocess
 import time
 
@@ -9,13 +10,22 @@ WINDOW_MANAGER = """<?xml version="1.0" encoding="UTF-8"?>
 <channel name="xfwm4" version="1.0">
   <property name="general" type="empty">
     <property name="theme" type="string" value="Default-xhdpi"/>
-    <property name="title_font" type="string" value="Noto Sans Bold 18"/>
+    <property name="title_font" type="string" value="Noto Sans Bold 11"/>
     <property name="use_compositing" type="bool" value="true"/>
     <property name="workspace_count" type="int" value="1"/>
     <property name="vblank_mode" type="string" value="off"/>
   </property>
 </channel>
 """
+EDITOR = """[org/xfce/mousepad/preferences/window]
+path-in-title=false
+[org/xfce/mousepad/preferences/view]
+use-default-monospace-font=false
+font-name='Noto Sans 13'
+word-wrap=true
+"""
+# An editor warns of the root user, whom it would then show for all of the video.
+AS_USER = ["unshare", "--user", "--map-user=1000"] if os.geteuid() == 0 else []
 COPIES = [
     "Plum cake: 500 g flour, 250 g butter, 1 kg plums, a little cinnamon",
     "https://www.example.org/birds/spring-migration",
@@ -41,12 +51,13 @@ class Scene:
 
     def prepare(self):
         desktop = self.desktop
-        desktop.environment.update(GDK_SCALE="2", XCURSOR_SIZE="48")
+        desktop.environment.update(GDK_SCALE="2", XCURSOR_SIZE="48", GSETTINGS_BACKEND="keyfile")
         self._write(".config/xfce4/xfconf/xfce-perchannel-xml/xfwm4.xml", WINDOW_MANAGER)
         self._write(".config/gtk-3.0/settings.ini", "[Settings]\ngtk-cursor-blink=0\ngtk-font-name=Noto Sans 11\n")
+        self._write(".config/glib-2.0/settings/keyfile", EDITOR)
         desktop.spawn(["xfwm4", "--compositor=on"])
         wait_until(desktop._has_window_manager, "the window manager")
-        desktop.run(["xsetroot", "-solid", "#5f7fa8"])
+        desktop.run(["hsetroot", "-add", "#8fb0d6", "-add", "#4f6f9c", "-gradient", "180"])
         desktop.run(["xdotool", "mousemove", *(str(2 * side - 1) for side in self.size)])
         desktop.start_app()
         self.set_up()
@@ -71,7 +82,7 @@ class Scene:
     def open_letter(self, text=LETTER, place=(40, 50, 640, 440)):
         file = self.desktop.home / "Letter.txt"
         file.write_text(text)
-        self.desktop.spawn(["mousepad", file])
+        self.desktop.spawn([*AS_USER, "mousepad", file])
         self.letter = self.desktop.window("Letter.txt")
         self._place(self.letter, place)
         self.desktop.focus(self.letter)
@@ -111,22 +122,21 @@ class Launch(Scene):
 
 class Paste(Scene):
     def play(self, film):
-        self.desktop.type("Here is our address: ")
+        self.desktop.type("Where to find us: ")
         film.show(USUAL)
         self.open_history()
         film.show(USUAL, "Shift + Super + V")
-        for _ in range(2):
-            self.press("Down")
-            film.show(SHORT, "↓", cut=True)
-        self.press("Up", "Up")
-        film.show(USUAL, "↑  ↑", cut=True, is_still=True)
+        self.press("Down")
+        film.show(SHORT, "↓", cut=True)
+        self.press("Up")
+        film.show(USUAL, "↑", cut=True, is_still=True)
         self.paste("Return")
         film.show(LONG, "Return")
-        self.press("Return")
+        self.press("Return", "Return")
         self.open_history()
         film.show(USUAL, "Shift + Super + V")
-        self.paste("ctrl+2")
-        film.show(LONG, "Ctrl + 2")
+        self.paste("ctrl+3")
+        film.show(LONG, "Ctrl + 3")
 
 
 class Search(Scene):
@@ -150,7 +160,7 @@ class Preview(Scene):
     copies = [COPIES[1], COPIES[4], COPIES[0], COPIES[2], COPIES[3]]
 
     def set_up(self):
-        self.open_letter(place=(170, 140, 640, 440))
+        self.open_letter(place=(130, 120, 720, 560))
 
     def prepare(self):
         super().prepare()
@@ -238,23 +248,26 @@ class Accessibility(Scene):
 class Formatting(Scene):
     page = """<!doctype html><meta charset="utf-8"><title>Invitation</title>
         <style>
-          body { font: 17px "Noto Sans"; margin: 26px 34px; color: #22252e; background: #fff; outline: none }
-          #letter { outline: none; min-height: 300px; line-height: 1.6 }
-          h1 { color: #c2452d; font: italic bold 34px "Noto Serif", serif; margin: 0 0 6px }
+          body { font: 17px "Noto Sans"; line-height: 1.6; margin: 26px 34px; color: #22252e; background: #fff }
+          [contenteditable] { outline: none; min-height: 40px }
+          h1 { color: #c2452d; font: italic bold 34px "Noto Serif", serif; margin: 0 }
+          #letter { display: none }
         </style>
         <div id="source" contenteditable><h1>Summer party</h1><b style="color:#2b6cb0">Saturday at seven, in the
         garden</b></div>
-        <div id="letter" contenteditable></div>
+        <div id="letter">
+          Dear Anna, this is what the invitation says:<div id="first" contenteditable></div><br>
+          And for your diary:<div contenteditable></div>
+        </div>
         <script>
-          const part = document.getElementById("source"), letter = document.getElementById("letter")
-          part.focus()
-          getSelection().selectAllChildren(part)
+          // An invisible character more for each paste tells that it has arrived.
+          document.addEventListener("input", () => { document.title += "\u200b" })
+          source.focus()
+          getSelection().selectAllChildren(source)
           document.addEventListener("copy", () => setTimeout(() => {
-            part.remove()
-            letter.innerHTML = "<p>Dear Anna, this is what it says:</p><p>‌</p>"
-            letter.focus()
-            getSelection().selectAllChildren(letter.lastChild)
-            getSelection().collapseToEnd()
+            source.remove()
+            letter.style.display = "block"
+            first.focus()
             document.title = "Letter"
           }, 500))
         </script>"""
@@ -263,7 +276,7 @@ class Formatting(Scene):
     def set_up(self):
         file = self.desktop.home / "letter.html"
         file.write_text(self.page)
-        self.desktop.spawn(["chromium", "--no-sandbox", "--no-first-run", "--disable-gpu", "--password-store=basic",
+        self.desktop.spawn(["chromium", "--no-sandbox", "--no-first-run", "--disable-gpu", "--password-store=basic", "--test-type",
                             "--force-device-scale-factor=2", "--window-size=640,440",
                             f"--user-data-dir={self.desktop.home}/browser", f"--app=file://{file}"])
         self.window = self.desktop.window("^Invitation$", seconds=90)
@@ -280,21 +293,26 @@ class Formatting(Scene):
         self.desktop.window("^Letter$")
         time.sleep(1)
 
+    def wait_for_paste(self, number):
+        self.desktop.wait_hidden()
+        self.desktop.window("^Letter" + "\u200b" * number + "$")
+        time.sleep(0.5)
+
     def play(self, film):
         film.show(USUAL)
         self.open_history()
         film.show(USUAL, "Shift + Super + V")
-        self.paste("Return")
-        film.show(LONG, "Return", is_still=True)
-        self.press("Return", "Return")
+        self.press("Return")
+        self.wait_for_paste(1)
+        film.show(LONG, "Return")
+        self.press("Tab")
         self.open_history()
         film.show(USUAL, "Shift + Super + V")
         self.desktop.run(["xdotool", "keydown", "alt"])
         film.show(USUAL, "Alt", cut=True)
         self.desktop.run(["xdotool", "key", "Return", "keyup", "alt"])
-        self.desktop.wait_hidden()
-        time.sleep(0.5)
-        film.show(LONG, "Alt + Return")
+        self.wait_for_paste(2)
+        film.show(LONG, "Alt + Return", is_still=True)
 
 
 SCENES = {
