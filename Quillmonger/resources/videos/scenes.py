@@ -204,12 +204,10 @@ class Settings(Scene):
         settings = wait_until(self._settings, "the settings")
         self.desktop.focus(settings)
         film.show(LONG, "Ctrl + Comma", is_still=True)
-        self.press("Tab")
+        self.press("Tab", "Tab")
         film.show(SHORT)
         self.press("space")
-        film.show(USUAL, "Space")
-        self.press("space")
-        film.show(USUAL, "Space")
+        film.show(LONG, "Space")
 
     def _settings(self):
         window = self.desktop.focused()
@@ -221,8 +219,8 @@ class Accessibility(Scene):
 
     def set_up(self):
         self.open_letter("Dear Tom,\n\n", place=(30, 40, 400, 300))
-        self.desktop.spawn(["xterm", "-fa", "Noto Sans Mono", "-fs", "26", "-T", "Terminal", "-bg", "#22242a",
-                            "-fg", "#e8e8ee", "-e", "sh", "-c", "PS1='$ ' exec sh"])
+        self.desktop.spawn(["stterm", "-t", "Terminal", "-f", "DejaVu Sans Mono:pixelsize=28", "-g", "52x12",
+                            "-e", "sh", "-c", "PS1='$ ' exec sh"])
         self.terminal = self.desktop.window("^Terminal$")
         self._place(self.terminal, (250, 270, 440, 230))
         self.desktop.focus(self.letter)
