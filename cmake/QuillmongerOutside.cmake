@@ -14,6 +14,7 @@ pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb xcb-xfixes xcb-xinput xcb-xte
 pkg_check_modules(XKBCOMMON REQUIRED IMPORTED_TARGET xkbcommon)
 pkg_check_modules(XKBCOMMON_X11 REQUIRED IMPORTED_TARGET xkbcommon-x11)
 pkg_check_modules(PULSE REQUIRED IMPORTED_TARGET libpulse-simple)
+pkg_check_modules(LIBAV REQUIRED IMPORTED_TARGET libavformat libavcodec libavutil libswscale)
 pkg_check_modules(GLIB REQUIRED IMPORTED_TARGET glib-2.0)
 pkg_check_modules(GIO REQUIRED IMPORTED_TARGET gio-2.0)
 
@@ -39,6 +40,8 @@ set(QUILLMONGER_OUTSIDE_xkbcommon_INCLUDES "^xkbcommon/xkbcommon(-keysyms)?\\.h$
 set(QUILLMONGER_OUTSIDE_xkbcommon_LINKS PkgConfig::XKBCOMMON)
 set(QUILLMONGER_OUTSIDE_xkbcommon_x11_INCLUDES "^xkbcommon/xkbcommon-x11\\.h$")
 set(QUILLMONGER_OUTSIDE_xkbcommon_x11_LINKS PkgConfig::XKBCOMMON_X11)
+set(QUILLMONGER_OUTSIDE_libav_INCLUDES "^lib(avcodec|avformat|avutil|swscale)/.*\\.h$")
+set(QUILLMONGER_OUTSIDE_libav_LINKS PkgConfig::LIBAV)
 set(QUILLMONGER_OUTSIDE_glib_INCLUDES "^glib\\.h$")
 set(QUILLMONGER_OUTSIDE_glib_LINKS PkgConfig::GLIB)
 set(QUILLMONGER_OUTSIDE_gio_INCLUDES "^gio/gio\\.h$")

@@ -37,7 +37,7 @@ QScreen* screenAt(const quillmonger::WindowSystem::Pixel& pixel) {
 QtQuickWindow::QtQuickWindow(Description description, quillmonger::WindowSystem& windowSystem)
     : m_description(std::move(description)),
       m_windowSystem(windowSystem),
-      m_level(m_description.kind == Kind::dialog ? ordinaryLevel : floatingLevel) {}
+      m_level(m_description.kind == Kind::palette ? floatingLevel : ordinaryLevel) {}
 
 QtQuickWindow::~QtQuickWindow() = default;
 
@@ -62,7 +62,8 @@ void QtQuickWindow::applyKind() {
     m_view->setFlags(Qt::Dialog);
     return;
   }
-  m_view->setFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+  m_view->setFlags(Qt::Window | Qt::FramelessWindowHint);
+  m_view->setFlag(Qt::WindowStaysOnTopHint, m_description.kind == Kind::palette);
   QSurfaceFormat format = m_view->format();
   format.setAlphaBufferSize(8);
   m_view->setFormat(format);
@@ -86,9 +87,9 @@ void QtQuickWindow::followSize() {
 
 void QtQuickWindow::applySize(const QSize& size) {
   m_view->resize(size);
-  if (m_description.kind != Kind::dialog) return;
+  if (m_description.kind == Kind::palette) return;
   m_view->setMinimumSize(size);
-  m_view->setMaximumSize(size);
+  if (m_description.kind == Kind::dialog) m_view->setMaximumSize(size);
 }
 
 void QtQuickWindow::unload() { m_view.reset(); }
@@ -163,7 +164,7 @@ void QtQuickWindow::prepareToShow() {
   prepare();
   if (m_description.kind == Kind::dialog) return;
   m_view->rootObject()->setProperty("blendsTransparency", m_windowSystem.blendsTransparency());
-  if (!isVisible()) m_windowSystem.keepOutOfTaskList(m_view->winId());
+  if (m_description.kind == Kind::palette && !isVisible()) m_windowSystem.keepOutOfTaskList(m_view->winId());
 }
 
 QQuickView* QtQuickWindow::view() const { return m_view.get(); }

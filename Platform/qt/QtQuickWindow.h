@@ -24,6 +24,7 @@ class QtQuickWindow final : public quillmonger::Panel {
  public:
   enum class Kind {
     palette,  ///< no frame, above the other windows, no entry in the task list, corners of the content's own
+    plain,    ///< no frame, at least of its size, corners of the content's own
     dialog    ///< the desktop's frame, fixed size
   };
   struct Content {

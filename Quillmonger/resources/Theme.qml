@@ -30,6 +30,9 @@ QtObject {
 
     readonly property color accentColor: isDark ? "#95a5ff" : "#4357bd"
 
+    // What is as it should be.
+    readonly property color granted: isDark ? "#5fcf93" : "#1b7f4c"
+
     readonly property real disabledOpacity: 0.4
 
     readonly property int windowRadius: 15

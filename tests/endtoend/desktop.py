@@ -245,6 +245,17 @@ class Desktop:
         return wait_until(lambda: self.history_window() if self.focused() == self.history_window() else None,
                           "the history window with the focus")
 
+    def guide_window(self):
+        """The number of the guide's window once it has the keyboard."""
+        guide = self.window("^Welcome to Quillmonger$")
+        self.focus(guide)
+        return guide
+
+    def finish_guide(self):
+        """Walks through the guide's eight screens and leaves it by its last button."""
+        self.guide_window()
+        self.press(*["Right"] * 7, "Return")
+
     def search(self, term):
         """Types a term into the open history and gives the field's pause and the search the time they take."""
         self.type(term)

@@ -7,14 +7,12 @@ from roadcase import RoadCase
 class TheStart(RoadCase):
     def test_a_first_start_shows_the_guide_and_captures_nothing_until_it_ends(self):
         self.desktop.start_app(first_launch=True)
-        guide = self.desktop.window("Welcome to Quillmonger")
+        self.desktop.guide_window()
         self.desktop.copy("during the guide")
         wait_until(lambda: self.desktop.clipboard() == b"during the guide", "the copy on the clipboard")
         self.assertEqual(self.desktop.texts(), [])
 
-        self.desktop.focus(guide)
-        # Return belongs to the history, whichever window is in front.
-        self.desktop.press("space")
+        self.desktop.finish_guide()
 
         wait_until(self.desktop.history_window, "the history after the guide")
         self.desktop.wait_for_text("during the guide")

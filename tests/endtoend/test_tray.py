@@ -186,11 +186,10 @@ class TheTray(RoadCase):
     def test_there_is_no_item_while_the_guide_is_up(self):
         self.start_tray()
         self.desktop.start_app(first_launch=True)
-        guide = self.desktop.window("Welcome to Quillmonger")
+        self.desktop.guide_window()
         self.assertEqual(self.ask("items"), [])
 
-        self.desktop.focus(guide)
-        self.desktop.press("space")
+        self.desktop.finish_guide()
 
         self.wait_for_item()
 

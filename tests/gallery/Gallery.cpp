@@ -9,6 +9,7 @@
 
 #include "Quillmonger/resources/Texts.h"
 #include "Quillmonger/settings/SettingsKeys.h"
+#include "tests/gallery/GuideScenes.h"
 #include "tests/gallery/KeyBindingsScenes.h"
 #include "tests/gallery/PreviewScenes.h"
 #include "tests/gallery/SettingsScenes.h"
@@ -155,6 +156,7 @@ int main(int argc, char** argv) {
   }
   const QDir folder(QString::fromLocal8Bit(argv[1]));
   for (const auto scheme : {quillmonger::ColorScheme::light, quillmonger::ColorScheme::dark}) {
+    testsupport::pictureGuide(folder, scheme);
     testsupport::pictureSettings(folder, scheme);
     testsupport::pictureKeyBindings(folder, scheme);
     testsupport::picturePreview(folder, scheme);

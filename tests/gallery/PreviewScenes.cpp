@@ -6,15 +6,14 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QTest>
-#include <QTranslator>
 #include <algorithm>
 #include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "Quillmonger/resources/Texts.h"
 #include "Quillmonger/settings/SettingsKeys.h"
+#include "tests/gallery/LongTexts.h"
 #include "tests/gallery/PreviewStage.h"
 
 namespace testsupport {
@@ -62,19 +61,6 @@ void selectAcrossPieces(PreviewStage& stage) {
   QTest::mouseMove(&stage.view(), start + QPoint(120, 200));
   QTest::mouseRelease(&stage.view(), Qt::LeftButton, {}, start + QPoint(120, 200));
 }
-
-// A language whose texts are twice as long.
-class LongTexts final : public QTranslator {
- public:
-  QString translate(const char* context, const char* key, const char* disambiguation, int count) const override {
-    const QString text = m_texts.translate(context, key, disambiguation, count);
-    return text.isEmpty() || text.contains(u'{') ? text : text + u' ' + text;
-  }
-  [[nodiscard]] bool isEmpty() const override { return false; }
-
- private:
-  quillmonger::Texts m_texts;
-};
 
 const char* const mixedScripts =
     "مرحبا بالعالم، هذا نص عربي مع 123 أرقام وكلمات إضافية حتى يلتف السطر\n\nשלום עולם and some English\n\n"

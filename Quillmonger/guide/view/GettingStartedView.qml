@@ -2,91 +2,73 @@ import QtQuick
 import Quillmonger.Guide
 import Quillmonger.Resources
 
-// What a new user needs to know, on one page.
-Rectangle {
+// The guide of a first start, a screen at a time. It is moved by its background, since it has no frame.
+FocusScope {
     id: guide
 
     required property GettingStartedModel model
     required property Appearance appearance
 
-    readonly property Theme theme: Theme { isDark: guide.appearance.isDark }
+    // Whether what is transparent shows what lies behind the window. Corners would be black otherwise.
+    property bool blendsTransparency: true
 
+    readonly property Theme theme: Theme {
+        isDark: guide.appearance.isDark
+        reducesMotion: guide.appearance.reducesMotion
+    }
+    // By the ordinals of the screens.
+    readonly property var views: [
+        "AccessibilityView.qml", "FormattingView.qml", "PasteView.qml", "PreviewTutorialView.qml", "SearchView.qml",
+        "SettingsView.qml", "StartupView.qml", "WelcomeView.qml"
+    ]
+
+    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
     implicitWidth: 550
     implicitHeight: 640
-    color: theme.window
+    focus: true
 
-    Column {
-        anchors { left: parent.left; right: parent.right; top: parent.top; margins: 56; topMargin: 48 }
-        spacing: 14
-
-        Image {
-            anchors.horizontalCenter: parent.horizontalCenter
-            width: 112
-            height: 112
-            sourceSize: Qt.size(width * Screen.devicePixelRatio, height * Screen.devicePixelRatio)
-            source: "qrc:/qt-project.org/imports/Quillmonger/Resources/quillmonger.svg"
-            Accessible.ignored: true
-        }
-
-        Text {
-            objectName: "GettingStartedTitle"
-            width: parent.width
-            horizontalAlignment: Text.AlignHCenter
-            wrapMode: Text.WordWrap
-            renderType: Text.NativeRendering
-            font { pixelSize: guide.theme.titleFontSize; bold: true }
-            color: guide.theme.primary
-            text: qsTrId("getting_started_title")
-        }
-
-        Text {
-            width: parent.width
-            bottomPadding: 22
-            horizontalAlignment: Text.AlignHCenter
-            wrapMode: Text.WordWrap
-            renderType: Text.NativeRendering
-            font.pixelSize: guide.theme.rowFontSize
-            color: guide.theme.secondary
-            text: qsTrId("getting_started_text")
-        }
-
-        GuideStep {
-            objectName: "GettingStartedChord"
-            width: parent.width
-            symbol: "clipboard"
-            title: qsTrId("getting_started_chord").arg(guide.model.chord)
-            details: qsTrId("getting_started_chord_details")
-            theme: guide.theme
-        }
-
-        Item { width: 1; height: 2 }
-
-        GuideStep {
-            width: parent.width
-            symbol: "magnifyingglass"
-            title: qsTrId("getting_started_search")
-            details: qsTrId("getting_started_search_details")
-            theme: guide.theme
-        }
-
-        Item { width: 1; height: 2 }
-
-        GuideStep {
-            width: parent.width
-            symbol: "arrow.uturn.right"
-            title: qsTrId("getting_started_paste")
-            details: qsTrId("getting_started_paste_details")
-            theme: guide.theme
-        }
+    Rectangle {
+        objectName: "WindowBackground"
+        anchors.fill: parent
+        radius: guide.blendsTransparency ? guide.theme.windowRadius : 0
+        antialiasing: true
+        color: guide.theme.window
+        border { width: 1; color: guide.theme.border }
     }
 
-    PushButton {
-        objectName: "GettingStartedFinish"
-        anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom; bottomMargin: 44 }
+    DragHandler {
+        target: null
+        onActiveChanged: if (active) guide.Window.window.startSystemMove()
+    }
+
+    Connections {
+        target: guide.Window.window
+        function onClosing() { guide.model.quit() }
+    }
+
+    Loader {
+        id: loader
+        objectName: "GuideScreenLoader"
+        anchors.fill: parent
         focus: true
-        isDefault: true
-        text: qsTrId("getting_started_finish")
-        theme: guide.theme
-        onTriggered: guide.model.finish()
+
+        function show(view: string) {
+            setSource(view, { model: guide.model, theme: guide.theme })
+            fade.restart()
+        }
+
+        readonly property string view: guide.views[guide.model.currentScreen]
+        onViewChanged: show(view)
+        Component.onCompleted: show(view)
+
+        NumberAnimation {
+            id: fade
+            target: loader
+            property: "opacity"
+            from: 0
+            to: 1
+            duration: guide.theme.fade
+        }
     }
 }

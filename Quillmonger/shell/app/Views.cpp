@@ -54,8 +54,8 @@ Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCach
       m_appWindow({platform::QtQuickWindow::Kind::palette, appWindowSize, QStringLiteral("Quillmonger"),
                    [this] { return appContent(); }, [this]() -> QQmlEngine& { return engine(); }},
                   windowSystem),
-      m_gettingStartedWindow({platform::QtQuickWindow::Kind::dialog, gettingStartedWindowSize,
-                              QString::fromStdString(localizedText("getting_started_title")),
+      m_gettingStartedWindow({platform::QtQuickWindow::Kind::plain, gettingStartedWindowSize,
+                              QString::fromStdString(localizedText("welcome_message")),
                               [this] { return gettingStartedContent(); }, [this]() -> QQmlEngine& { return engine(); }},
                              windowSystem),
       m_settings({defaults, windowSystem, m_appearance, [this]() -> QQmlEngine& { return engine(); },
@@ -88,10 +88,13 @@ void Views::feed(Quillmonger& root, const Pasteboard& pasteboard, const PanedSet
       root, PreviewFeed::Services{m_notificationCenter, m_defaults, m_backgroundQueue, m_runLoop, m_alert});
   m_activateChord = std::make_unique<keyboardshortcuts::ShortcutText>(shortcutname::activate(), services.shortcuts,
                                                                       services.inputSources, m_notificationCenter);
-  m_gettingStartedModel = std::make_unique<GettingStartedModel>(
-      QString::fromStdString(m_activateChord->value().value()), [&root] { root.finishGettingStarted(); });
+  m_guideFeed =
+      std::make_unique<GuideFeed>(root, QString::fromStdString(m_activateChord->value().value()), m_runLoop, [this] {
+        // Its last button is still at work.
+        m_runLoop.post([this] { m_gettingStartedWindow.unload(); });
+      });
   m_activateChordSubscription = m_activateChord->value().subscribe(
-      [this](const auto& chord) { m_gettingStartedModel->setChord(QString::fromStdString(chord)); });
+      [this](const auto& chord) { m_guideFeed->model()->setChord(QString::fromStdString(chord)); });
 }
 
 void Views::close() {
@@ -104,7 +107,7 @@ void Views::close() {
   m_gettingStartedWindow.unload();
   m_activateChordSubscription.cancel();
   m_activateChord.reset();
-  m_gettingStartedModel.reset();
+  m_guideFeed.reset();
   m_previewFeed.reset();
   m_clipboardViewAdapter.reset();
   m_searchBarModel.reset();
@@ -137,8 +140,7 @@ Views::Content Views::appContent() {
 
 Views::Content Views::gettingStartedContent() {
   return {QUrl(QStringLiteral("qrc:/qt-project.org/imports/Quillmonger/Guide/GettingStartedView.qml")),
-          {{"model", QVariant::fromValue(m_gettingStartedModel.get())},
-           {"appearance", QVariant::fromValue(&m_appearance)}}};
+          {{"model", QVariant::fromValue(m_guideFeed->model())}, {"appearance", QVariant::fromValue(&m_appearance)}}};
 }
 
 Views::Content Views::aboutContent() {

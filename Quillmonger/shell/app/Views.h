@@ -8,7 +8,6 @@
 #include "Defaults/Defaults.h"
 #include "KeyboardShortcuts/ShortcutText.h"
 #include "Platform/qt/QtQuickWindow.h"
-#include "Quillmonger/guide/view/GettingStartedModel.h"
 #include "Quillmonger/history/view/ClipboardViewAdapter.h"
 #include "Quillmonger/history/view/HistorySettings.h"
 #include "Quillmonger/history/view/ImageCache.h"
@@ -18,6 +17,7 @@
 #include "Quillmonger/settings/view/AboutModel.h"
 #include "Quillmonger/settings/view/AppPickerWindow.h"
 #include "Quillmonger/shell/Quillmonger.h"
+#include "Quillmonger/shell/app/GuideFeed.h"
 #include "Quillmonger/shell/app/PanedSettings.h"
 #include "Quillmonger/shell/app/PreviewFeed.h"
 #include "Quillmonger/shell/view/QtAlert.h"
@@ -79,7 +79,7 @@ class Views final {
   std::unique_ptr<SearchBarModel> m_searchBarModel;
   std::unique_ptr<ClipboardViewAdapter> m_clipboardViewAdapter;
   std::unique_ptr<PreviewFeed> m_previewFeed;
-  std::unique_ptr<GettingStartedModel> m_gettingStartedModel;
+  std::unique_ptr<GuideFeed> m_guideFeed;
   std::unique_ptr<keyboardshortcuts::ShortcutText> m_activateChord;
   foundation::Subscription m_activateChordSubscription;
   // Destroyed after the windows, whose views are its objects, and before what the views show.

@@ -217,6 +217,29 @@ TEST_F(QuillmongerTest, EndsTheGuideWithTheNormalStartAndTheHistory) {
   EXPECT_TRUE(hotKeys.isRegistered(activateChord));
 }
 
+TEST_F(QuillmongerTest, EndsTheGuideWithTheHistoryAlsoWithoutThePermission) {
+  settings.defaults.set(keys::firstLaunch, true);
+  access.setAllowed(false);
+  start();
+
+  root->finishGettingStarted();
+  settle();
+
+  EXPECT_TRUE(appWindow.isVisible());
+  EXPECT_FALSE(settings.defaults[keys::firstLaunch]);
+}
+
+TEST_F(QuillmongerTest, QuittingTheGuideLeavesFirstLaunchOn) {
+  settings.defaults.set(keys::firstLaunch, true);
+  start();
+
+  root->quitApp();
+  settle();
+
+  EXPECT_EQ(log.back(), "application terminate");
+  EXPECT_TRUE(settings.defaults[keys::firstLaunch]);
+}
+
 TEST_F(QuillmongerTest, EndsTheGuideOnce) {
   settings.defaults.set(keys::firstLaunch, true);
   start();

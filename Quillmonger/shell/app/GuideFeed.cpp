@@ -1,0 +1,35 @@
+#include "Quillmonger/shell/app/GuideFeed.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <utility>
+
+#include "Platform/video/VideoProcess.h"
+
+namespace quillmonger {
+
+namespace {
+
+std::string decoder() {
+  return QCoreApplication::applicationDirPath().append(QStringLiteral("/quillmonger-video")).toStdString();
+}
+
+// Beside the program, as it is built, or where an installed program has its data.
+std::string videoFolder() {
+  const QString folder = QCoreApplication::applicationDirPath();
+  const QString built = folder + QStringLiteral("/videos");
+  return (QDir(built).exists() ? built : folder + QStringLiteral("/../../share/quillmonger/videos")).toStdString();
+}
+
+}  // namespace
+
+GuideFeed::GuideFeed(Quillmonger& root, const QString& chord, foundation::RunLoop& runLoop, std::function<void()> close)
+    : m_guide({[&root] { root.quitApp(); },
+               [&root, close = std::move(close)] {
+                 root.finishGettingStarted();
+                 close();
+               }}),
+      m_accessibility(root.permissionsManager(), runLoop),
+      m_model(chord, {m_guide, m_accessibility, platform::VideoProcess::factory(decoder(), videoFolder(), runLoop)}) {}
+
+}  // namespace quillmonger

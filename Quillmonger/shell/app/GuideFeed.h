@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+
+#include "Foundation/RunLoop.h"
+#include "Quillmonger/guide/AccessibilityViewModel.h"
+#include "Quillmonger/guide/GettingStartedViewModel.h"
+#include "Quillmonger/guide/view/GettingStartedModel.h"
+#include "Quillmonger/shell/Quillmonger.h"
+
+namespace quillmonger {
+
+/// What feeds the guide's window. Main thread.
+class GuideFeed final {
+ public:
+  /// `chord`: the keys that show the history. `close` is called when the guide is over. `root` and `runLoop` outlive
+  /// this object.
+  GuideFeed(Quillmonger& root, const QString& chord, foundation::RunLoop& runLoop, std::function<void()> close);
+
+  [[nodiscard]] GettingStartedModel* model() { return &m_model; }
+
+ private:
+  GettingStartedViewModel m_guide;
+  AccessibilityViewModel m_accessibility;
+  GettingStartedModel m_model;
+};
+
+}  // namespace quillmonger
