@@ -63,6 +63,7 @@ void QtQuickWindow::applyKind() {
     return;
   }
   m_view->setFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+  if (m_description.kind == Kind::companion) m_view->setFlag(Qt::WindowDoesNotAcceptFocus);
   QSurfaceFormat format = m_view->format();
   format.setAlphaBufferSize(8);
   m_view->setFormat(format);
@@ -169,7 +170,7 @@ void QtQuickWindow::prepareToShow() {
 QQuickView* QtQuickWindow::view() const { return m_view.get(); }
 
 void QtQuickWindow::orderOut() {
-  if (m_view) m_view->goAndHandOverFront();
+  if (m_view) m_view->hide();
 }
 
 }  // namespace platform

@@ -23,8 +23,9 @@ class QuickView;
 class QtQuickWindow final : public quillmonger::Panel {
  public:
   enum class Kind {
-    palette,  ///< no frame, above the other windows, no entry in the task list, corners of the content's own
-    dialog    ///< the desktop's frame, fixed size
+    palette,    ///< no frame, above the other windows, no entry in the task list, corners of the content's own
+    companion,  ///< a palette beside another one, which keeps the keyboard whatever is clicked
+    dialog      ///< the desktop's frame, fixed size
   };
   struct Content {
     QUrl source;
@@ -62,7 +63,6 @@ class QtQuickWindow final : public quillmonger::Panel {
   void makeRoomAtRight(double width) override;
   void orderFront() override;
   void makeKeyAndOrderFront() override;
-  /// If it has the keyboard, it hands it to a window of the program that stands above it.
   void orderOut() override;
 
   /// Null before `prepare`.

@@ -33,7 +33,14 @@ ViewStage::ViewStage() : m_appearance(m_itemServices.settings.defaults), m_setti
       [this](const Item& item) { m_selectedItem.set(item); }, m_pictureColors});
   m_searchBar = std::make_unique<quillmonger::SearchBarModel>(
       m_searchTerm, m_itemServices.settings.defaults, [this] { return m_clipboardText; },
-      [this] { ++m_previewToggleCount; });
+      quillmonger::SearchBarModel::Preview{
+          [this] { m_previewCommands.emplace_back("toggle"); },
+          [this] {
+            m_previewCommands.emplace_back("copy");
+            return m_hasPreviewSelection;
+          },
+          [this] { m_previewCommands.emplace_back("select all"); },
+          [this](int pages) { m_previewCommands.push_back("scroll " + std::to_string(pages)); }});
 }
 
 ViewStage::~ViewStage() = default;

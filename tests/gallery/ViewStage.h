@@ -50,7 +50,9 @@ class ViewStage final {
   foundation::Published<bool>& isOptionPressed() { return m_isOptionPressed; }
   FakeClipboard& clipboard() { return m_itemServices.clipboard; }
   void setClipboardText(std::string text) { m_clipboardText = std::move(text); }
-  [[nodiscard]] int previewToggleCount() const { return m_previewToggleCount; }
+  /// What the search bar has asked of the preview: "toggle", "copy", "select all", "scroll" with the pages.
+  [[nodiscard]] const std::vector<std::string>& previewCommands() const { return m_previewCommands; }
+  void setPreviewSelection(bool isThere) { m_hasPreviewSelection = isThere; }
   quillmonger::ClipboardViewAdapter& adapter() { return *m_adapter; }
 
   /// Builds the view tree, once, and lays it out.
@@ -76,7 +78,8 @@ class ViewStage final {
   InlineBackgroundQueue m_queue;
   VirtualRunLoop m_runLoop;
   quillmonger::PictureColors m_pictureColors{m_queue, m_runLoop};
-  int m_previewToggleCount = 0;
+  std::vector<std::string> m_previewCommands;
+  bool m_hasPreviewSelection = false;
   quillmonger::Appearance m_appearance;
   quillmonger::HistorySettings m_settings;
   std::unique_ptr<quillmonger::ClipboardViewAdapter> m_adapter;

@@ -10,16 +10,8 @@ ListView {
     required property PreviewModel preview
     required property Theme theme
 
-    // The keyboard came to the list by a click, which needs no ring to show it.
-    property bool isPointedAt: false
-
     readonly property real textTop: originY + (headerItem ? headerItem.height : 0)
     readonly property real textBottom: footerItem ? footerItem.y : textTop
-
-    function point() {
-        isPointedAt = true
-        forceActiveFocus(Qt.MouseFocusReason)
-    }
 
     function scrollBy(distance: real) {
         contentY += distance
@@ -31,16 +23,17 @@ ListView {
     clip: true
     boundsBehavior: Flickable.StopAtBounds
     keyNavigationEnabled: false
-    // No piece has the keyboard instead of the list.
     currentIndex: -1
     // The height of the whole text counts where its end fades out. There are few pieces then, unless the characters of
     // the text are absurdly long.
     cacheBuffer: preview.isTextHidden && count <= 128 ? 1000000 : 400
-    activeFocusOnTab: true
-    onActiveFocusChanged: isPointedAt = isPointedAt && activeFocus
     Accessible.role: Accessible.Pane
     Accessible.name: qsTrId("preview_text")
-    Accessible.focusable: true
+
+    Connections {
+        target: list.preview
+        function onScrollRequested(pages) { list.scrollBy(pages * list.height * 0.9) }
+    }
 
     delegate: TextPiece {
         x: list.theme.previewMargin
@@ -48,7 +41,6 @@ ListView {
         selection: list.preview.selection
         theme: list.theme
         partAt: height => list.itemAt(list.width / 2, height)
-        onPressed: list.point()
     }
 
     footer: Item {
@@ -78,18 +70,5 @@ ListView {
             GradientStop { position: 0; color: Qt.alpha(list.theme.window, 0) }
             GradientStop { position: 0.5; color: list.theme.window }
         }
-    }
-
-    Keys.onShortcutOverride: event => event.accepted = event.matches(StandardKey.Copy)
-                                                       || event.matches(StandardKey.SelectAll)
-    Keys.onPressed: event => {
-        event.accepted = true
-        if (event.matches(StandardKey.Copy)) preview.copySelection()
-        else if (event.matches(StandardKey.SelectAll)) preview.selectAll()
-        else if (event.matches(StandardKey.MoveToNextPage)) scrollBy(height * 0.9)
-        else if (event.matches(StandardKey.MoveToPreviousPage)) scrollBy(-height * 0.9)
-        else if (event.matches(StandardKey.MoveToStartOfLine)) positionViewAtBeginning()
-        else if (event.matches(StandardKey.MoveToEndOfLine)) positionViewAtEnd()
-        else event.accepted = false
     }
 }

@@ -4,7 +4,7 @@ import Quillmonger.Resources
 
 // The content of the preview window: a pane at the window's edge beside the history. The rest of the window is left
 // out of it, whichever width the window has.
-FocusScope {
+Item {
     id: view
 
     required property PreviewModel preview
@@ -17,7 +17,6 @@ FocusScope {
 
     implicitWidth: 600
     implicitHeight: 445
-    focus: true
     LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
 

@@ -13,7 +13,6 @@ TextEdit {
     required property Theme theme
     // Gives the part at a height of the list; null where there is none.
     required property var partAt
-    signal pressed()
 
     function showSelection() {
         select(selection.startIn(index, length), selection.endIn(index, length))
@@ -63,10 +62,7 @@ TextEdit {
         anchors.fill: parent
         cursorShape: Qt.IBeamCursor
         preventStealing: true
-        onPressed: mouse => {
-            part.pressed()
-            part.selection.begin(part.index, part.positionAt(mouse.x, mouse.y))
-        }
+        onPressed: mouse => part.selection.begin(part.index, part.positionAt(mouse.x, mouse.y))
         onPositionChanged: mouse => part.extendTo(part.partAt(part.y + mouse.y) ?? part, mouse.x, part.y + mouse.y)
         onDoubleClicked: mouse => part.selectWordAt(mouse.x, mouse.y)
     }

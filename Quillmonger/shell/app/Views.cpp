@@ -64,9 +64,10 @@ Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCach
           {platform::QtQuickWindow::Kind::dialog, aboutWindowSize, QString::fromStdString(localizedText("about_title")),
            [this] { return aboutContent(); }, [this]() -> QQmlEngine& { return engine(); }},
           windowSystem),
-      m_previewPanel({platform::QtQuickWindow::Kind::palette, previewWindowSize, QStringLiteral("Quillmonger Preview"),
-                      [this] { return previewContent(); }, [this]() -> QQmlEngine& { return engine(); }},
-                     windowSystem),
+      m_previewPanel(
+          {platform::QtQuickWindow::Kind::companion, previewWindowSize, QStringLiteral("Quillmonger Preview"),
+           [this] { return previewContent(); }, [this]() -> QQmlEngine& { return engine(); }},
+          windowSystem),
       m_appPicker({applications, m_appearance, [this]() -> QQmlEngine& { return engine(); },
                    [this]() -> QWindow* { return m_settingsWindow.view(); }, [this] { return m_clipboardText(); }}) {}
 
@@ -74,14 +75,18 @@ void Views::feed(Quillmonger& root, const Pasteboard& pasteboard) {
   ClipboardViewModel& history = root.clipboardViewModel();
   m_clipboardText = [&pasteboard] { return presentText(pasteboard); };
   m_ignoreAppsViewModel = [&root]() -> IgnoreAppsViewModel& { return root.ignoreAppsViewModel(); };
-  m_searchBarModel = std::make_unique<SearchBarModel>(root.searchViewModel().searchTerm(), m_defaults, m_clipboardText,
-                                                      [&root] { root.windowManager().togglePreviewWindow(); });
   m_clipboardViewAdapter = std::make_unique<ClipboardViewAdapter>(
       ClipboardViewAdapter::History{history.filteredItems(), history.selectedItem(), history.isOptionPressed(),
                                     [&history] { return history.items().empty(); },
                                     [&history](const auto& item) { history.select(item); }, m_pictureColors});
   m_previewFeed = std::make_unique<PreviewFeed>(
       root, PreviewFeed::Services{m_notificationCenter, m_defaults, m_backgroundQueue, m_runLoop, m_alert});
+  m_searchBarModel = std::make_unique<SearchBarModel>(
+      root.searchViewModel().searchTerm(), m_defaults, m_clipboardText,
+      SearchBarModel::Preview{[&root] { root.windowManager().togglePreviewWindow(); },
+                              [this] { return m_previewFeed->model()->copySelection(); },
+                              [this] { m_previewFeed->model()->selectAll(); },
+                              [this](int pages) { m_previewFeed->model()->scrollRequested(pages); }});
   m_gettingStartedModel =
       std::make_unique<GettingStartedModel>(QStringLiteral("Shift+Super+V"), [&root] { root.finishGettingStarted(); });
 }

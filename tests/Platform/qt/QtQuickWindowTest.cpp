@@ -120,6 +120,20 @@ TEST_F(QtQuickWindowTest, StandsBehindTheFrontWithoutAskingForIt) {
   EXPECT_EQ(m_system.keptOutCount, 1);
 }
 
+TEST_F(QtQuickWindowTest, NeverTakesTheKeyboardAsACompanion) {
+  auto companion = description();
+  companion.kind = QtQuickWindow::Kind::companion;
+  QtQuickWindow window(companion, m_system);
+
+  window.orderFront();
+
+  EXPECT_TRUE(window.view()->flags().testFlag(Qt::WindowDoesNotAcceptFocus));
+  EXPECT_EQ(window.view()->flags() & ~Qt::WindowDoesNotAcceptFocus, [this] {
+    m_window.prepare();
+    return m_window.view()->flags();
+  }());
+}
+
 TEST_F(QtQuickWindowTest, PaneIsAsWideAsTheMaskOfTheWindow) {
   EXPECT_EQ(m_window.paneWidth(), 300);
 
