@@ -30,7 +30,7 @@ ViewStage::ViewStage() : m_appearance(m_itemServices.settings.defaults), m_setti
                             new quillmonger::ImageCache([](const std::string& path) { return path + ".svg"; }));
   m_adapter = std::make_unique<quillmonger::ClipboardViewAdapter>(quillmonger::ClipboardViewAdapter::History{
       m_rows, m_selectedItem, m_isOptionPressed, [this] { return m_shownItems.empty(); },
-      [this](const Item& item) { m_selectedItem.set(item); }, m_pictureColors});
+      [this](const Item& item) { m_selectedItem.set(item); }, m_inspection});
   m_searchBar = std::make_unique<quillmonger::SearchBarModel>(
       m_searchTerm, m_itemServices.settings.defaults, [this] { return m_clipboardText; },
       quillmonger::SearchBarModel::Preview{

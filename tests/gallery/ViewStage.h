@@ -43,7 +43,7 @@ class ViewStage final {
 
   defaults::Defaults& defaults() { return m_itemServices.settings.defaults; }
   FakePictureReading& pictures() { return m_itemServices.pictures; }
-  quillmonger::PictureColors& pictureColors() { return m_pictureColors; }
+  quillmonger::ItemInspection& inspection() { return m_inspection; }
   /// Lets the work beside the main thread be done.
   void finishWork();
   foundation::Published<std::string>& searchTerm() { return m_searchTerm; }
@@ -77,7 +77,7 @@ class ViewStage final {
   std::string m_clipboardText;
   InlineBackgroundQueue m_queue;
   VirtualRunLoop m_runLoop;
-  quillmonger::PictureColors m_pictureColors{m_queue, m_runLoop};
+  quillmonger::ItemInspection m_inspection{m_queue, m_runLoop};
   std::vector<std::string> m_previewCommands;
   bool m_hasPreviewSelection = false;
   quillmonger::Appearance m_appearance;

@@ -43,7 +43,7 @@ Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCach
       m_notificationCenter(notificationCenter),
       m_iconNaming(std::move(iconNaming)),
       m_appearance(defaults),
-      m_pictureColors(applications.backgroundQueue, applications.runLoop),
+      m_inspection(applications.backgroundQueue, applications.runLoop),
       m_historySettings(defaults),
       m_ignoreSettings(defaults),
       m_aboutModel(QCoreApplication::applicationVersion(), openOutsidePage),
@@ -78,9 +78,10 @@ void Views::feed(Quillmonger& root, const Pasteboard& pasteboard) {
   m_clipboardViewAdapter = std::make_unique<ClipboardViewAdapter>(
       ClipboardViewAdapter::History{history.filteredItems(), history.selectedItem(), history.isOptionPressed(),
                                     [&history] { return history.items().empty(); },
-                                    [&history](const auto& item) { history.select(item); }, m_pictureColors});
+                                    [&history](const auto& item) { history.select(item); }, m_inspection});
   m_previewFeed = std::make_unique<PreviewFeed>(
-      root, PreviewFeed::Services{m_notificationCenter, m_defaults, m_backgroundQueue, m_runLoop, m_alert});
+      root,
+      PreviewFeed::Services{m_notificationCenter, m_defaults, m_backgroundQueue, m_runLoop, m_inspection, m_alert});
   m_searchBarModel = std::make_unique<SearchBarModel>(
       root.searchViewModel().searchTerm(), m_defaults, m_clipboardText,
       SearchBarModel::Preview{[&root] { root.windowManager().togglePreviewWindow(); },

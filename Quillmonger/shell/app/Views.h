@@ -67,7 +67,7 @@ class Views final {
   foundation::NotificationCenter& m_notificationCenter;
   ImageCache::IconNaming m_iconNaming;
   Appearance m_appearance;
-  PictureColors m_pictureColors;
+  ItemInspection m_inspection;
   HistorySettings m_historySettings;
   IgnoreSettings m_ignoreSettings;
   AboutModel m_aboutModel;
