@@ -4,7 +4,6 @@
 #include <QGuiApplication>
 #include <QQmlEngine>
 #include <QQuickItem>
-#include <QRegion>
 #include <QScreen>
 #include <QSurfaceFormat>
 #include <algorithm>
@@ -37,7 +36,8 @@ QScreen* screenAt(const quillmonger::WindowSystem::Pixel& pixel) {
 QtQuickWindow::QtQuickWindow(Description description, quillmonger::WindowSystem& windowSystem)
     : m_description(std::move(description)),
       m_windowSystem(windowSystem),
-      m_level(m_description.kind == Kind::dialog ? ordinaryLevel : floatingLevel) {}
+      m_level(m_description.kind == Kind::dialog ? ordinaryLevel : floatingLevel),
+      m_width(m_description.size.width()) {}
 
 QtQuickWindow::~QtQuickWindow() = default;
 
@@ -72,7 +72,7 @@ void QtQuickWindow::applyKind() {
 
 void QtQuickWindow::followSize() {
   if (!m_description.size.isEmpty()) {
-    applySize(m_description.size);
+    applySize(QSize(shownWidth(m_width), m_description.size.height()));
     return;
   }
   // What the content wants is known when it has been laid out, and can change.
@@ -83,6 +83,13 @@ void QtQuickWindow::followSize() {
   apply();
   QObject::connect(content, &QQuickItem::implicitWidthChanged, m_view.get(), apply);
   QObject::connect(content, &QQuickItem::implicitHeightChanged, m_view.get(), apply);
+}
+
+// A companion's frame is as wide as the logic wants it, and its window no wider than there is anything to see: a
+// compositor draws the shadow around the window.
+int QtQuickWindow::shownWidth(double width) const {
+  const double shown = m_description.kind == Kind::companion ? m_view->rootObject()->implicitWidth() : width;
+  return static_cast<int>(std::lround(std::min(width, shown)));
 }
 
 void QtQuickWindow::applySize(const QSize& size) {
@@ -99,20 +106,20 @@ bool QtQuickWindow::isVisible() const { return m_view && m_view->isVisible(); }
 quillmonger::WindowFrame QtQuickWindow::frame() const {
   const QRect place = m_view ? m_view->geometry() : QRect(QPoint(), m_description.size);
   return {static_cast<double>(place.x()), static_cast<double>(place.y() + place.height()),
-          static_cast<double>(place.width()), static_cast<double>(place.height())};
+          m_description.kind == Kind::companion ? m_width : place.width(), static_cast<double>(place.height())};
 }
 
 double QtQuickWindow::paneWidth() {
   prepare();
-  const QRegion mask = m_view->mask();
-  return mask.isEmpty() ? m_view->width() : mask.boundingRect().right() + 1;
+  return m_view->width();
 }
 
 void QtQuickWindow::setFrame(const quillmonger::WindowFrame& frame) {
   prepare();
+  m_width = frame.width;
   m_view->setGeometry(static_cast<int>(std::lround(frame.left)),
-                      static_cast<int>(std::lround(frame.bottom - frame.height)),
-                      static_cast<int>(std::lround(frame.width)), static_cast<int>(std::lround(frame.height)));
+                      static_cast<int>(std::lround(frame.bottom - frame.height)), shownWidth(frame.width),
+                      static_cast<int>(std::lround(frame.height)));
 }
 
 void QtQuickWindow::setAlpha(double alpha) {

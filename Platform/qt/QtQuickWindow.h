@@ -53,7 +53,7 @@ class QtQuickWindow final : public quillmonger::Panel {
   [[nodiscard]] bool isVisible() const override;
   [[nodiscard]] quillmonger::WindowFrame frame() const override;
   [[nodiscard]] int level() const override { return m_level; }
-  /// As far as the content's mask of the window goes, if it sets one. Loads the tree.
+  /// Of a companion, the width that its content wants. Loads the tree.
   [[nodiscard]] double paneWidth() override;
   void setFrame(const quillmonger::WindowFrame& frame) override;
   void setAlpha(double alpha) override;
@@ -72,12 +72,14 @@ class QtQuickWindow final : public quillmonger::Panel {
   void applyKind();
   void followSize();
   void applySize(const QSize& size);
+  [[nodiscard]] int shownWidth(double width) const;
   void prepareToShow();
   [[nodiscard]] QScreen* screenInUse() const;
 
   Description m_description;
   quillmonger::WindowSystem& m_windowSystem;
   int m_level;
+  double m_width;  // of a companion's frame
   std::unique_ptr<QuickView> m_view;
 };
 

@@ -1,7 +1,6 @@
 #include "Platform/qt/QuickView.h"
 
 #include <QGuiApplication>
-#include <QRegion>
 #include <algorithm>
 #include <utility>
 
@@ -48,7 +47,6 @@ void QuickView::showBehindTheFront() {
 
 void QuickView::exposeEvent(QExposeEvent* event) {
   QQuickView::exposeEvent(event);
-  if (isExposed() && !mask().isEmpty()) m_windowSystem.withholdShadow(winId());
   if (isExposed() && std::exchange(m_comesToFront, false)) m_windowSystem.bringToFront(winId());
 }
 

@@ -40,7 +40,7 @@ class Preview:
         history, preview = self.open_with_preview()
 
         left, top, width, height = self.desktop.geometry(history)
-        self.assertEqual(self.desktop.geometry(preview), (left + width + 6, top, width, height))
+        self.assertEqual(self.desktop.geometry(preview), (left + width + 6, top, PANE, height))
         self.assertEqual(self.desktop.focused(), history)
         self.desktop.press("ctrl+p")
         self.wait_gone()
