@@ -40,7 +40,6 @@ ListView {
         width: ListView.view.width - 2 * list.theme.previewMargin
         selection: list.preview.selection
         theme: list.theme
-        partAt: height => list.itemAt(list.width / 2, height)
     }
 
     footer: Item {
@@ -53,6 +52,58 @@ ListView {
             visible: list.preview.isTextHidden
             theme: list.theme
             onSettingsRequested: list.preview.showAppearanceSettings()
+        }
+    }
+
+    // Selects text. It is no part of a piece, which goes when it is scrolled away.
+    MouseArea {
+        id: pointer
+        objectName: "TextPointer"
+
+        // Where the pointer is, from the list's own edge, and how far beyond it.
+        property point place
+        readonly property real beyond: place.y < 0 ? place.y : Math.max(0, place.y - list.height)
+
+        function pieceAt(height: real): TextPiece {
+            return list.itemAt(list.width / 2, Math.max(list.textTop, Math.min(list.textBottom - 1, height)))
+        }
+
+        function extend() {
+            const height = list.contentY + Math.max(0, Math.min(list.height - 1, place.y))
+            const piece = pieceAt(height)
+            if (piece) piece.selectTo(place.x - piece.x, height - piece.y)
+        }
+
+        parent: list.contentItem
+        y: list.textTop
+        z: 3
+        width: list.width
+        height: list.textBottom - list.textTop
+        cursorShape: Qt.IBeamCursor
+        preventStealing: true
+        onPressed: mouse => {
+            place = Qt.point(mouse.x, mouse.y + y - list.contentY)
+            const piece = pieceAt(mouse.y + y)
+            if (piece) piece.selectFrom(mouse.x - piece.x, mouse.y + y - piece.y)
+        }
+        onPositionChanged: mouse => {
+            place = Qt.point(mouse.x, mouse.y + y - list.contentY)
+            extend()
+        }
+        onDoubleClicked: mouse => {
+            const piece = pieceAt(mouse.y + y)
+            if (piece) piece.selectWordAt(mouse.x - piece.x, mouse.y + y - piece.y)
+        }
+
+        // The further beyond the edge, the faster.
+        Timer {
+            interval: 16
+            repeat: true
+            running: pointer.pressed && pointer.beyond !== 0
+            onTriggered: {
+                list.scrollBy(pointer.beyond / 4)
+                pointer.extend()
+            }
         }
     }
 

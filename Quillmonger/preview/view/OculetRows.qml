@@ -76,7 +76,7 @@ Column {
                 renderType: TextEdit.NativeRendering
                 font.pixelSize: column.theme.previewFontSize
                 color: column.theme.primary
-                selectionColor: column.theme.highlightColor
+                selectionColor: column.theme.selectionColor
                 selectedTextColor: column.theme.selectedPrimary
                 text: row.modelData.value
                 Accessible.role: Accessible.StaticText

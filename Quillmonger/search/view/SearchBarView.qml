@@ -37,7 +37,7 @@ FocusScope {
         renderType: Text.NativeRendering
         font { pixelSize: bar.theme.searchFontSize; weight: Font.Light }
         color: bar.theme.primary
-        selectionColor: bar.theme.highlightColor
+        selectionColor: bar.theme.selectionColor
         selectedTextColor: bar.theme.selectedPrimary
         text: bar.model.searchTerm
         onTextEdited: bar.model.searchTerm = text

@@ -189,6 +189,28 @@ TEST_F(PreviewText, SelectsAcrossItsPieces) {
   EXPECT_TRUE(lines(300).find(m_stage.copies()[0]) != std::string::npos);
 }
 
+TEST_F(PreviewText, ScrollsWhileASelectionGoesOnBeyondItsEdge) {
+  show(lines(3000));
+  const QPoint start(40, 40);
+  const double top = list()->property("contentY").toReal();
+  const auto contentY = [this] { return list()->property("contentY").toReal(); };
+
+  QTest::mousePress(&m_stage.view(), Qt::LeftButton, {}, start);
+  QTest::mouseMove(&m_stage.view(), start + QPoint(40, 700));
+  // Far enough for the piece in which it began to be gone.
+  EXPECT_TRUE(QTest::qWaitFor([&] { return contentY() > top + 3000; }));
+  QTest::mouseMove(&m_stage.view(), start);
+  const double end = contentY();
+  QTest::mouseRelease(&m_stage.view(), Qt::LeftButton, {}, start);
+  m_stage.view();
+
+  EXPECT_EQ(contentY(), end);
+  EXPECT_TRUE(copy());
+  ASSERT_EQ(m_stage.copies().size(), 1U);
+  EXPECT_GT(m_stage.copies()[0].size(), 1000U);
+  EXPECT_TRUE(lines(3000).find(m_stage.copies()[0]) != std::string::npos);
+}
+
 TEST_F(PreviewText, SelectsAWordByADoubleClick) {
   show("one two three");
   QQuickItem* piece = m_stage.find("TextPiece");
