@@ -91,8 +91,8 @@ class History final {
   SearchViewModel m_searchViewModel{m_runLoop, m_defaults};
   SearchManager<ClipboardItemViewModel> m_searchManager{m_queue, m_runLoop, m_defaults};
   std::unique_ptr<ClipboardViewModel> m_viewModel;
-  PictureColors m_pictureColors{m_queue, m_runLoop};
-  HistoryListModel m_model{m_pictureColors};
+  ItemInspection m_inspection{m_queue, m_runLoop};
+  HistoryListModel m_model{m_inspection};
   foundation::Subscription m_rows;
   std::int64_t m_next = 0;
 };

@@ -16,6 +16,7 @@
 #include <string>
 #include <vector>
 
+#include "bench/ScreenPixels.h"
 #include "bench/TestKeyboard.h"
 
 namespace {
@@ -38,16 +39,9 @@ class Probe final {
   Probe& operator=(const Probe&) = delete;
   ~Probe() { xcb_disconnect(m_connection); }
 
-  // A block in the middle of the screen, where the window opens.
   std::vector<std::uint8_t> pixels() {
     constexpr std::uint16_t side = 24;
-    const auto x = static_cast<std::int16_t>(m_screen->width_in_pixels / 2 - side / 2);
-    const auto y = static_cast<std::int16_t>(m_screen->height_in_pixels / 2 - side / 2);
-    const auto cookie = xcb_get_image(m_connection, XCB_IMAGE_FORMAT_Z_PIXMAP, m_screen->root, x, y, side, side, ~0U);
-    const Reply<xcb_get_image_reply_t> reply(xcb_get_image_reply(m_connection, cookie, nullptr));
-    if (!reply) return {};
-    const auto* data = xcb_get_image_data(reply.get());
-    return {data, data + xcb_get_image_data_length(reply.get())};
+    return bench::ScreenPixels(m_connection, *m_screen, side, side).now();
   }
 
   bool sawMap() {

@@ -144,10 +144,16 @@ def memory():
             wait_until(desktop.history_window, "the window")
             settle(desktop)
             shown = desktop.memory()
+            desktop.press("ctrl+p")
+            settle(desktop)
+            previewed = desktop.memory()
             desktop.quillmonger("settings")
             settle(desktop)
+            desktop.quillmonger("about")
+            settle(desktop)
             tell(f"{records} records of {smallest} to {largest} bytes", f"never shown {before:6.1f} MB",
-                 f"shown {shown:6.1f} MB", f"with the settings {desktop.memory():6.1f} MB")
+                 f"shown {shown:6.1f} MB", f"with the preview {previewed:6.1f} MB",
+                 f"with every window {desktop.memory():6.1f} MB")
 
 
 def rest():
@@ -192,6 +198,23 @@ def typing():
                 delays.append(float(answer.stdout.split()[1]))
                 desktop.dismiss()
             tell(f"key to painted hits, {records} records", *spread(delays))
+
+
+def scrolling():
+    print("\nScrolling, 60 steps a second: from one picture to the next")
+    seconds = "2" if "--quick" in sys.argv else "5"
+    for records, size in ((1000, 200), (100_000, 200), (500, 65_536), (300, 10_000_000)):
+        with Measured(records, size, size) as desktop:
+            desktop.start_to_ready()
+            settle(desktop)
+            for how in ("wheel", "keys"):
+                desktop.start_to_painted()
+                wait_until(lambda: desktop.focused() == desktop.history_window(), "the focus")
+                frames = [float(line) for line in desktop.run([BUILD / "bin/frame_probe", how, seconds]).stdout.split()]
+                late = sum(frame > 25 for frame in frames) / len(frames)
+                tell(f"by {how}, {records} rows of {size} bytes", *spread(frames), f"longest {max(frames):6.1f} ms",
+                     f"missed {late:.1%}")
+                desktop.dismiss()
 
 
 class MeasuredTerminal(targets.Terminal):
@@ -291,6 +314,6 @@ def command():
 
 if __name__ == "__main__":
     chosen = [word for word in sys.argv[2:] if not word.startswith("--")]
-    for part in (start, window, typing, paste, memory, rest, copies, command):
+    for part in (start, window, typing, scrolling, paste, memory, rest, copies, command):
         if not chosen or part.__name__ in chosen:
             part()

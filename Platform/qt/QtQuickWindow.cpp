@@ -4,7 +4,6 @@
 #include <QGuiApplication>
 #include <QQmlEngine>
 #include <QQuickItem>
-#include <QRegion>
 #include <QScreen>
 #include <QSurfaceFormat>
 #include <algorithm>
@@ -22,6 +21,10 @@ constexpr double heightAboveCentre = 0.4;  // of the free height, the part that 
 constexpr int floatingLevel = 3;
 constexpr int ordinaryLevel = 0;
 
+bool isPalette(QtQuickWindow::Kind kind) {
+  return kind == QtQuickWindow::Kind::palette || kind == QtQuickWindow::Kind::companion;
+}
+
 // The screens' places are given in pixels, unlike their sizes.
 QScreen* screenAt(const quillmonger::WindowSystem::Pixel& pixel) {
   const auto screens = QGuiApplication::screens();
@@ -37,7 +40,8 @@ QScreen* screenAt(const quillmonger::WindowSystem::Pixel& pixel) {
 QtQuickWindow::QtQuickWindow(Description description, quillmonger::WindowSystem& windowSystem)
     : m_description(std::move(description)),
       m_windowSystem(windowSystem),
-      m_level(m_description.kind == Kind::palette ? floatingLevel : ordinaryLevel) {}
+      m_level(isPalette(m_description.kind) ? floatingLevel : ordinaryLevel),
+      m_width(m_description.size.width()) {}
 
 QtQuickWindow::~QtQuickWindow() = default;
 
@@ -63,7 +67,8 @@ void QtQuickWindow::applyKind() {
     return;
   }
   m_view->setFlags(Qt::Window | Qt::FramelessWindowHint);
-  m_view->setFlag(Qt::WindowStaysOnTopHint, m_description.kind == Kind::palette);
+  m_view->setFlag(Qt::WindowStaysOnTopHint, isPalette(m_description.kind));
+  m_view->setFlag(Qt::WindowDoesNotAcceptFocus, m_description.kind == Kind::companion);
   QSurfaceFormat format = m_view->format();
   format.setAlphaBufferSize(8);
   m_view->setFormat(format);
@@ -72,7 +77,7 @@ void QtQuickWindow::applyKind() {
 
 void QtQuickWindow::followSize() {
   if (!m_description.size.isEmpty()) {
-    applySize(m_description.size);
+    applySize(QSize(shownWidth(m_width), m_description.size.height()));
     return;
   }
   // What the content wants is known when it has been laid out, and can change.
@@ -85,9 +90,16 @@ void QtQuickWindow::followSize() {
   QObject::connect(content, &QQuickItem::implicitHeightChanged, m_view.get(), apply);
 }
 
+// A companion's frame is as wide as the logic wants it, and its window no wider than there is anything to see: a
+// compositor draws the shadow around the window.
+int QtQuickWindow::shownWidth(double width) const {
+  const double shown = m_description.kind == Kind::companion ? m_view->rootObject()->implicitWidth() : width;
+  return static_cast<int>(std::lround(std::min(width, shown)));
+}
+
 void QtQuickWindow::applySize(const QSize& size) {
   m_view->resize(size);
-  if (m_description.kind == Kind::palette) return;
+  if (isPalette(m_description.kind)) return;
   m_view->setMinimumSize(size);
   if (m_description.kind == Kind::dialog) m_view->setMaximumSize(size);
 }
@@ -99,20 +111,20 @@ bool QtQuickWindow::isVisible() const { return m_view && m_view->isVisible(); }
 quillmonger::WindowFrame QtQuickWindow::frame() const {
   const QRect place = m_view ? m_view->geometry() : QRect(QPoint(), m_description.size);
   return {static_cast<double>(place.x()), static_cast<double>(place.y() + place.height()),
-          static_cast<double>(place.width()), static_cast<double>(place.height())};
+          m_description.kind == Kind::companion ? m_width : place.width(), static_cast<double>(place.height())};
 }
 
 double QtQuickWindow::paneWidth() {
   prepare();
-  const QRegion mask = m_view->mask();
-  return mask.isEmpty() ? m_view->width() : mask.boundingRect().right() + 1;
+  return m_view->width();
 }
 
 void QtQuickWindow::setFrame(const quillmonger::WindowFrame& frame) {
   prepare();
+  m_width = frame.width;
   m_view->setGeometry(static_cast<int>(std::lround(frame.left)),
-                      static_cast<int>(std::lround(frame.bottom - frame.height)),
-                      static_cast<int>(std::lround(frame.width)), static_cast<int>(std::lround(frame.height)));
+                      static_cast<int>(std::lround(frame.bottom - frame.height)), shownWidth(frame.width),
+                      static_cast<int>(std::lround(frame.height)));
 }
 
 void QtQuickWindow::setAlpha(double alpha) {
@@ -164,13 +176,13 @@ void QtQuickWindow::prepareToShow() {
   prepare();
   if (m_description.kind == Kind::dialog) return;
   m_view->rootObject()->setProperty("blendsTransparency", m_windowSystem.blendsTransparency());
-  if (m_description.kind == Kind::palette && !isVisible()) m_windowSystem.keepOutOfTaskList(m_view->winId());
+  if (isPalette(m_description.kind) && !isVisible()) m_windowSystem.keepOutOfTaskList(m_view->winId());
 }
 
 QQuickView* QtQuickWindow::view() const { return m_view.get(); }
 
 void QtQuickWindow::orderOut() {
-  if (m_view) m_view->goAndHandOverFront();
+  if (m_view) m_view->hide();
 }
 
 }  // namespace platform

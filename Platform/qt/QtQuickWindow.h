@@ -23,9 +23,10 @@ class QuickView;
 class QtQuickWindow final : public quillmonger::Panel {
  public:
   enum class Kind {
-    palette,  ///< no frame, above the other windows, no entry in the task list, corners of the content's own
-    plain,    ///< no frame, at least of its size, corners of the content's own
-    dialog    ///< the desktop's frame, fixed size
+    palette,    ///< no frame, above the other windows, no entry in the task list, corners of the content's own
+    companion,  ///< a palette beside another one, which keeps the keyboard whatever is clicked
+    plain,      ///< no frame, at least of its size, corners of the content's own
+    dialog      ///< the desktop's frame, fixed size
   };
   struct Content {
     QUrl source;
@@ -53,7 +54,7 @@ class QtQuickWindow final : public quillmonger::Panel {
   [[nodiscard]] bool isVisible() const override;
   [[nodiscard]] quillmonger::WindowFrame frame() const override;
   [[nodiscard]] int level() const override { return m_level; }
-  /// As far as the content's mask of the window goes, if it sets one. Loads the tree.
+  /// Of a companion, the width that its content wants. Loads the tree.
   [[nodiscard]] double paneWidth() override;
   void setFrame(const quillmonger::WindowFrame& frame) override;
   void setAlpha(double alpha) override;
@@ -63,7 +64,6 @@ class QtQuickWindow final : public quillmonger::Panel {
   void makeRoomAtRight(double width) override;
   void orderFront() override;
   void makeKeyAndOrderFront() override;
-  /// If it has the keyboard, it hands it to a window of the program that stands above it.
   void orderOut() override;
 
   /// Null before `prepare`.
@@ -73,12 +73,14 @@ class QtQuickWindow final : public quillmonger::Panel {
   void applyKind();
   void followSize();
   void applySize(const QSize& size);
+  [[nodiscard]] int shownWidth(double width) const;
   void prepareToShow();
   [[nodiscard]] QScreen* screenInUse() const;
 
   Description m_description;
   quillmonger::WindowSystem& m_windowSystem;
   int m_level;
+  double m_width;  // of a companion's frame
   std::unique_ptr<QuickView> m_view;
 };
 

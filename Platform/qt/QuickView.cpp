@@ -1,7 +1,6 @@
 #include "Platform/qt/QuickView.h"
 
 #include <QGuiApplication>
-#include <QRegion>
 #include <algorithm>
 #include <utility>
 
@@ -46,20 +45,8 @@ void QuickView::showBehindTheFront() {
     window->raise();
 }
 
-void QuickView::goAndHandOverFront() {
-  const QWindowList windows = windowsAbove(this);
-  const bool handsOver = isActive() && !windows.isEmpty();
-  if (handsOver) windows.last()->setProperty(awaitsFrontProperty, true);
-  hide();
-  if (!handsOver) return;
-  // Asked before this window is gone, a window manager may then give the keyboard to the program that had it before.
-  QGuiApplication::sync();
-  m_windowSystem.bringToFront(windows.last()->winId());
-}
-
 void QuickView::exposeEvent(QExposeEvent* event) {
   QQuickView::exposeEvent(event);
-  if (isExposed() && !mask().isEmpty()) m_windowSystem.withholdShadow(winId());
   if (isExposed() && std::exchange(m_comesToFront, false)) m_windowSystem.bringToFront(winId());
 }
 

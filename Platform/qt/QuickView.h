@@ -20,8 +20,6 @@ class QuickView final : public QQuickView {
   void showInFront();
   /// Under those of the program's windows whose level is higher, without taking the keyboard.
   void showBehindTheFront();
-  /// Hides it, and gives the keyboard, if it had it, to the highest of those windows.
-  void goAndHandOverFront();
 
  private:
   void exposeEvent(QExposeEvent* event) override;

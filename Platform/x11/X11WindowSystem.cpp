@@ -46,7 +46,6 @@ X11WindowSystem::X11WindowSystem(xcb_connection_t* connection, const xcb_screen_
       m_activeWindow(internAtom(connection, "_NET_ACTIVE_WINDOW")),
       m_windowType(internAtom(connection, "_NET_WM_WINDOW_TYPE")),
       m_desktopType(internAtom(connection, "_NET_WM_WINDOW_TYPE_DESKTOP")),
-      m_shadow(internAtom(connection, "_COMPTON_SHADOW")),
       m_settingsOwner(internAtom(connection, "_XSETTINGS_S" + std::to_string(screenIndex))),
       m_settings(internAtom(connection, "_XSETTINGS_SETTINGS")) {
   const std::uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
@@ -98,25 +97,6 @@ void X11WindowSystem::keepOutOfTaskList(WindowId window) {
                                                   static_cast<std::uint32_t>(states.size()), states.data());
   // Done before it returns, since the toolkit adds to the property on another connection.
   std::free(xcb_request_check(m_connection, change));
-}
-
-// The window manager puts a window into one of its own, and it can do so at any moment.
-xcb_window_t X11WindowSystem::frameOf(xcb_window_t window) const {
-  constexpr int deepest = 8;
-  for (int depth = 0; depth < deepest; ++depth) {
-    const ReplyPointer<xcb_query_tree_reply_t> tree(
-        xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, window), nullptr));
-    if (!tree || tree->parent == m_root || tree->parent == XCB_NONE) break;
-    window = tree->parent;
-  }
-  return window;
-}
-
-void X11WindowSystem::withholdShadow(WindowId window) {
-  const std::uint32_t none = 0;
-  xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, frameOf(static_cast<xcb_window_t>(window)), m_shadow,
-                      XCB_ATOM_CARDINAL, 32, 1, &none);
-  xcb_flush(m_connection);
 }
 
 void X11WindowSystem::bringToFront(WindowId window) {

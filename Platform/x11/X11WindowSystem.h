@@ -21,8 +21,6 @@ class X11WindowSystem final : public quillmonger::WindowSystem, public quillmong
   [[nodiscard]] bool blendsTransparency() const override;
   [[nodiscard]] std::optional<Pixel> focusedWindowCentre() const override;
   void keepOutOfTaskList(WindowId window) override;
-  /// Heard by the compositors that know nothing of a window's shape; the others need no word.
-  void withholdShadow(WindowId window) override;
   void bringToFront(WindowId window) override;
   /// Sounds the bell, as the user has set it.
   void beep();
@@ -32,7 +30,6 @@ class X11WindowSystem final : public quillmonger::WindowSystem, public quillmong
  private:
   X11WindowSystem(xcb_connection_t* connection, const xcb_screen_t& screen, int screenIndex);
   [[nodiscard]] xcb_window_t owner(xcb_atom_t selection) const;
-  [[nodiscard]] xcb_window_t frameOf(xcb_window_t window) const;
   [[nodiscard]] xcb_timestamp_t serverTime() const;
 
   xcb_connection_t* m_connection;
@@ -45,7 +42,6 @@ class X11WindowSystem final : public quillmonger::WindowSystem, public quillmong
   xcb_atom_t m_activeWindow;
   xcb_atom_t m_windowType;
   xcb_atom_t m_desktopType;
-  xcb_atom_t m_shadow;
   xcb_atom_t m_settingsOwner;
   xcb_atom_t m_settings;
 };

@@ -53,6 +53,17 @@ std::string trimmedCopy(std::string_view text) {
   return std::string(foundation::trimmed(foundation::isValidUtf8(text) ? text : std::string_view()));
 }
 
+SharedText trimmedText(const foundation::Data& data) {
+  const auto bytes = data.bytes();
+  if (!bytes || !foundation::isValidUtf8(*bytes)) return {};
+  return {bytes, foundation::trimmed(*bytes)};
+}
+
+ClipboardItemViewModel::Recognised summary(const OculetResults& results) {
+  const auto* color = colorResult(results);
+  return {!results.empty(), color == nullptr ? std::nullopt : std::optional(*color)};
+}
+
 std::optional<RGBColor> averageColor(const PictureReading& reading, const std::optional<ScaledPicture>& picture) {
   constexpr int edge = 20;
   const auto pixels = picture ? reading.pixels(picture->picture, edge) : std::nullopt;
@@ -73,7 +84,7 @@ struct ClipboardItemViewModel::Answers {
   std::optional<bool> isFileURL;
   std::optional<std::optional<ScaledPicture>> image;
   std::optional<std::optional<RGBColor>> imageColor;
-  std::optional<bool> hasOculetResults;
+  std::optional<Recognised> recognised;
   std::weak_ptr<const OculetResults> oculetResults;
   std::shared_ptr<const OculetResults> keptResults;
 };
@@ -89,9 +100,7 @@ ClipboardItemViewModel::~ClipboardItemViewModel() {
 SharedText ClipboardItemViewModel::text() const {
   if (auto location = decodedFileURL()) return owned(*std::move(location));
   const auto data = m_item->data(pasteboardtype::NSPasteboardTypeString);
-  const auto bytes = data ? data->bytes() : nullptr;
-  if (!bytes || !foundation::isValidUtf8(*bytes)) return {};
-  return {bytes, foundation::trimmed(*bytes)};
+  return data ? trimmedText(*data) : SharedText();
 }
 
 std::optional<SharedText> ClipboardItemViewModel::shortText(std::size_t limit) const {
@@ -161,16 +170,10 @@ std::optional<ScaledPicture> ClipboardItemViewModel::scaledPicture() const {
 }
 
 std::optional<RGBColor> ClipboardItemViewModel::imageColor() const {
-  if (const auto work = imageColorWork()) answers().imageColor = work();
-  return *answers().imageColor;
+  auto& answer = answers().imageColor;
+  if (!answer) answer = averageColor(m_services->pictureReading, image());
+  return *answer;
 }
-
-std::function<std::optional<RGBColor>()> ClipboardItemViewModel::imageColorWork() const {
-  if (answers().imageColor) return nullptr;
-  return [picture = image(), services = m_services] { return averageColor(services->pictureReading, picture); };
-}
-
-void ClipboardItemViewModel::setImageColor(std::optional<RGBColor> color) { answers().imageColor = color; }
 
 bool ClipboardItemViewModel::isFileURL() const {
   auto& answer = answers().isFileURL;
@@ -182,23 +185,52 @@ std::shared_ptr<const OculetResults> ClipboardItemViewModel::oculetResults() con
   if (auto known = answers().oculetResults.lock()) return known;
   auto results = detect();
   answers().oculetResults = results;
-  answers().hasOculetResults = !results->empty();
-  if (shortText(longestKept)) answers().keptResults = results;
+  answers().recognised = summary(*results);
+  if (!isLong()) answers().keptResults = results;
   return results;
 }
 
-bool ClipboardItemViewModel::hasOculetResults() const {
-  auto& answer = answers().hasOculetResults;
-  return answer ? *answer : !oculetResults()->empty();
+const ClipboardItemViewModel::Recognised& ClipboardItemViewModel::recognised() const {
+  if (!answers().recognised) static_cast<void>(oculetResults());
+  return *answers().recognised;
+}
+
+bool ClipboardItemViewModel::hasOculetResults() const { return recognised().isAnything; }
+
+std::optional<Color> ClipboardItemViewModel::textColor() const { return recognised().color; }
+
+bool ClipboardItemViewModel::isLong() const {
+  const auto data = m_item->data(pasteboardtype::NSPasteboardTypeString);
+  return data && data->size() > longestKept && !fileURL();
+}
+
+// Of a long text the start is enough to tell that nothing is in it, as in nearly all.
+bool ClipboardItemViewModel::mayHaveLongDocument() const {
+  return isLong() && m_services->oculetManager.mayDetect(rowText(headLength).head);
 }
 
 std::shared_ptr<const OculetResults> ClipboardItemViewModel::detect() const {
-  const bool isLong = !shortText(longestKept);
-  // Of a long text the start is enough to tell that nothing is in it, as in nearly all.
-  if (isLong && !m_services->oculetManager.mayDetect(rowText(headLength).head)) {
-    return std::make_shared<const OculetResults>();
-  }
+  if (isLong() && !mayHaveLongDocument()) return std::make_shared<const OculetResults>();
   return std::make_shared<const OculetResults>(m_services->oculetManager.detect(text().view));
+}
+
+std::function<ClipboardItemViewModel::Findings()> ClipboardItemViewModel::inspection() const {
+  const bool wantsColor = isImage() && !answers().imageColor;
+  const bool wantsResults = !answers().recognised && mayHaveLongDocument();
+  if (!wantsColor && !wantsResults) return nullptr;
+  return [wantsColor, picture = wantsColor ? image() : std::nullopt,
+          data = wantsResults ? m_item->data(pasteboardtype::NSPasteboardTypeString) : std::nullopt,
+          services = m_services] {
+    Findings findings;
+    if (wantsColor) findings.imageColor = averageColor(services->pictureReading, picture);
+    if (data) findings.recognised = summary(services->oculetManager.detect(trimmedText(*data).view));
+    return findings;
+  };
+}
+
+void ClipboardItemViewModel::takeFindings(const Findings& findings) {
+  if (findings.imageColor) answers().imageColor = findings.imageColor;
+  if (findings.recognised) answers().recognised = findings.recognised;
 }
 
 // Reads nothing that the object keeps, since the search comes here beside the main thread.

@@ -74,17 +74,29 @@ class ClipboardItemViewModel final : public Searchable, public std::enable_share
   [[nodiscard]] std::optional<ScaledPicture> image() const;
   /// The average colour of `image`, transparent parts counting as black.
   [[nodiscard]] std::optional<RGBColor> imageColor() const;
-  /// What works out `imageColor`, for `setImageColor`: any thread may call it, also after the item has gone, but not
-  /// after the services. Absent when the answer is known already.
-  [[nodiscard]] std::function<std::optional<RGBColor>()> imageColorWork() const;
-  void setImageColor(std::optional<RGBColor> color);
   [[nodiscard]] bool isFileURL() const;
   [[nodiscard]] std::optional<foundation::Url> fileURL() const;
 
   /// What was recognised in `text`, which is examined when it is first asked for. Never null.
   [[nodiscard]] std::shared_ptr<const OculetResults> oculetResults() const;
-  /// Whether there is any such result.
+  /// Whether there is any such result, and the first colour among them.
   [[nodiscard]] bool hasOculetResults() const;
+  [[nodiscard]] std::optional<Color> textColor() const;
+
+  /// `hasOculetResults` and `textColor`.
+  struct Recognised {
+    bool isAnything = false;
+    std::optional<Color> color;
+  };
+  /// What can take long to find out, as far as it was looked for.
+  struct Findings {
+    std::optional<std::optional<RGBColor>> imageColor;
+    std::optional<Recognised> recognised;
+  };
+  /// What finds out, for `takeFindings`, about a picture and a long text: any thread may call it, also after the item
+  /// has gone, but not after the services. Absent when the other questions are answered at once.
+  [[nodiscard]] std::function<Findings()> inspection() const;
+  void takeFindings(const Findings& findings);
 
   /// The one way to paste an item: puts it on the pasteboard, has it pasted into the application in front, and counts.
   /// `invert` reverses the setting `alwaysPasteWithoutFormatting`, which pictures and files don't heed. Stops the
@@ -100,6 +112,9 @@ class ClipboardItemViewModel final : public Searchable, public std::enable_share
   [[nodiscard]] std::optional<std::string> decodedFileURL() const;
   [[nodiscard]] std::optional<ScaledPicture> scaledPicture() const;
   [[nodiscard]] std::shared_ptr<const OculetResults> detect() const;
+  [[nodiscard]] bool isLong() const;
+  [[nodiscard]] bool mayHaveLongDocument() const;
+  [[nodiscard]] const Recognised& recognised() const;
 
   foundation::Uuid m_id = foundation::Uuid::random();
   std::shared_ptr<ClipboardItem> m_item;

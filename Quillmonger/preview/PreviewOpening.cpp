@@ -9,6 +9,9 @@ namespace quillmonger {
 PreviewOpening::PreviewOpening(Collaborators collaborators) : m_with(std::move(collaborators)) {
   m_selection = m_with.selectedItem.subscribe([this](const Item& item) { takeSelection(item); });
   m_activation = m_with.notificationCenter.observe("ClipboardActivated", [this](const auto&) { openIfWanted(); });
+  m_findings = m_with.inspection.found().subscribe([this](const Item& item) {
+    if (item == m_with.selectedItem.value()) openIfWanted();
+  });
 }
 
 void PreviewOpening::takeSelection(const Item& item) {
@@ -21,12 +24,12 @@ void PreviewOpening::openIfWanted() const {
   const Item item = m_with.selectedItem.value();
   // A hidden history's items are not examined.
   if (!item || !m_with.isMainWindowVisible()) return;
-  if (deservesPreview(*item)) m_with.showPreview(padding);
+  if (deservesPreview(item)) m_with.showPreview(padding);
 }
 
-bool PreviewOpening::deservesPreview(const ClipboardItemViewModel& item) const {
-  if (m_with.defaults[keys::autoOpenImagePreview] && item.isImage()) return true;
-  return m_with.defaults[keys::autoOpenOculet] && item.hasOculetResults();
+bool PreviewOpening::deservesPreview(const Item& item) const {
+  if (m_with.defaults[keys::autoOpenImagePreview] && item->isImage()) return true;
+  return m_with.defaults[keys::autoOpenOculet] && m_with.inspection.hasOculetResults(item);
 }
 
 }  // namespace quillmonger

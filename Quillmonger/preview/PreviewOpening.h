@@ -8,11 +8,13 @@
 #include "Foundation/Published.h"
 #include "Foundation/Subscription.h"
 #include "Quillmonger/history/ClipboardItemViewModel.h"
+#include "Quillmonger/history/ItemInspection.h"
 
 namespace quillmonger {
 
 /// Opens the preview by itself for an item that deserves it: a picture, or a text in which something was recognised.
-/// It looks when the selection changes and when the history has just opened. It never closes the preview. Main thread.
+/// It looks when the selection changes, when the history has just opened, and when more has become known of the
+/// selected item. It never closes the preview. Main thread.
 class PreviewOpening final {
  public:
   using Item = std::shared_ptr<ClipboardItemViewModel>;
@@ -23,6 +25,7 @@ class PreviewOpening final {
     foundation::Published<Item>& selectedItem;
     foundation::NotificationCenter& notificationCenter;
     const defaults::Defaults& defaults;
+    ItemInspection& inspection;
     std::function<bool()> isMainWindowVisible;
     /// Ignores a call while the preview is up.
     std::function<void(double padding)> showPreview;
@@ -34,12 +37,13 @@ class PreviewOpening final {
  private:
   void takeSelection(const Item& item);
   void openIfWanted() const;
-  [[nodiscard]] bool deservesPreview(const ClipboardItemViewModel& item) const;
+  [[nodiscard]] bool deservesPreview(const Item& item) const;
 
   Collaborators m_with;
   std::weak_ptr<ClipboardItemViewModel> m_selectedItem;
   foundation::Subscription m_selection;
   foundation::Subscription m_activation;
+  foundation::Subscription m_findings;
 };
 
 }  // namespace quillmonger

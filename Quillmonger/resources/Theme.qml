@@ -28,6 +28,9 @@ QtObject {
     readonly property color selectedPrimary: "#ffffff"
     readonly property color selectedSecondary: isDark ? "#d5dbfb" : "#e4e8fd"
 
+    // Behind selected text, with `selectedPrimary` upon it.
+    readonly property color selectionColor: isDark ? "#5569d6" : "#4a5dc4"
+
     readonly property color accentColor: isDark ? "#95a5ff" : "#4357bd"
 
     // What is as it should be.

@@ -108,7 +108,7 @@ class Desktop:
         self.environment["DISPLAY"] = f":{number}"
         if self.window_manager:
             self.spawn([self.window_manager])
-            wait_until(self._has_window_manager, "the window manager")
+            wait_until(self._has_window_manager, "the window manager", seconds=30.0)
 
     def replace_display(self):
         """The display's server dies, and another one takes its place."""

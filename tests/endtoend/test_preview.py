@@ -40,7 +40,7 @@ class Preview:
         history, preview = self.open_with_preview()
 
         left, top, width, height = self.desktop.geometry(history)
-        self.assertEqual(self.desktop.geometry(preview), (left + width + 6, top, width, height))
+        self.assertEqual(self.desktop.geometry(preview), (left + width + 6, top, PANE, height))
         self.assertEqual(self.desktop.focused(), history)
         self.desktop.press("ctrl+p")
         self.wait_gone()
@@ -55,21 +55,46 @@ class Preview:
         self.desktop.wait_hidden()
         self.wait_gone()
 
-    def test_a_click_into_it_closes_nothing_and_the_history_gets_the_keyboard_back(self):
+    def test_a_click_into_it_closes_nothing_and_leaves_the_history_the_keyboard(self):
         self.start_with_copy()
         history, preview = self.open_with_preview()
         left, top, _, _ = self.desktop.geometry(preview)
 
         self.desktop.click(left + 60, top + 200)
         time.sleep(0.5)
-        self.assertIsNotNone(self.desktop.history_window())
+        self.assertEqual(self.desktop.history_window(), history)
         self.assertIsNotNone(self.preview())
+        self.assertEqual(self.desktop.focused(), history)
         self.desktop.press("ctrl+p")
 
         self.wait_gone()
-        wait_until(lambda: self.desktop.focused() == history, "the keyboard with the history")
         time.sleep(0.3)
-        self.assertIsNotNone(self.desktop.history_window())
+        self.assertEqual(self.desktop.focused(), history)
+        self.assertEqual(self.desktop.history_window(), history)
+
+    def test_what_is_typed_after_a_click_into_it_is_searched_for(self):
+        self.start_with_copy()
+        self.desktop.copy("another thing")
+        self.desktop.wait_for_text("another thing")
+        _, preview = self.open_with_preview()
+        left, top, _, _ = self.desktop.geometry(preview)
+
+        self.desktop.click(left + 60, top + 200)
+        self.desktop.search("look")
+        self.desktop.press("Return")
+
+        self.desktop.wait_hidden()
+        wait_until(lambda: self.desktop.clipboard() == b"something to look at", "the row that was searched for")
+
+    def test_what_is_selected_in_it_is_copied(self):
+        self.start_with_copy()
+        _, preview = self.open_with_preview()
+        left, top, _, _ = self.desktop.geometry(preview)
+
+        self.desktop.run(["xdotool", "mousemove", str(left + 40), str(top + 24), "click", "--repeat", "2", "1"])
+        self.desktop.press("ctrl+c")
+
+        wait_until(lambda: self.desktop.clipboard() == b"something", "the word that was double clicked")
 
     def test_escape_in_it_closes_both(self):
         self.start_with_copy()

@@ -7,6 +7,7 @@
 #include <functional>
 #include <iostream>
 
+#include "Quillmonger/resources/EmojiFont.h"
 #include "Quillmonger/resources/Texts.h"
 #include "Quillmonger/settings/SettingsKeys.h"
 #include "tests/gallery/GuideScenes.h"
@@ -110,6 +111,23 @@ const std::vector<Scene>& scenes() {
          stage.isOptionPressed().set(true);
        }},
       {"strange", [](ViewStage& stage) { stage.show(strangeTexts(stage)); }},
+      {"strange-hits",
+       [](ViewStage& stage) {
+         struct Hit {
+           std::size_t text;
+           quillmonger::CharacterRange characters;
+         };
+         std::vector<ViewStage::Item> items;
+         std::vector<ViewStage::Row> rows;
+         for (const Hit& hit : {Hit{0, {0, 0}}, Hit{0, {18, 18}}, Hit{0, {34, 40}}, Hit{1, {6, 12}}, Hit{1, {9, 10}},
+                                Hit{2, {5, 8}}, Hit{3, {2, 5}}, Hit{8, {1, 2}}}) {
+           items.push_back(strangeTexts(stage).at(hit.text));
+           rows.push_back({items.back().get(), 0.0, hit.characters});
+         }
+         stage.show(items);
+         stage.searchTerm().set("hit");
+         stage.showRows(std::move(rows));
+       }},
       {"strange-head",
        [](ViewStage& stage) {
          stage.defaults().set(quillmonger::keys::truncationMode, quillmonger::TruncationMode::head);
@@ -148,6 +166,7 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
   QGuiApplication application(argc, argv);
+  quillmonger::preferColourEmoji();
   quillmonger::Texts texts;
   QCoreApplication::installTranslator(&texts);
   if (argc != 2) {

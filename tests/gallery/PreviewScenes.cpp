@@ -49,11 +49,6 @@ void hoverTheFirstButton(PreviewStage& stage) {
   QTest::mouseMove(&stage.view(), button->mapToScene(button->boundingRect().center()).toPoint());
 }
 
-void focusTheFirstButton(PreviewStage& stage) {
-  stage.view().requestActivate();
-  stage.find("CopyButton")->forceActiveFocus();
-}
-
 void selectAcrossPieces(PreviewStage& stage) {
   QQuickItem* list = stage.find("FadingTextView");
   const QPoint start = list->mapToScene(QPointF(60, 40)).toPoint();
@@ -85,8 +80,7 @@ const std::vector<Scene>& scenes() {
       {"date-tip",
        [](PreviewStage& stage) { return stage.makeItem("1700000000", "public.utf8-plain-text", "Terminal"); },
        hoverTheFirstButton},
-      {"color", [](PreviewStage& stage) { return stage.makeItem("#ff7a59", "public.utf8-plain-text", "Design"); },
-       focusTheFirstButton},
+      {"color", [](PreviewStage& stage) { return stage.makeItem("#ff7a59", "public.utf8-plain-text", "Design"); }},
       {"json",
        [](PreviewStage& stage) {
          return stage.makeItem("{\"name\": \"quill\", \"weight\": 3, \"colours\": [\"black\", \"blue\"]}",

@@ -44,6 +44,8 @@ class PreviewStage final {
   [[nodiscard]] int alertCount() const { return m_alertCount; }
   [[nodiscard]] int settingsCount() const { return m_settingsCount; }
 
+  quillmonger::PreviewModel& model() { return m_model; }
+
   /// Builds the view tree, once, and lays it out.
   QQuickView& view();
   /// The first shown item with this accessibility identifier; null when none is.

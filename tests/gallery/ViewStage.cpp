@@ -30,10 +30,17 @@ ViewStage::ViewStage() : m_appearance(m_itemServices.settings.defaults), m_setti
                             new quillmonger::ImageCache([](const std::string& path) { return path + ".svg"; }));
   m_adapter = std::make_unique<quillmonger::ClipboardViewAdapter>(quillmonger::ClipboardViewAdapter::History{
       m_rows, m_selectedItem, m_isOptionPressed, [this] { return m_shownItems.empty(); },
-      [this](const Item& item) { m_selectedItem.set(item); }, m_pictureColors});
+      [this](const Item& item) { m_selectedItem.set(item); }, m_inspection});
   m_searchBar = std::make_unique<quillmonger::SearchBarModel>(
       m_searchTerm, m_itemServices.settings.defaults, [this] { return m_clipboardText; },
-      [this] { ++m_previewToggleCount; });
+      quillmonger::SearchBarModel::Preview{
+          [this] { m_previewCommands.emplace_back("toggle"); },
+          [this] {
+            m_previewCommands.emplace_back("copy");
+            return m_hasPreviewSelection;
+          },
+          [this] { m_previewCommands.emplace_back("select all"); },
+          [this](int pages) { m_previewCommands.push_back("scroll " + std::to_string(pages)); }});
 }
 
 ViewStage::~ViewStage() = default;

@@ -43,14 +43,16 @@ class ViewStage final {
 
   defaults::Defaults& defaults() { return m_itemServices.settings.defaults; }
   FakePictureReading& pictures() { return m_itemServices.pictures; }
-  quillmonger::PictureColors& pictureColors() { return m_pictureColors; }
+  quillmonger::ItemInspection& inspection() { return m_inspection; }
   /// Lets the work beside the main thread be done.
   void finishWork();
   foundation::Published<std::string>& searchTerm() { return m_searchTerm; }
   foundation::Published<bool>& isOptionPressed() { return m_isOptionPressed; }
   FakeClipboard& clipboard() { return m_itemServices.clipboard; }
   void setClipboardText(std::string text) { m_clipboardText = std::move(text); }
-  [[nodiscard]] int previewToggleCount() const { return m_previewToggleCount; }
+  /// What the search bar has asked of the preview: "toggle", "copy", "select all", "scroll" with the pages.
+  [[nodiscard]] const std::vector<std::string>& previewCommands() const { return m_previewCommands; }
+  void setPreviewSelection(bool isThere) { m_hasPreviewSelection = isThere; }
   quillmonger::ClipboardViewAdapter& adapter() { return *m_adapter; }
 
   /// Builds the view tree, once, and lays it out.
@@ -75,8 +77,9 @@ class ViewStage final {
   std::string m_clipboardText;
   InlineBackgroundQueue m_queue;
   VirtualRunLoop m_runLoop;
-  quillmonger::PictureColors m_pictureColors{m_queue, m_runLoop};
-  int m_previewToggleCount = 0;
+  quillmonger::ItemInspection m_inspection{m_queue, m_runLoop};
+  std::vector<std::string> m_previewCommands;
+  bool m_hasPreviewSelection = false;
   quillmonger::Appearance m_appearance;
   quillmonger::HistorySettings m_settings;
   std::unique_ptr<quillmonger::ClipboardViewAdapter> m_adapter;

@@ -4,6 +4,49 @@
 
 namespace quillmonger {
 
+namespace {
+
+bool joinsToNext(QChar letter) {
+  return letter.joiningType() == QChar::Joining_Dual || letter.joiningType() == QChar::Joining_Left ||
+         letter.joiningType() == QChar::Joining_Causing;
+}
+
+bool joinsToPrevious(QChar letter) {
+  return letter.joiningType() == QChar::Joining_Dual || letter.joiningType() == QChar::Joining_Right ||
+         letter.joiningType() == QChar::Joining_Causing;
+}
+
+// Marks stand upon the letter before them and don't part it from the next one.
+QChar lastLetter(const QString& text) {
+  const auto letter = std::ranges::find_if_not(text.crbegin(), text.crend(), [](QChar character) {
+    return character.joiningType() == QChar::Joining_Transparent;
+  });
+  return letter == text.crend() ? QChar() : *letter;
+}
+
+// A run is shaped for itself: where a style begins inside a word of letters that join, a joiner on each side keeps
+// their forms.
+void joinLetters(TextRuns& runs) {
+  constexpr QChar joiner(0x200D);
+  for (qsizetype next = 1; next < runs.size(); ++next) {
+    QString& before = runs[next - 1].text;
+    QString& after = runs[next].text;
+    if (!joinsToNext(lastLetter(before)) || !joinsToPrevious(after.front())) continue;
+    before.append(joiner);
+    after.prepend(joiner);
+  }
+}
+
+// A blank at the edge of a tag would be dropped by the markup.
+QString markup(const QString& text) {
+  QString escaped = text.toHtmlEscaped();
+  if (escaped.endsWith(u' ')) escaped.replace(escaped.size() - 1, 1, QStringLiteral("&nbsp;"));
+  if (escaped.startsWith(u' ')) escaped.replace(0, 1, QStringLiteral("&nbsp;"));
+  return escaped;
+}
+
+}  // namespace
+
 void AttributedLine::setLine(const QVariant& line) {
   m_line = line;
   emit changed();
@@ -21,15 +64,14 @@ bool AttributedLine::isPlain() const {
 }
 
 QString AttributedLine::text() const {
-  const TextRuns present = runs();
+  TextRuns present = runs();
   if (isPlain()) return plainText(present);
+  joinLetters(present);
   QString text;
   for (const TextRun& run : present) {
-    // Blanks at the edge of a tag would be dropped by the markup.
-    const QString escaped = run.text.toHtmlEscaped().replace(u' ', QStringLiteral("&nbsp;"));
     text += run.style == TextRun::Style::bold
-                ? QStringLiteral("<font color=\"%1\"><b>%2</b></font>").arg(m_hitColor.name(), escaped)
-                : escaped;
+                ? QStringLiteral("<font color=\"%1\"><b>%2</b></font>").arg(m_hitColor.name(), markup(run.text))
+                : markup(run.text);
   }
   return text;
 }

@@ -5,7 +5,7 @@
 namespace quillmonger {
 
 ClipboardViewAdapter::ClipboardViewAdapter(const History& history)
-    : m_history(history), m_rows(history.pictureColors), m_selectedItem(history.selectedItem.value()) {
+    : m_history(history), m_rows(history.inspection), m_selectedItem(history.selectedItem.value()) {
   m_rowsSubscription = history.filteredItems.follow([this](const HistoryListModel::Rows& rows) { takeRows(rows); });
   m_selectionSubscription = history.selectedItem.subscribe([this](const Item& item) { takeSelection(item); });
   m_optionSubscription = history.isOptionPressed.subscribe([this](bool) { emit isOptionPressedChanged(); });

@@ -30,7 +30,7 @@ class ClipboardViewAdapter final : public QObject {
     /// Whether nothing is in the history at all, whatever is searched for.
     std::function<bool()> isEmpty;
     std::function<void(const Item&)> select;
-    PictureColors& pictureColors;
+    ItemInspection& inspection;
   };
 
   explicit ClipboardViewAdapter(const History& history);

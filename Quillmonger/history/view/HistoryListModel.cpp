@@ -25,19 +25,11 @@ QColor screenColor(const RGBColor& rgb) {
                           static_cast<float>(rgb.blue()));
 }
 
-QVariant textColor(const ClipboardItemViewModel& item) {
-  if (!item.hasOculetResults()) return {};
-  const auto results = item.oculetResults();
-  const auto* const color = colorResult(*results);
-  if (color == nullptr) return {};
-  return screenColor(colorComponents(*color, ColorSpace::genericRGB));
-}
-
 }  // namespace
 
-HistoryListModel::HistoryListModel(PictureColors& pictureColors)
-    : m_pictureColors(pictureColors),
-      m_colorSubscription(pictureColors.found().subscribe([this](const auto& item) { updateImageColor(item); })) {}
+HistoryListModel::HistoryListModel(ItemInspection& inspection)
+    : m_inspection(inspection),
+      m_findings(inspection.found().subscribe([this](const auto& item) { takeFindings(item); })) {}
 
 int HistoryListModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(m_rows->size());
@@ -56,7 +48,7 @@ QVariant HistoryListModel::data(const QModelIndex& index, int role) const {
     case appNameRole:
       return QString::fromStdString(row.item->appName().value_or(std::string()));
     case hasOculetResultsRole:
-      return row.item->hasOculetResults();
+      return m_inspection.hasOculetResults(row.item->shared_from_this());
     case textColorRole:
       return textColor(*row.item);
     case isImageRole:
@@ -84,13 +76,18 @@ QHash<int, QByteArray> HistoryListModel::roleNames() const {
 
 QVariant HistoryListModel::imageColor(ClipboardItemViewModel& item) const {
   if (!item.isImage()) return {};
-  const auto color = m_pictureColors.color(item.shared_from_this());
+  const auto color = m_inspection.imageColor(item.shared_from_this());
   return color ? screenColor(*color) : QVariant();
 }
 
-void HistoryListModel::updateImageColor(const PictureColors::Item& item) {
+QVariant HistoryListModel::textColor(ClipboardItemViewModel& item) const {
+  const auto color = m_inspection.textColor(item.shared_from_this());
+  return color ? screenColor(colorComponents(*color, ColorSpace::genericRGB)) : QVariant();
+}
+
+void HistoryListModel::takeFindings(const ItemInspection::Item& item) {
   const int row = rowOf(item);
-  if (row >= 0) emit dataChanged(index(row), index(row), {imageColorRole});
+  if (row >= 0) emit dataChanged(index(row), index(row), {imageColorRole, hasOculetResultsRole, textColorRole});
 }
 
 // What stays at both ends is left alone; what lies between goes, and what lies between in the new rows comes.

@@ -3,7 +3,7 @@
 #include <QtQml/qqmlregistration.h>
 #include <QAbstractListModel>
 
-#include "Quillmonger/history/PictureColors.h"
+#include "Quillmonger/history/ItemInspection.h"
 #include "Quillmonger/search/SearchResult.h"
 
 namespace quillmonger {
@@ -22,16 +22,16 @@ class HistoryListModel : public QAbstractListModel {
     attributedLineRole,       ///< the same with the hit, a `RowLine`
     iconPathRole,             ///< the source application's desktop entry; empty when there is none
     appNameRole,              ///< the source application's name
-    hasOculetResultsRole,     ///< whether anything was recognised in the text
-    textColorRole,            ///< the colour that the text names; undefined when it names none
+    hasOculetResultsRole,     ///< whether anything was recognised in the text; false until it is known
+    textColorRole,            ///< the colour that the text names; undefined until it is known, and when it names none
     isImageRole,
     imageColorRole,  ///< the picture's average colour; undefined until it is known, and where there is none
     isFileURLRole
   };
   enum class Change { gradual, reset };
 
-  /// `pictureColors` outlives this object.
-  explicit HistoryListModel(PictureColors& pictureColors);
+  /// `inspection` outlives this object.
+  explicit HistoryListModel(ItemInspection& inspection);
 
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
@@ -46,12 +46,13 @@ class HistoryListModel : public QAbstractListModel {
 
  private:
   [[nodiscard]] QVariant imageColor(ClipboardItemViewModel& item) const;
-  void updateImageColor(const PictureColors::Item& item);
+  [[nodiscard]] QVariant textColor(ClipboardItemViewModel& item) const;
+  void takeFindings(const ItemInspection::Item& item);
   void updateMatches(const Rows& before);
 
-  PictureColors& m_pictureColors;
+  ItemInspection& m_inspection;
   Rows m_rows = std::make_shared<const SearchResultList<ClipboardItemViewModel>>();
-  foundation::Subscription m_colorSubscription;
+  foundation::Subscription m_findings;
 };
 
 }  // namespace quillmonger

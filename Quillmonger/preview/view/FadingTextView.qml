@@ -10,16 +10,8 @@ ListView {
     required property PreviewModel preview
     required property Theme theme
 
-    // The keyboard came to the list by a click, which needs no ring to show it.
-    property bool isPointedAt: false
-
     readonly property real textTop: originY + (headerItem ? headerItem.height : 0)
     readonly property real textBottom: footerItem ? footerItem.y : textTop
-
-    function point() {
-        isPointedAt = true
-        forceActiveFocus(Qt.MouseFocusReason)
-    }
 
     function scrollBy(distance: real) {
         contentY += distance
@@ -31,24 +23,23 @@ ListView {
     clip: true
     boundsBehavior: Flickable.StopAtBounds
     keyNavigationEnabled: false
-    // No piece has the keyboard instead of the list.
     currentIndex: -1
     // The height of the whole text counts where its end fades out. There are few pieces then, unless the characters of
     // the text are absurdly long.
     cacheBuffer: preview.isTextHidden && count <= 128 ? 1000000 : 400
-    activeFocusOnTab: true
-    onActiveFocusChanged: isPointedAt = isPointedAt && activeFocus
     Accessible.role: Accessible.Pane
     Accessible.name: qsTrId("preview_text")
-    Accessible.focusable: true
+
+    Connections {
+        target: list.preview
+        function onScrollRequested(pages) { list.scrollBy(pages * list.height * 0.9) }
+    }
 
     delegate: TextPiece {
         x: list.theme.previewMargin
         width: ListView.view.width - 2 * list.theme.previewMargin
         selection: list.preview.selection
         theme: list.theme
-        partAt: height => list.itemAt(list.width / 2, height)
-        onPressed: list.point()
     }
 
     footer: Item {
@@ -61,6 +52,58 @@ ListView {
             visible: list.preview.isTextHidden
             theme: list.theme
             onSettingsRequested: list.preview.showAppearanceSettings()
+        }
+    }
+
+    // Selects text. It is no part of a piece, which goes when it is scrolled away.
+    MouseArea {
+        id: pointer
+        objectName: "TextPointer"
+
+        // Where the pointer is, from the list's own edge, and how far beyond it.
+        property point place
+        readonly property real beyond: place.y < 0 ? place.y : Math.max(0, place.y - list.height)
+
+        function pieceAt(height: real): TextPiece {
+            return list.itemAt(list.width / 2, Math.max(list.textTop, Math.min(list.textBottom - 1, height)))
+        }
+
+        function extend() {
+            const height = list.contentY + Math.max(0, Math.min(list.height - 1, place.y))
+            const piece = pieceAt(height)
+            if (piece) piece.selectTo(place.x - piece.x, height - piece.y)
+        }
+
+        parent: list.contentItem
+        y: list.textTop
+        z: 3
+        width: list.width
+        height: list.textBottom - list.textTop
+        cursorShape: Qt.IBeamCursor
+        preventStealing: true
+        onPressed: mouse => {
+            place = Qt.point(mouse.x, mouse.y + y - list.contentY)
+            const piece = pieceAt(mouse.y + y)
+            if (piece) piece.selectFrom(mouse.x - piece.x, mouse.y + y - piece.y)
+        }
+        onPositionChanged: mouse => {
+            place = Qt.point(mouse.x, mouse.y + y - list.contentY)
+            extend()
+        }
+        onDoubleClicked: mouse => {
+            const piece = pieceAt(mouse.y + y)
+            if (piece) piece.selectWordAt(mouse.x - piece.x, mouse.y + y - piece.y)
+        }
+
+        // The further beyond the edge, the faster.
+        Timer {
+            interval: 16
+            repeat: true
+            running: pointer.pressed && pointer.beyond !== 0
+            onTriggered: {
+                list.scrollBy(pointer.beyond / 4)
+                pointer.extend()
+            }
         }
     }
 
@@ -78,18 +121,5 @@ ListView {
             GradientStop { position: 0; color: Qt.alpha(list.theme.window, 0) }
             GradientStop { position: 0.5; color: list.theme.window }
         }
-    }
-
-    Keys.onShortcutOverride: event => event.accepted = event.matches(StandardKey.Copy)
-                                                       || event.matches(StandardKey.SelectAll)
-    Keys.onPressed: event => {
-        event.accepted = true
-        if (event.matches(StandardKey.Copy)) preview.copySelection()
-        else if (event.matches(StandardKey.SelectAll)) preview.selectAll()
-        else if (event.matches(StandardKey.MoveToNextPage)) scrollBy(height * 0.9)
-        else if (event.matches(StandardKey.MoveToPreviousPage)) scrollBy(-height * 0.9)
-        else if (event.matches(StandardKey.MoveToStartOfLine)) positionViewAtBeginning()
-        else if (event.matches(StandardKey.MoveToEndOfLine)) positionViewAtEnd()
-        else event.accepted = false
     }
 }

@@ -53,7 +53,6 @@ Column {
             id: link
             objectName: "AppearanceSettingsButton"
             width: Math.min(implicitWidth, parent.width)
-            activeFocusOnTab: true
             wrapMode: Text.WordWrap
             renderType: Text.NativeRendering
             font { pixelSize: notice.theme.hintFontSize; underline: hover.hovered }
@@ -61,20 +60,7 @@ Column {
             text: qsTrId("preview_appearance_settings_button")
             Accessible.role: Accessible.Link
             Accessible.name: text
-            Accessible.focusable: true
             Accessible.onPressAction: notice.settingsRequested()
-            Keys.onReturnPressed: notice.settingsRequested()
-            Keys.onEnterPressed: notice.settingsRequested()
-            Keys.onSpacePressed: notice.settingsRequested()
-
-            // Keys that stay with this control in every window.
-            readonly property var ownKeys: [Qt.Key_Return]
-
-            FocusRing {
-                radius: 3
-                control: link
-                theme: notice.theme
-            }
 
             HoverHandler {
                 id: hover

@@ -14,6 +14,8 @@ OculetPanel {
         width: parent.width
         rows: panel.preview.dateRows
         theme: panel.theme
+        selectedValue: panel.preview.selectedValue
+        onSelected: value => panel.preview.selectedValue = value
         onCopied: value => panel.preview.copy(value)
     }
 }

@@ -9,7 +9,10 @@ Column {
     required property var rows
     required property Theme theme
     property int labelSpacing: 8
+    // The part of a value that the pane has as its selection.
+    required property string selectedValue
     signal copied(string value)
+    signal selected(string value)
 
     readonly property real labelMaxWidth: Math.min(labels.implicitWidth, width * 0.4)
 
@@ -67,20 +70,24 @@ Column {
                 horizontalAlignment: TextEdit.AlignLeft
                 readOnly: true
                 selectByMouse: true
+                activeFocusOnPress: false
+                persistentSelection: true
                 wrapMode: TextEdit.Wrap
                 renderType: TextEdit.NativeRendering
                 font.pixelSize: column.theme.previewFontSize
                 color: column.theme.primary
-                selectionColor: column.theme.highlightColor
+                selectionColor: column.theme.selectionColor
                 selectedTextColor: column.theme.selectedPrimary
                 text: row.modelData.value
                 Accessible.role: Accessible.StaticText
                 Accessible.name: label.text + " " + text
+                onSelectedTextChanged: if (selectedText !== "") column.selected(selectedText)
 
-                Keys.onShortcutOverride: event => event.accepted = event.matches(StandardKey.Copy)
-                Keys.onPressed: event => {
-                    event.accepted = event.matches(StandardKey.Copy)
-                    if (event.accepted && selectedText !== "") column.copied(selectedText)
+                Connections {
+                    target: column
+                    function onSelectedValueChanged() {
+                        if (value.selectedText !== column.selectedValue) value.deselect()
+                    }
                 }
             }
 

@@ -79,14 +79,6 @@ Item {
         }
     }
 
-    FocusRing {
-        anchors.margins: 2
-        radius: 6
-        visible: text.Window.activeFocusItem === text && !text.isPointedAt
-        control: text
-        theme: content.theme
-    }
-
     ScrollIndicator {
         objectName: "PreviewScrollIndicator"
         anchors { top: parent.top; bottom: parent.bottom; right: parent.right; margins: 3; topMargin: 8 }

@@ -18,6 +18,8 @@ Item {
         elide: Text.ElideRight
         font.pixelSize: theme.hintFontSize
         color: theme.secondary
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
     }
 
     objectName: "PreviewFooter"
@@ -62,6 +64,8 @@ Item {
             font.pixelSize: footer.theme.previewFontSize
             color: footer.theme.primary
             text: footer.preview.appName
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
 
         Fact {
@@ -92,6 +96,8 @@ Item {
             font.pixelSize: footer.theme.previewFontSize
             color: footer.theme.primary
             text: footer.preview.relativeDate
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
 
         Fact {

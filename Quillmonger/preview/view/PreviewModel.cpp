@@ -25,6 +25,9 @@ QVariantList rows(const std::vector<OculetRow>& rows) {
 
 PreviewModel::PreviewModel(Collaborators collaborators)
     : m_with(std::move(collaborators)), m_decoding(m_with.backgroundQueue, m_with.runLoop) {
+  connect(&m_selection, &TextSelection::changed, this, [this] {
+    if (!m_selection.isEmpty()) setSelectedValue({});
+  });
   auto& preview = m_with.preview;
   m_subscriptions.push_back(preview.content().follow([this](const PreviewContent& content) { takeContent(content); }));
   m_subscriptions.push_back(preview.footer().subscribe([this](const PreviewFooter&) { emit footerChanged(); }));
@@ -63,6 +66,7 @@ void PreviewModel::takeContent(const PreviewContent& content) {
   m_dateRows = date != nullptr ? rows(quillmonger::dateRows(date->date)) : QVariantList();
   m_colorRows = color != nullptr ? rows(quillmonger::colorRows(*color)) : QVariantList();
   m_selection.clear();
+  setSelectedValue({});
   // A view lets go of a whole text in one step; changes to a list would reach it while it still lays out the old one.
   const auto before = std::exchange(m_text, std::make_unique<TextPiecesModel>(content.text));
   emit contentChanged();
@@ -95,9 +99,21 @@ void PreviewModel::copyMinifiedJson() { copyJson(JsonForm::minified); }
 
 void PreviewModel::copyJson(JsonForm form) { m_with.copying.copyJson(m_with.preview.content().value().results, form); }
 
-void PreviewModel::copySelection() {
-  if (m_selection.isEmpty()) return;
+void PreviewModel::setSelectedValue(const QString& value) {
+  if (value == m_selectedValue) return;
+  m_selectedValue = value;
+  if (!value.isEmpty()) m_selection.clear();
+  emit selectedValueChanged();
+}
+
+bool PreviewModel::copySelection() {
+  if (!m_selectedValue.isEmpty()) {
+    copy(m_selectedValue);
+    return true;
+  }
+  if (m_selection.isEmpty()) return false;
   m_with.copying.copy([pieces = m_text->pieces(), range = m_selection.range()] { return selectedText(pieces, range); });
+  return true;
 }
 
 void PreviewModel::selectAll() {

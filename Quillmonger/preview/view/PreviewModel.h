@@ -33,6 +33,7 @@ class PreviewModel final : public QObject {
   Q_PROPERTY(bool isTextHidden READ isTextHidden NOTIFY contentChanged)
   Q_PROPERTY(TextPiecesModel* text READ text NOTIFY contentChanged)
   Q_PROPERTY(TextSelection* selection READ selection CONSTANT)
+  Q_PROPERTY(QString selectedValue READ selectedValue WRITE setSelectedValue NOTIFY selectedValueChanged)
   Q_PROPERTY(QString details READ details NOTIFY contentChanged)
   Q_PROPERTY(QString iconPath READ iconPath NOTIFY footerChanged)
   Q_PROPERTY(QString appName READ appName NOTIFY footerChanged)
@@ -68,6 +69,9 @@ class PreviewModel final : public QObject {
   [[nodiscard]] bool isTextHidden() const { return m_with.preview.content().value().isTextHidden; }
   [[nodiscard]] TextPiecesModel* text() { return m_text.get(); }
   [[nodiscard]] TextSelection* selection() { return &m_selection; }
+  /// What is selected of a value in a panel. Only one of it and `selection` isn't empty.
+  [[nodiscard]] QString selectedValue() const { return m_selectedValue; }
+  void setSelectedValue(const QString& value);
   [[nodiscard]] QString details() const;
   /// The source application's desktop entry; empty when there is none.
   [[nodiscard]] QString iconPath() const;
@@ -79,10 +83,12 @@ class PreviewModel final : public QObject {
   Q_INVOKABLE void copy(const QString& text);
   Q_INVOKABLE void copyBeautifiedJson();
   Q_INVOKABLE void copyMinifiedJson();
-  /// Nothing happens while nothing is selected.
-  Q_INVOKABLE void copySelection();
-  Q_INVOKABLE void selectAll();
   Q_INVOKABLE void showAppearanceSettings() { m_with.showAppearanceSettings(); }
+
+  /// False, and nothing is copied, while nothing is selected.
+  [[nodiscard]] bool copySelection();
+  /// All of the text.
+  void selectAll();
 
  signals:
   /// Another item, or none, is on show.
@@ -91,6 +97,9 @@ class PreviewModel final : public QObject {
   void contentChanged();
   void footerChanged();
   void showScrollbarChanged();
+  void selectedValueChanged();
+  /// By pages down, or up when negative.
+  void scrollRequested(int pages);
 
  private:
   void takeItem(const PreviewViewModel::Item& item);
@@ -101,6 +110,7 @@ class PreviewModel final : public QObject {
   Collaborators m_with;
   std::unique_ptr<TextPiecesModel> m_text;
   TextSelection m_selection;
+  QString m_selectedValue;
   QVariantList m_dateRows;
   QVariantList m_colorRows;
   QImage m_picture;

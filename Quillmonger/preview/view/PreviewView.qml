@@ -2,9 +2,8 @@ import QtQuick
 import Quillmonger.Preview
 import Quillmonger.Resources
 
-// The content of the preview window: a pane at the window's edge beside the history. The rest of the window is left
-// out of it, whichever width the window has.
-FocusScope {
+// The content of the preview window: a pane of fixed width.
+Item {
     id: view
 
     required property PreviewModel preview
@@ -15,15 +14,15 @@ FocusScope {
 
     readonly property Theme theme: Theme { isDark: view.appearance.isDark }
 
-    implicitWidth: 600
+    implicitWidth: theme.previewWidth
     implicitHeight: 445
-    focus: true
     LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
 
-    WindowShape {
+    Item {
         id: pane
         objectName: "PreviewView"
+        // Always beside the history, also where the user reads from the right.
         x: 0
         width: view.theme.previewWidth
         height: view.height

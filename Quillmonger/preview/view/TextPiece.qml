@@ -11,16 +11,17 @@ TextEdit {
 
     required property TextSelection selection
     required property Theme theme
-    // Gives the part at a height of the list; null where there is none.
-    required property var partAt
-    signal pressed()
 
     function showSelection() {
         select(selection.startIn(index, length), selection.endIn(index, length))
     }
 
-    function extendTo(other: TextPiece, x: real, y: real) {
-        selection.extend(other.index, other.positionAt(x, y - other.y))
+    function selectFrom(x: real, y: real) {
+        selection.begin(index, positionAt(x, y))
+    }
+
+    function selectTo(x: real, y: real) {
+        selection.extend(index, positionAt(x, y))
     }
 
     function selectWordAt(x: real, y: real) {
@@ -43,7 +44,7 @@ TextEdit {
     renderType: TextEdit.NativeRendering
     font.pixelSize: theme.previewFontSize
     color: theme.primary
-    selectionColor: theme.highlightColor
+    selectionColor: theme.selectionColor
     selectedTextColor: theme.selectedPrimary
     Accessible.role: Accessible.StaticText
     Accessible.name: text
@@ -57,17 +58,5 @@ TextEdit {
     Connections {
         target: part.selection
         function onChanged() { part.showSelection() }
-    }
-
-    MouseArea {
-        anchors.fill: parent
-        cursorShape: Qt.IBeamCursor
-        preventStealing: true
-        onPressed: mouse => {
-            part.pressed()
-            part.selection.begin(part.index, part.positionAt(mouse.x, mouse.y))
-        }
-        onPositionChanged: mouse => part.extendTo(part.partAt(part.y + mouse.y) ?? part, mouse.x, part.y + mouse.y)
-        onDoubleClicked: mouse => part.selectWordAt(mouse.x, mouse.y)
     }
 }

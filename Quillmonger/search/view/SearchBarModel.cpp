@@ -7,10 +7,10 @@
 namespace quillmonger {
 
 SearchBarModel::SearchBarModel(foundation::Published<std::string>& searchTerm, defaults::Defaults& defaults,
-                               std::function<std::string()> clipboardText, std::function<void()> togglePreview)
+                               std::function<std::string()> clipboardText, Preview preview)
     : m_searchTerm(searchTerm),
       m_clipboardText(std::move(clipboardText)),
-      m_togglePreview(std::move(togglePreview)),
+      m_preview(std::move(preview)),
       m_termSubscription(searchTerm.subscribe([this](const std::string&) { emit searchTermChanged(); })) {
   m_incognitoSubscription =
       defaults.updates<bool>(keys::isIncognitoMode, defaults::Defaults::Initial::yes, [this](const bool& isOn) {

@@ -37,18 +37,27 @@ FocusScope {
         renderType: Text.NativeRendering
         font { pixelSize: bar.theme.searchFontSize; weight: Font.Light }
         color: bar.theme.primary
-        selectionColor: bar.theme.highlightColor
+        selectionColor: bar.theme.selectionColor
         selectedTextColor: bar.theme.selectedPrimary
         text: bar.model.searchTerm
         onTextEdited: bar.model.searchTerm = text
+
         // The toolkit's own paste would wait for the clipboard's owner, however long that takes.
+        function pasteText() {
+            remove(selectionStart, selectionEnd)
+            insert(cursorPosition, bar.model.clipboardText())
+            bar.model.searchTerm = text
+        }
+
+        // What the field has no use for is meant for the preview.
         Keys.onPressed: event => {
-            if (event.matches(StandardKey.Paste)) {
-                remove(selectionStart, selectionEnd)
-                insert(cursorPosition, bar.model.clipboardText())
-                bar.model.searchTerm = text
-                event.accepted = true
-            }
+            event.accepted = true
+            if (event.matches(StandardKey.Paste)) pasteText()
+            else if (event.matches(StandardKey.Copy)) event.accepted = bar.model.copyFromPreview()
+            else if (event.matches(StandardKey.SelectAll) && text === "") bar.model.selectAllOfPreview()
+            else if (event.matches(StandardKey.MoveToNextPage)) bar.model.scrollPreview(1)
+            else if (event.matches(StandardKey.MoveToPreviousPage)) bar.model.scrollPreview(-1)
+            else event.accepted = false
         }
         Accessible.role: Accessible.EditableText
         Accessible.name: placeholder.text
@@ -77,8 +86,7 @@ FocusScope {
         id: previewButton
         objectName: "TogglePreviewButton"
         anchors { right: parent.right; rightMargin: 12; verticalCenter: parent.verticalCenter }
-        visible: bar.model.canTogglePreview
-        width: visible ? 32 : 0
+        width: 32
         height: 32
         Accessible.role: Accessible.Button
         Accessible.name: qsTrId("toggle_preview_pane_button_help")
@@ -109,9 +117,6 @@ FocusScope {
 
         Shortcut {
             sequence: "Ctrl+P"
-            // Also while the preview has the keyboard.
-            context: Qt.ApplicationShortcut
-            enabled: previewButton.visible
             onActivated: bar.model.togglePreview()
         }
     }

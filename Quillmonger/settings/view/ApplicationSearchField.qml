@@ -46,7 +46,7 @@ FocusScope {
         renderType: Text.NativeRendering
         font.pixelSize: search.theme.rowFontSize
         color: search.theme.primary
-        selectionColor: search.theme.highlightColor
+        selectionColor: search.theme.selectionColor
         selectedTextColor: search.theme.selectedPrimary
         text: search.model.searchTerm
         onTextEdited: search.model.searchTerm = text

@@ -22,7 +22,7 @@ PreviewFeed::PreviewFeed(Quillmonger& root, const Services& services)
       m_model({m_viewModel, m_copying, services.defaults, services.backgroundQueue, services.runLoop,
                [&root] { root.windowManager().showSettingsWindow(WindowManager::SettingsPane::appearance); }}),
       m_opening({root.clipboardViewModel().selectedItem(), services.notificationCenter, services.defaults,
-                 [&root] { return root.windowManager().isAppWindowVisible(); },
+                 services.inspection, [&root] { return root.windowManager().isAppWindowVisible(); },
                  [&root](double /*padding*/) { root.windowManager().showPreviewWindow(); }}) {}
 
 }  // namespace quillmonger

@@ -21,6 +21,7 @@ class PreviewFeed final {
     defaults::Defaults& defaults;
     foundation::BackgroundQueue& backgroundQueue;
     foundation::RunLoop& runLoop;
+    ItemInspection& inspection;
     Alert& alert;
   };
 

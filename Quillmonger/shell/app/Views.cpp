@@ -46,7 +46,7 @@ Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCach
       m_notificationCenter(notificationCenter),
       m_iconNaming(std::move(iconNaming)),
       m_appearance(defaults),
-      m_pictureColors(applications.backgroundQueue, applications.runLoop),
+      m_inspection(applications.backgroundQueue, applications.runLoop),
       m_historySettings(defaults),
       m_aboutModel(QCoreApplication::applicationVersion(), openOutsidePage),
       m_updateModel(QCoreApplication::applicationVersion().toStdString()),
@@ -68,9 +68,10 @@ Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCach
           {platform::QtQuickWindow::Kind::dialog, QSize(), QString::fromStdString(localizedText("update_window_title")),
            [this] { return updateContent(); }, [this]() -> QQmlEngine& { return engine(); }},
           windowSystem),
-      m_previewPanel({platform::QtQuickWindow::Kind::palette, previewWindowSize, QStringLiteral("Quillmonger Preview"),
-                      [this] { return previewContent(); }, [this]() -> QQmlEngine& { return engine(); }},
-                     windowSystem),
+      m_previewPanel(
+          {platform::QtQuickWindow::Kind::companion, previewWindowSize, QStringLiteral("Quillmonger Preview"),
+           [this] { return previewContent(); }, [this]() -> QQmlEngine& { return engine(); }},
+          windowSystem),
       m_appPicker({applications, m_appearance, [this]() -> QQmlEngine& { return engine(); },
                    [this]() -> QWindow* { return m_settings.view(); }, [this] { return m_clipboardText(); }}) {}
 
@@ -78,14 +79,19 @@ void Views::feed(Quillmonger& root, const Pasteboard& pasteboard, const PanedSet
   ClipboardViewModel& history = root.clipboardViewModel();
   m_clipboardText = [&pasteboard] { return presentText(pasteboard); };
   m_settings.feed(root, services);
-  m_searchBarModel = std::make_unique<SearchBarModel>(root.searchViewModel().searchTerm(), m_defaults, m_clipboardText,
-                                                      [&root] { root.windowManager().togglePreviewWindow(); });
   m_clipboardViewAdapter = std::make_unique<ClipboardViewAdapter>(
       ClipboardViewAdapter::History{history.filteredItems(), history.selectedItem(), history.isOptionPressed(),
                                     [&history] { return history.items().empty(); },
-                                    [&history](const auto& item) { history.select(item); }, m_pictureColors});
+                                    [&history](const auto& item) { history.select(item); }, m_inspection});
   m_previewFeed = std::make_unique<PreviewFeed>(
-      root, PreviewFeed::Services{m_notificationCenter, m_defaults, m_backgroundQueue, m_runLoop, m_alert});
+      root,
+      PreviewFeed::Services{m_notificationCenter, m_defaults, m_backgroundQueue, m_runLoop, m_inspection, m_alert});
+  m_searchBarModel = std::make_unique<SearchBarModel>(
+      root.searchViewModel().searchTerm(), m_defaults, m_clipboardText,
+      SearchBarModel::Preview{[&root] { root.windowManager().togglePreviewWindow(); },
+                              [this] { return m_previewFeed->model()->copySelection(); },
+                              [this] { m_previewFeed->model()->selectAll(); },
+                              [this](int pages) { m_previewFeed->model()->scrollRequested(pages); }});
   m_activateChord = std::make_unique<keyboardshortcuts::ShortcutText>(shortcutname::activate(), services.shortcuts,
                                                                       services.inputSources, m_notificationCenter);
   m_guideFeed =

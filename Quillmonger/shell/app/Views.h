@@ -71,7 +71,7 @@ class Views final {
   foundation::NotificationCenter& m_notificationCenter;
   ImageCache::IconNaming m_iconNaming;
   Appearance m_appearance;
-  PictureColors m_pictureColors;
+  ItemInspection m_inspection;
   HistorySettings m_historySettings;
   AboutModel m_aboutModel;
   UpdateModel m_updateModel;

@@ -30,8 +30,6 @@ class WindowSystem {
   [[nodiscard]] virtual std::optional<Pixel> focusedWindowCentre() const = 0;
   /// Gives the window no entry in task list and pager. Before each time that it is shown.
   virtual void keepOutOfTaskList(WindowId window) = 0;
-  /// Gives the shown window no shadow, which a compositor would draw around all of it, also around what isn't there.
-  virtual void withholdShadow(WindowId window) = 0;
   /// Raises the shown window and gives it the keyboard, also past a window manager that guards the user's focus.
   virtual void bringToFront(WindowId window) = 0;
 };

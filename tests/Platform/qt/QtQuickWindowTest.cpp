@@ -6,7 +6,6 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
-#include <QRegion>
 #include <QScreen>
 #include <QTemporaryFile>
 #include <QTest>
@@ -25,13 +24,11 @@ class FakeWindowSystem final : public quillmonger::WindowSystem {
   [[nodiscard]] bool blendsTransparency() const override { return isBlending; }
   [[nodiscard]] std::optional<Pixel> focusedWindowCentre() const override { return focused; }
   void keepOutOfTaskList(WindowId /*window*/) override { ++keptOutCount; }
-  void withholdShadow(WindowId /*window*/) override { ++shadowlessCount; }
   void bringToFront(WindowId /*window*/) override { ++frontCount; }
 
   bool isBlending = true;
   std::optional<Pixel> focused;
   int keptOutCount = 0;
-  int shadowlessCount = 0;
   int frontCount = 0;
 };
 
@@ -120,23 +117,36 @@ TEST_F(QtQuickWindowTest, StandsBehindTheFrontWithoutAskingForIt) {
   EXPECT_EQ(m_system.keptOutCount, 1);
 }
 
-TEST_F(QtQuickWindowTest, PaneIsAsWideAsTheMaskOfTheWindow) {
-  EXPECT_EQ(m_window.paneWidth(), 300);
+TEST_F(QtQuickWindowTest, NeverTakesTheKeyboardAsACompanion) {
+  auto companion = description();
+  companion.kind = QtQuickWindow::Kind::companion;
+  QtQuickWindow window(companion, m_system);
 
-  m_window.view()->setMask(QRegion(0, 0, 120, 200));
+  window.orderFront();
 
-  EXPECT_EQ(m_window.paneWidth(), 120);
+  EXPECT_TRUE(window.view()->flags().testFlag(Qt::WindowDoesNotAcceptFocus));
+  EXPECT_EQ(window.view()->flags() & ~Qt::WindowDoesNotAcceptFocus, [this] {
+    m_window.prepare();
+    return m_window.view()->flags();
+  }());
 }
 
-TEST_F(QtQuickWindowTest, HasNoShadowWhereAMaskLeavesNothingToCastOne) {
-  m_window.orderFront();
-  EXPECT_EQ(m_system.shadowlessCount, 0);
-  m_window.orderOut();
+TEST_F(QtQuickWindowTest, IsNoWiderThanACompanionsContentWhateverItsFrame) {
+  QTemporaryFile file(QStringLiteral("XXXXXX.qml"));
+  file.open();
+  file.write("import QtQuick\nItem { implicitWidth: 120; property bool blendsTransparency }");
+  file.close();
+  auto companion = description();
+  companion.kind = QtQuickWindow::Kind::companion;
+  companion.content = [&file] { return QtQuickWindow::Content{QUrl::fromLocalFile(file.fileName()), {}}; };
+  QtQuickWindow window(companion, m_system);
+  EXPECT_EQ(window.frame(), (quillmonger::WindowFrame{0, 200, 300, 200}));
 
-  m_window.view()->setMask(QRegion(0, 0, 120, 200));
-  m_window.orderFront();
+  window.setFrame({40, 300, 310, 210});
 
-  EXPECT_TRUE(QTest::qWaitFor([this] { return m_system.shadowlessCount > 0; }));
+  EXPECT_EQ(window.paneWidth(), 120);
+  EXPECT_EQ(window.frame(), (quillmonger::WindowFrame{40, 300, 310, 210}));
+  EXPECT_EQ(window.view()->geometry(), QRect(40, 90, 120, 210));
 }
 
 TEST_F(QtQuickWindowTest, MakesRoomAtItsRightOnlyWhereItIsMissing) {

@@ -89,12 +89,6 @@ TEST_F(X11WindowSystem, KnowsTheMiddleOfTheWindowThatHasTheKeyboard) {
   EXPECT_EQ(m_system->focusedWindowCentre(), (quillmonger::WindowSystem::Pixel{250, 150}));
 }
 
-TEST_F(X11WindowSystem, WithholdsAWindowsShadow) {
-  m_system->withholdShadow(m_first.window());
-
-  EXPECT_TRUE(m_runLoop.runUntil([this] { return m_first.windowNumber("_COMPTON_SHADOW") == 0U; }));
-}
-
 TEST_F(X11WindowSystem, TakesTheDesktopForNoFocusedWindow) {
   m_first.setWindowAtom("_NET_WM_WINDOW_TYPE", "_NET_WM_WINDOW_TYPE_DESKTOP");
   m_first.claimActive();

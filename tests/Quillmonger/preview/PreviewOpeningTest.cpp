@@ -7,8 +7,10 @@
 #include <vector>
 
 #include "Quillmonger/settings/SettingsKeys.h"
+#include "tests/support/InlineBackgroundQueue.h"
 #include "tests/support/ItemServices.h"
 #include "tests/support/Records.h"
+#include "tests/support/VirtualRunLoop.h"
 
 namespace {
 
@@ -31,7 +33,11 @@ class PreviewOpeningTest : public testing::Test, protected testsupport::ItemServ
   foundation::NotificationCenter notificationCenter;
   bool isMainWindowVisible = true;
   std::vector<double> shown;
-  PreviewOpening opening{{selectedItem, notificationCenter, settings.defaults, [this] { return isMainWindowVisible; },
+  testsupport::InlineBackgroundQueue queue;
+  testsupport::VirtualRunLoop runLoop;
+  ItemInspection inspection{queue, runLoop};
+  PreviewOpening opening{{selectedItem, notificationCenter, settings.defaults, inspection,
+                          [this] { return isMainWindowVisible; },
                           [this](double padding) { shown.push_back(padding); }}};
 };
 
@@ -47,6 +53,26 @@ TEST_F(PreviewOpeningTest, OpensForADateAColorAndJson) {
   select(itemOf("{\"a\": 1}"));
 
   EXPECT_EQ(shown.size(), 3U);
+}
+
+TEST_F(PreviewOpeningTest, OpensForALongDocumentOnceItIsKnownToBeOne) {
+  select(itemOf("[\"" + std::string(100'000, 'x') + "\"]"));
+  EXPECT_TRUE(shown.empty());
+
+  queue.run();
+  runLoop.runPosted();
+
+  EXPECT_EQ(shown, std::vector<double>{6});
+}
+
+TEST_F(PreviewOpeningTest, StaysClosedForALongDocumentThatIsNoLongerSelected) {
+  select(itemOf("[\"" + std::string(100'000, 'x') + "\"]"));
+  select(itemOf("plain"));
+
+  queue.run();
+  runLoop.runPosted();
+
+  EXPECT_TRUE(shown.empty());
 }
 
 TEST_F(PreviewOpeningTest, StaysClosedForAPlainText) {

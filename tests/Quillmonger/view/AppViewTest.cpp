@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -38,6 +40,11 @@ class AppView : public testing::Test {
 
   [[nodiscard]] QPoint middleOf(QQuickItem* item) const {
     return item->mapToScene(item->boundingRect().center()).toPoint();
+  }
+
+  void activate() {
+    m_stage.view().requestActivate();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return m_stage.view().isActive(); }));
   }
 
   ViewStage m_stage;
@@ -104,12 +111,48 @@ TEST_F(AppView, ShowsTheIncognitoIconAtOnce) {
 
 TEST_F(AppView, TogglesThePreviewByButtonAndByControlP) {
   QTest::mouseClick(&m_stage.view(), Qt::LeftButton, {}, middleOf(m_stage.find("TogglePreviewButton")));
-  EXPECT_EQ(m_stage.previewToggleCount(), 1);
+  EXPECT_EQ(m_stage.previewCommands(), std::vector<std::string>{"toggle"});
 
-  m_stage.view().requestActivate();
-  ASSERT_TRUE(QTest::qWaitFor([this] { return m_stage.view().isActive(); }));
+  activate();
   QTest::keyClick(&m_stage.view(), Qt::Key_P, Qt::ControlModifier);
-  EXPECT_EQ(m_stage.previewToggleCount(), 2);
+  EXPECT_EQ(m_stage.previewCommands(), (std::vector<std::string>{"toggle", "toggle"}));
+}
+
+TEST_F(AppView, CopiesFromThePreviewWhatIsSelectedThere) {
+  activate();
+  QTest::keyClick(&m_stage.view(), Qt::Key_A);
+  QTest::keyClick(&m_stage.view(), Qt::Key_A, Qt::ControlModifier);
+  QGuiApplication::clipboard()->setText("before");
+
+  m_stage.setPreviewSelection(true);
+  QTest::keyClick(&m_stage.view(), Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(m_stage.previewCommands(), std::vector<std::string>{"copy"});
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), "before");
+
+  m_stage.setPreviewSelection(false);
+  QTest::keyClick(&m_stage.view(), Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), "a");
+}
+
+TEST_F(AppView, SelectsThePreviewsTextOnlyWhileTheFieldIsEmpty) {
+  activate();
+
+  QTest::keyClick(&m_stage.view(), Qt::Key_A, Qt::ControlModifier);
+  EXPECT_EQ(m_stage.previewCommands(), std::vector<std::string>{"select all"});
+
+  QTest::keyClick(&m_stage.view(), Qt::Key_X);
+  QTest::keyClick(&m_stage.view(), Qt::Key_A, Qt::ControlModifier);
+  EXPECT_EQ(m_stage.previewCommands().size(), 1U);
+  EXPECT_EQ(m_stage.find("SearchTextField")->property("selectedText").toString(), "x");
+}
+
+TEST_F(AppView, ScrollsThePreviewByPages) {
+  activate();
+
+  QTest::keyClick(&m_stage.view(), Qt::Key_PageDown);
+  QTest::keyClick(&m_stage.view(), Qt::Key_PageUp);
+
+  EXPECT_EQ(m_stage.previewCommands(), (std::vector<std::string>{"scroll 1", "scroll -1"}));
 }
 
 TEST_F(AppView, KeepsTheSelectedRowInViewFarDownAndUpAgain) {

@@ -85,7 +85,7 @@ TEST_F(HistoryAccessibility, NamesTheButtonOfThePreviewAndPressesIt) {
   EXPECT_EQ(name(button), "Show or hide the preview");
 
   button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-  EXPECT_EQ(m_stage.previewToggleCount(), 1);
+  EXPECT_EQ(m_stage.previewCommands(), std::vector<std::string>{"toggle"});
 }
 
 TEST_F(HistoryAccessibility, SaysThatCopiesAreNotKept) {

@@ -40,7 +40,7 @@ class HistoryListModelTest : public testing::Test {
 
   ViewStage m_stage;
   std::vector<ViewStage::Item> m_items;
-  HistoryListModel m_model{m_stage.pictureColors()};
+  HistoryListModel m_model{m_stage.inspection()};
   QAbstractItemModelTester m_tester;
 };
 

@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+#include "Quillmonger/resources/EmojiFont.h"
 #include "Quillmonger/settings/SettingsKeys.h"
 #include "tests/gallery/ViewStage.h"
 
@@ -34,6 +35,26 @@ class HistoryRow : public testing::Test {
 
   ViewStage m_stage;
 };
+
+TEST_F(HistoryRow, ShowsEmojiInColourAsOneWithAllThatBelongsToThem) {
+  if (quillmonger::colourEmojiFamily().isEmpty()) GTEST_SKIP() << "no font here has emoji in colour";
+  m_stage.show({m_stage.makeItem("1"), m_stage.makeItem("👍"), m_stage.makeItem("👍🏽")});
+  const QImage picture = m_stage.picture();
+  const auto isColourful = [&picture](QQuickItem* line) {
+    const QRect area = line->mapRectToScene(line->boundingRect()).toAlignedRect();
+    for (int x = area.left(); x < area.right(); ++x)
+      for (int y = area.top(); y < area.bottom(); ++y)
+        if (picture.pixelColor(x, y).hslSaturation() > 128 && picture.pixelColor(x, y).hslHue() < 90) return true;
+    return false;
+  };
+
+  const auto lines = m_stage.findAll("ClipboardItemText");
+
+  EXPECT_FALSE(isColourful(lines.at(0)));
+  EXPECT_TRUE(isColourful(lines.at(1)));
+  EXPECT_TRUE(isColourful(lines.at(2)));
+  EXPECT_EQ(lines.at(2)->implicitWidth(), lines.at(1)->implicitWidth());
+}
 
 TEST_F(HistoryRow, ShowsAGradientOfAPicturesColourInTheTextsPlace) {
   showRedPicture();

@@ -38,6 +38,24 @@ class LineCutting : public testing::Test {
   static bool haveSameStart(const QImage& one, const QImage& other) {
     return one.copy(0, 0, 4 * cell, one.height()) == other.copy(0, 0, 4 * cell, other.height());
   }
+  // Where the middle of the darkest ink is, of the line's width: a hit is darker than what stands around it.
+  static double middleOfDarkest(const QImage& line, qreal width) {
+    int darkest = 255;
+    const auto forEach = [&line](const auto& visit) {
+      for (int x = 0; x < line.width(); ++x)
+        for (int y = 0; y < line.height(); ++y)
+          visit(x, qGray(line.pixel(x, y)));
+    };
+    forEach([&](int, int gray) { darkest = std::min(darkest, gray); });
+    double sum = 0;
+    int count = 0;
+    forEach([&](int x, int gray) {
+      if (gray > darkest + 20) return;
+      sum += x;
+      ++count;
+    });
+    return sum / count / width;
+  }
   static std::string words(const std::string& first, const std::string& last) {
     std::string text = first;
     for (int word = 0; word < 60; ++word)
@@ -119,6 +137,17 @@ TEST_F(LineCutting, ShowsAHitInBold) {
 
   EXPECT_NE(one, lineOf("xabcy", TruncationMode::tail, CharacterRange{0, 0}));
   EXPECT_NE(one, lineOf("xabcy", TruncationMode::tail));
+}
+
+TEST_F(LineCutting, ShowsAHitWhereItIsRead) {
+  const std::string hebrew = "שלום עולם טוב";
+  const auto middleOfHit = [&](const std::string& text, const CharacterRange& match) {
+    return middleOfDarkest(lineOf(text, TruncationMode::tail, match), m_width);
+  };
+
+  EXPECT_LT(middleOfHit("one two three", {0, 2}), 0.3) << "at the left";
+  EXPECT_GT(middleOfHit(hebrew, {0, 3}), 0.7) << "at the right";
+  EXPECT_LT(middleOfHit(hebrew, {10, 12}), 0.3);
 }
 
 TEST_F(LineCutting, KeepsTheBlanksAroundAHit) {

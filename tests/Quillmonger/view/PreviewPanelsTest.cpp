@@ -27,6 +27,9 @@ class PreviewPanels : public testing::Test {
     QTest::mouseClick(&m_stage.view(), Qt::LeftButton, {}, item->mapToScene(item->boundingRect().center()).toPoint());
     m_stage.load();
   }
+  void select(std::size_t row, int length) {
+    QMetaObject::invokeMethod(m_stage.findAll("OculetValue").at(row), "select", Q_ARG(int, 0), Q_ARG(int, length));
+  }
 
   testsupport::InLocale m_locale{"en_US"};
   testsupport::InTimeZone m_zone{"Europe/Berlin"};
@@ -120,32 +123,33 @@ TEST_F(PreviewPanels, CopyJsonAsTheButtonSays) {
   EXPECT_EQ(m_stage.alertCount(), 0);
 }
 
-TEST_F(PreviewPanels, LetTheKeyboardReachTheirButtons) {
+TEST_F(PreviewPanels, CopyASelectedPartOfAValue) {
   show("1700000000");
-  m_stage.view().requestActivate();
-  ASSERT_TRUE(QTest::qWaitFor([this] { return m_stage.view().isActive(); }));
+  select(1, 10);
 
-  for (int tabs = 0; tabs < 10 && m_stage.view().activeFocusItem()->objectName() != "CopyButton"; ++tabs)
-    QTest::keyClick(&m_stage.view(), Qt::Key_Tab);
-  ASSERT_EQ(m_stage.view().activeFocusItem()->objectName(), "CopyButton");
-  QTest::keyClick(&m_stage.view(), Qt::Key_Return);
-  m_stage.load();
-
-  EXPECT_EQ(m_stage.copies(), std::vector<std::string>{"1700000000"});
-}
-
-TEST_F(PreviewPanels, CopyASelectedPartOfAValueByControlC) {
-  show("1700000000");
-  QQuickItem* value = m_stage.findAll("OculetValue").at(1);
-  m_stage.view().requestActivate();
-  ASSERT_TRUE(QTest::qWaitFor([this] { return m_stage.view().isActive(); }));
-  value->forceActiveFocus();
-  QMetaObject::invokeMethod(value, "select", Q_ARG(int, 0), Q_ARG(int, 10));
-
-  QTest::keyClick(&m_stage.view(), Qt::Key_C, Qt::ControlModifier);
+  EXPECT_TRUE(m_stage.model().copySelection());
   m_stage.load();
 
   EXPECT_EQ(m_stage.copies(), std::vector<std::string>{"2023-11-14"});
+}
+
+TEST_F(PreviewPanels, ShareOneSelectionWithEachOtherAndTheText) {
+  show("1700000000");
+  const auto selectedOf = [this](std::size_t row) {
+    return m_stage.findAll("OculetValue").at(row)->property("selectedText").toString();
+  };
+  select(0, 4);
+
+  select(1, 10);
+  EXPECT_EQ(selectedOf(0), "");
+  EXPECT_EQ(selectedOf(1), "2023-11-14");
+
+  m_stage.model().selectAll();
+  EXPECT_EQ(selectedOf(1), "");
+  EXPECT_FALSE(m_stage.model().selection()->isEmpty());
+
+  select(0, 4);
+  EXPECT_TRUE(m_stage.model().selection()->isEmpty());
 }
 
 }  // namespace

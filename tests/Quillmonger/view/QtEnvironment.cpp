@@ -4,6 +4,7 @@
 #include <QQuickWindow>
 #include <memory>
 
+#include "Quillmonger/resources/EmojiFont.h"
 #include "Quillmonger/resources/Texts.h"
 
 namespace {
@@ -15,6 +16,7 @@ class QtEnvironment final : public testing::Environment {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     m_application = std::make_unique<QGuiApplication>(m_argumentCount, m_arguments);
+    quillmonger::preferColourEmoji();
     QCoreApplication::installTranslator(&m_texts);
   }
   void TearDown() override { m_application.reset(); }

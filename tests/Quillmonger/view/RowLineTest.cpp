@@ -17,6 +17,14 @@ TextRun plain(const char* text) { return {QString::fromUtf8(text), TextRun::Styl
 TextRun dimmed(const char* text) { return {QString::fromUtf8(text), TextRun::Style::dimmed}; }
 TextRun bold(const char* text) { return {QString::fromUtf8(text), TextRun::Style::bold}; }
 
+// With brackets for the tags of a hit.
+std::string markupOf(const TextRuns& runs) {
+  quillmonger::AttributedLine line;
+  line.setHitColor(Qt::black);
+  line.setLine(QVariant::fromValue(quillmonger::RowLine{runs}));
+  return line.text().replace("<font color=\"#000000\"><b>", "[").replace("</b></font>", "]").toStdString();
+}
+
 TextRuns lineWith(std::string_view text, std::size_t lower, std::size_t upper) {
   const CharacterRange range{lower, upper};
   return attributedLine(text, std::span(&range, 1));
@@ -48,6 +56,21 @@ TEST(AttributedLine, LeavesOutARangePastTheEnd) {
 TEST(AttributedLine, CountsCharactersAsTheUserSeesThem) {
   EXPECT_EQ(lineWith("👩‍👩‍👧e\u0301x", 1, 1),
             (TextRuns{dimmed("👩‍👩‍👧"), bold("e\u0301"), dimmed("x")}));
+}
+
+TEST(AttributedLine, TakesAnEmojiWithAllThatBelongsToIt) {
+  EXPECT_EQ(lineWith("a 👍🏽 b", 2, 2), (TextRuns{dimmed("a "), bold("👍🏽"), dimmed(" b")}));
+  EXPECT_EQ(lineWith("👩‍👩‍👧‍👦🏳️‍🌈🇯🇵", 1, 1),
+            (TextRuns{dimmed("👩‍👩‍👧‍👦"), bold("🏳️‍🌈"), dimmed("🇯🇵")}));
+}
+
+TEST(AttributedLine, TakesALetterWithItsMarks) {
+  EXPECT_EQ(lineWith("ae\u0301\u0323b", 1, 1), (TextRuns{dimmed("a"), bold("e\u0301\u0323"), dimmed("b")}));
+  EXPECT_EQ(lineWith("שָׁלוֹם", 0, 0), (TextRuns{bold("שָׁ"), dimmed("לוֹם")}));
+}
+
+TEST(AttributedLine, TakesAWordThatIsReadFromTheRight) {
+  EXPECT_EQ(lineWith("مرحبا بالعالم", 6, 12), (TextRuns{dimmed("مرحبا "), bold("بالعالم")}));
 }
 
 TEST(AttributedLine, ShowsSeveralRangesInOrder) {
@@ -86,6 +109,17 @@ TEST(RowMarkup, ShowsTextThatLooksLikeMarkupAsItIs) {
 
   EXPECT_FALSE(line.isPlain());
   EXPECT_EQ(line.text(), QStringLiteral("&lt;i&gt;&amp;<font color=\"#010203\"><b>b</b></font>"));
+}
+
+TEST(RowMarkup, KeepsBlanksAtTheEdgesOfAHit) {
+  EXPECT_EQ(markupOf({dimmed("one two "), bold("three"), dimmed(" four")}), "one two&nbsp;[three]&nbsp;four");
+}
+
+TEST(RowMarkup, KeepsLettersJoinedAcrossTheEdgesOfAHit) {
+  EXPECT_EQ(markupOf({dimmed("مر"), bold("حبا")}), "مر[حبا]") << "the second letter joins to none behind it";
+  EXPECT_EQ(markupOf({dimmed("عا"), bold("ل"), dimmed("مية")}), "عا[ل\u200D]\u200Dمية");
+  EXPECT_EQ(markupOf({dimmed("عَ"), bold("ل")}), "عَ\u200D[\u200Dل]") << "a vowel sign doesn't part its letter";
+  EXPECT_EQ(markupOf({dimmed("لם"), bold("x")}), "لם[x]");
 }
 
 TEST(RowMarkup, HasNoneForALineWithoutAHit) {

@@ -59,7 +59,8 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Combine(testing::Bool(),
                      testing::Values(Pair{"primary", "window"}, Pair{"secondary", "window"}, Pair{"tertiary", "window"},
                                      Pair{"accentColor", "window"}, Pair{"selectedPrimary", "highlightColor"},
-                                     Pair{"selectedSecondary", "highlightColor"}, Pair{"primary", "separator"},
+                                     Pair{"selectedSecondary", "highlightColor"},
+                                     Pair{"selectedPrimary", "selectionColor"}, Pair{"primary", "separator"},
                                      Pair{"destructive", "separator"}, Pair{"primary", "field"},
                                      Pair{"secondary", "field"}, Pair{"tertiary", "field"})),
     nameOf);
@@ -67,7 +68,8 @@ INSTANTIATE_TEST_SUITE_P(
 INSTANTIATE_TEST_SUITE_P(Theme, ThemeMark,
                          testing::Combine(testing::Bool(),
                                           testing::Values(Pair{"scrollBar", "window"}, Pair{"accentColor", "field"},
-                                                          Pair{"switchOff", "window"})),
+                                                          Pair{"switchOff", "window"}, Pair{"selectionColor", "window"},
+                                                          Pair{"selectionColor", "field"})),
                          nameOf);
 
 }  // namespace

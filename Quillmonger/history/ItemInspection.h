@@ -11,26 +11,28 @@
 
 namespace quillmonger {
 
-/// The average colours of pictures, worked out beside the main thread, one at a time, since a picture can take longer
-/// to decode than a frame lasts. The latest that was asked for comes first; of many, the oldest are dropped, to be
-/// asked for again. Main thread.
-class PictureColors final {
+/// Finds out about items what can take longer than a frame lasts: a picture's average colour, and what a long text is.
+/// That is done beside the main thread, one item at a time. The latest that was asked for comes first; of many, the
+/// oldest are dropped, to be asked for again. Main thread.
+class ItemInspection final {
  public:
   using Item = std::shared_ptr<ClipboardItemViewModel>;
 
   /// Both outlive this object and its work.
-  PictureColors(foundation::BackgroundQueue& queue, foundation::RunLoop& runLoop)
+  ItemInspection(foundation::BackgroundQueue& queue, foundation::RunLoop& runLoop)
       : m_queue(queue), m_runLoop(runLoop) {}
 
-  /// The item's `imageColor`, once it is known.
-  [[nodiscard]] std::optional<RGBColor> color(const Item& item);
-  /// Tells of each item whose colour has become known.
+  /// The item's `imageColor`, `hasOculetResults` and `textColor`, once they are known.
+  [[nodiscard]] std::optional<RGBColor> imageColor(const Item& item);
+  [[nodiscard]] bool hasOculetResults(const Item& item);
+  [[nodiscard]] std::optional<Color> textColor(const Item& item);
+  /// Tells of each item of which something has become known.
   [[nodiscard]] foundation::Stream<Item>& found() { return m_found; }
 
  private:
-  void ask(const Item& item);
+  [[nodiscard]] bool isKnown(const Item& item);
   void startNext();
-  void finish(const Item& item, const std::optional<RGBColor>& color);
+  void finish(const Item& item, const ClipboardItemViewModel::Findings& findings);
 
   foundation::BackgroundQueue& m_queue;
   foundation::RunLoop& m_runLoop;

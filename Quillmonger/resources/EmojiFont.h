@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+namespace quillmonger {
+
+/// An installed font that has emoji in colour; empty when there is none. Main thread.
+[[nodiscard]] QString colourEmojiFamily();
+
+/// Has every text of the program show emoji in that font, whatever other fonts have the same characters in black and
+/// white. Before the first window. Main thread.
+void preferColourEmoji();
+
+}  // namespace quillmonger
