@@ -10,9 +10,9 @@
 #include "Foundation/Subscription.h"
 #include "Foundation/TextLookup.h"
 #include "Quillmonger/shell/StatusItem.h"
-#include "Quillmonger/update/Updater.h"
 #include "Quillmonger/shell/windows/Application.h"
 #include "Quillmonger/shell/windows/MotionPreference.h"
+#include "Quillmonger/update/Updater.h"
 
 namespace quillmonger {
 
