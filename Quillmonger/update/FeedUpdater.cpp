@@ -25,7 +25,7 @@ void FeedUpdater::startUpdater() {
 void FeedUpdater::tick() {
   if (!isCheckDue()) return;
   const bool isBusy = m_status && (m_status->stage == Stage::checking || m_status->stage == Stage::downloading);
-  // What the user closed without an answer is found again.
+  // What went with the other windows, without an answer, is found again.
   if (!isBusy && !m_with.interface.isVisible()) check(Asker::schedule);
 }
 

@@ -37,7 +37,7 @@ class UpdateInterface {
   virtual void setStatus(const UpdateStatus& status) = 0;
   virtual void show(Attention attention) = 0;
   virtual void hide() = 0;
-  /// The user may close it at any time, which is not told.
+  /// It may go with the program's other windows, which is not told.
   [[nodiscard]] virtual bool isVisible() const = 0;
 };
 

@@ -20,8 +20,8 @@ class FakeUpdateInterface final : public quillmonger::UpdateInterface {
   [[nodiscard]] bool isVisible() const override { return m_isVisible; }
 
   [[nodiscard]] const quillmonger::UpdateStatus& status() const { return m_status; }
-  /// As the user closes it.
-  void close() { m_isVisible = false; }
+  /// Goes with the other windows.
+  void leaveScreen() { m_isVisible = false; }
 
   /// How it was shown, each time.
   std::vector<std::string> shows;

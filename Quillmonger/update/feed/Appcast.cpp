@@ -59,8 +59,8 @@ std::optional<Update> enclosureOf(const char** names, const char** values) {
   const auto sha256 = attribute("quillmonger:sha256");
   const auto length = lengthOf(attribute("length"));
   auto url = foundation::Url::parse(attribute("url").substr(0, addressLimit + 1));
-  const bool isUsable =
-      length && url && url->absoluteString().size() <= addressLimit && url->scheme() == "https" && isDigest(sha256) && SoftwareVersion::parse(version).has_value();
+  const bool isUsable = length && url && url->absoluteString().size() <= addressLimit && url->scheme() == "https" &&
+                        isDigest(sha256) && SoftwareVersion::parse(version).has_value();
   if (!isUsable) return std::nullopt;
   return Update{std::string(version), {}, *std::move(url), *length, std::string(sha256)};
 }

@@ -26,6 +26,14 @@ Rectangle {
     Accessible.description: model.message
     Keys.onEscapePressed: model.close()
 
+    // The desktop's own way to close a window.
+    Connections {
+        target: view.Window.window
+        function onClosing() {
+            view.model.close();
+        }
+    }
+
     Column {
         id: column
         anchors { left: parent.left; right: parent.right; top: parent.top; margins: view.theme.paneMargin }

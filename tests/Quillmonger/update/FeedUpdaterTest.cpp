@@ -204,11 +204,11 @@ TEST_F(FeedUpdater, ShowsAnAutomaticDownloadWhenTheUserAsksMeanwhile) {
   EXPECT_EQ(stage(), Stage::downloading);
 }
 
-TEST_F(FeedUpdater, FindsAgainNextDayWhatTheUserClosedWithoutAnAnswer) {
+TEST_F(FeedUpdater, FindsAgainNextDayWhatLeftTheScreenWithoutAnAnswer) {
   updater.startUpdater();
   passFirstDelay();
   service.answer(updateTo("2.0"));
-  window.close();
+  window.leaveScreen();
 
   passDay();
   service.answer(updateTo("2.0"));
@@ -314,7 +314,7 @@ TEST_F(FeedUpdater, ChecksWhenTheUserAsksThoughItIsNotStarted) {
 TEST_F(FeedUpdater, BringsBackWhatWaitsForTheUser) {
   updater.checkForUpdates();
   service.answer(updateTo("2.0"));
-  window.close();
+  window.leaveScreen();
 
   updater.checkForUpdates();
 
@@ -458,11 +458,11 @@ TEST_F(FeedUpdater, TakesNoAnswerThatTheWindowDoesNotOffer) {
   EXPECT_EQ(settings[keys::skippedUpdate], "");
 }
 
-TEST_F(FeedUpdater, BringsADownloadToItsEndWhoseWindowWasClosed) {
+TEST_F(FeedUpdater, BringsADownloadToItsEndWhoseWindowLeftTheScreen) {
   updater.checkForUpdates();
   service.answer(updateTo("2.0"));
   updater.download();
-  window.close();
+  window.leaveScreen();
 
   service.deliver(std::filesystem::path("/cache/2.0.deb"));
 

@@ -80,6 +80,14 @@ TEST_F(UpdateView, TakesEscapeForClosing) {
   EXPECT_EQ(m_stage.answers(), Answers{Answer::close});
 }
 
+TEST_F(UpdateView, TakesTheDesktopsWayToCloseForClosing) {
+  auto& view = activated(available);
+
+  view.close();
+
+  EXPECT_EQ(m_stage.answers(), Answers{Answer::close});
+}
+
 TEST_F(UpdateView, KeepsItsKeysFromTheHistory) {
   auto& view = m_stage.show(available);
   const auto keysOf = [](const QObject* item) { return item->property("ownKeys").toList(); };
