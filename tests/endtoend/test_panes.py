@@ -127,14 +127,37 @@ class ThePanes(PaneCase):
                                    "persistHistory": "false"})
         self.assertTrue(list((self.desktop.home / ".config/autostart").glob("*.desktop")), "it starts at login")
 
-    def test_the_keyboard_sets_the_searchs_delay_and_the_search_heeds_it(self):
+    def test_the_keyboard_reaches_every_control_of_the_search_pane(self):
         self.desktop.start_app()
         self.open_settings("Search")
 
-        self.desktop.press("Tab", "Tab", "Tab", "Tab", "End")
+        self.desktop.press("Tab", "space", "Tab", "space", "Tab", "space", "Tab", "End")
 
         wait_until(lambda: abs(float(self.read("searchDebounceInterval")) - 0.3) < 1e-9, "the longest delay")
+        self.assertEqual([self.read(name) for name in ("searchCaseSensitive", "searchRegex", "searchAppName")],
+                         ["true", "true", "false"])
 
+    def test_the_keyboard_reaches_every_control_of_the_appearance_pane(self):
+        self.desktop.start_app()
+        self.open_settings("Appearance")
+
+        self.desktop.press("Tab")  # past the theme
+        for _ in range(6):
+            self.desktop.press("Tab", "space")
+        self.desktop.press("Tab", "space", "Home", "Return")  # where long lines are cut
+        for _ in range(4):
+            self.desktop.press("Tab", "space")
+
+        self.wait_for_setting("autoOpenOculet", "false")
+        self.assertEqual({self.read(name) for name in (
+            "animateMenuBar", "showSourceAppIcon", "showKeyboardShortcuts", "showScrollbar", "showColorIndicator",
+            "showContentTypeIndicators", "hideLongTextPreview", "showPreviewPaneScrollbar", "autoOpenImagePreview")},
+                         {"false"})
+        self.assertEqual(self.read("truncationMode"), "head")
+
+
+
+class TheEffectsOfSettings(PaneCase):
     def test_a_dark_theme_darkens_the_window_at_once_and_a_change_elsewhere_is_seen(self):
         self.desktop.start_app()
         window = self.open_settings("Appearance")
