@@ -8,10 +8,24 @@
 
 namespace settings {
 
+namespace {
+
+// Columns know their size only when they have been laid out, which would otherwise be with the next frame.
+void layOut(QQuickItem& item) {
+  for (QQuickItem* child : item.childItems())
+    layOut(*child);
+  if (item.inherits("QQuickBasePositioner")) item.ensurePolished();
+}
+
+}  // namespace
+
 QmlPaneView::QmlPaneView(Parent parent, QUrl source, Properties properties)
     : m_parent(std::move(parent)), m_source(std::move(source)), m_properties(std::move(properties)) {}
 
-Size QmlPaneView::fittingSize() { return {item().implicitWidth(), item().implicitHeight()}; }
+Size QmlPaneView::fittingSize() {
+  layOut(item());
+  return {item().implicitWidth(), item().implicitHeight()};
+}
 
 void QmlPaneView::setAlpha(double alpha) {
   item().setOpacity(alpha);

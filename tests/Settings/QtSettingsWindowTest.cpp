@@ -126,6 +126,18 @@ TEST_F(QtSettingsWindow, IsAsLargeAsThePaneAndItsToolbar) {
   EXPECT_TRUE(item("first")->isVisible());
 }
 
+TEST_F(QtSettingsWindow, HasItsSizeBeforeItsFirstFrame) {
+  make();
+  m_controller->tabViewController().restoreInitialTab();
+  const QSize atOnce = view().size();
+
+  view().grabWindow();
+  QCoreApplication::processEvents();
+
+  EXPECT_GT(item("first")->implicitHeight(), 150);
+  EXPECT_EQ(view().size(), atOnce);
+}
+
 TEST_F(QtSettingsWindow, ShowsThePaneOfAnItemThatIsClicked) {
   make();
   m_controller->show();

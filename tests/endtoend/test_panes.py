@@ -190,6 +190,15 @@ class TheEffectsOfSettings(PaneCase):
 
         wait_until(lambda: self.desktop.texts() == [], "the history to be empty")
 
+    def test_the_window_comes_in_the_middle_of_the_screen_the_first_time(self):
+        self.desktop.start_app()
+        self.desktop.quillmonger("settings")
+        window = self.wait_for_front("^General$")
+        left, top, width, height = self.desktop.geometry(window)
+
+        self.assertAlmostEqual(left + width / 2, 640, delta=8)
+        self.assertAlmostEqual(top, (900 - height) * 0.4, delta=45)
+
     def test_the_window_keeps_its_title_bar_and_comes_back_where_it_was(self):
         self.desktop.start_app()
         window = self.open_settings()
