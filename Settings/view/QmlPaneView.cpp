@@ -1,6 +1,7 @@
 #include "Settings/view/QmlPaneView.h"
 
 #include <QQmlComponent>
+#include <QQmlContext>
 #include <QQmlEngine>
 #include <utility>
 
@@ -37,11 +38,19 @@ void QmlPaneView::setAlpha(double alpha) {
 QQuickItem& QmlPaneView::item() {
   if (m_item) return *m_item;
   QQuickItem& parent = m_parent();
-  QQmlComponent component(qmlEngine(&parent), m_source);
-  m_item = qobject_cast<QQuickItem*>(component.createWithInitialProperties(m_properties()));
+  QQmlEngine* engine = qmlEngine(&parent);
+  QQmlComponent component(engine, m_source);
+  auto* context = new QQmlContext(engine->rootContext());
+  m_item = qobject_cast<QQuickItem*>(component.createWithInitialProperties(m_properties(), context));
   if (!m_item) foundation::stopProcess("A settings pane could not be loaded: " + component.errorString().toStdString());
   QQmlEngine::setObjectOwnership(m_item, QQmlEngine::CppOwnership);
   m_item->setParent(&parent);
+  context->setParent(m_item);
+  // The window's tree goes: what is bound to parts of it must not be looked at again while they go one by one.
+  QObject::connect(&parent, &QQuickItem::windowChanged, m_item,
+                   [context = QPointer(context)](const QQuickWindow* window) {
+                     if (window == nullptr) delete context.data();
+                   });
   m_item->setVisible(false);
   m_item->setEnabled(false);
   m_item->setParentItem(&parent);

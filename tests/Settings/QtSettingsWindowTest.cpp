@@ -28,7 +28,7 @@ Container {
     required property string name
     contentWidth: name === "first" ? 300 : 400
     objectName: name
-    property alias button: button
+    readonly property QtObject theme: QtObject { readonly property int size: 3 }
     Section { label: "A"; Item { implicitWidth: 10; implicitHeight: pane.name === "first" ? 100 : 150 } }
     Section {
         label: "A longer label"
@@ -39,6 +39,11 @@ Container {
             activeFocusOnTab: true
             property int presses: 0
             Keys.onSpacePressed: ++presses
+            readonly property QtObject theme: pane.theme
+            Repeater {
+                model: 2
+                Item { id: row; readonly property QtObject theme: button.theme; implicitWidth: theme.size }
+            }
         }
     }
 })";
@@ -277,6 +282,20 @@ TEST_F(QtSettingsWindow, ForgetsAPlaceWhereNoScreenIs) {
   m_controller->show();
 
   EXPECT_EQ(view().position(), QPoint(200, 100));
+}
+
+int messageCount = 0;
+
+TEST_F(QtSettingsWindow, GoesWithoutAWord) {
+  make();
+  m_controller->show();
+  messageCount = 0;
+  const auto before = qInstallMessageHandler([](auto, const auto&, const auto&) { ++messageCount; });
+
+  m_view.reset();
+  qInstallMessageHandler(before);
+
+  EXPECT_EQ(messageCount, 0);
 }
 
 TEST_F(QtSettingsWindow, KeepsItsTreeWhenItIsClosed) {
