@@ -101,9 +101,6 @@ class QtSettingsWindow : public testing::Test {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&view()));
   }
   QQuickItem* item(const char* name) { return find(view().rootObject(), name); }
-  bool awaitPane(const char* name) {
-    return QTest::qWaitFor([this, name] { return item(name) != nullptr && item(name)->opacity() == 1; });
-  }
   void click(QQuickItem* on) {
     QTest::mouseClick(&view(), Qt::LeftButton, {}, on->mapToScene(on->boundingRect().center()).toPoint());
   }
@@ -134,13 +131,13 @@ TEST_F(QtSettingsWindow, IsAsLargeAsThePaneAndItsToolbar) {
 TEST_F(QtSettingsWindow, HasItsSizeBeforeItsFirstFrame) {
   make();
   m_controller->tabViewController().restoreInitialTab();
-  const QSize atOnce = view().size();
+  const settings::Size atOnce = m_window.size().value();
 
   view().grabWindow();
   QCoreApplication::processEvents();
 
-  EXPECT_GT(item("first")->implicitHeight(), 150);
-  EXPECT_EQ(view().size(), atOnce);
+  EXPECT_GT(atOnce.height, 150);
+  EXPECT_EQ(m_window.size().value(), atOnce);
 }
 
 TEST_F(QtSettingsWindow, ShowsThePaneOfAnItemThatIsClicked) {
@@ -216,9 +213,9 @@ TEST_F(QtSettingsWindow, FadesFromOnePaneToTheOtherAndHoldsInputBackMeanwhile) {
   click(item("ToolbarItem-third"));
   EXPECT_EQ(view().title(), "The second") << "held back";
 
-  ASSERT_TRUE(awaitPane("second"));
-  EXPECT_FALSE(item("first")->isVisible());
-  EXPECT_EQ(view().width(), 460);
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !item("first")->isVisible(); }));
+  EXPECT_EQ(item("second")->opacity(), 1);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return view().width() == 460; }));
   click(item("ToolbarItem-third"));
   EXPECT_EQ(view().title(), "The third");
 }
