@@ -83,7 +83,8 @@ void QtQuickWindow::followSize() {
   // What the content wants is known when it has been laid out, and can change.
   const QQuickItem* content = m_view->rootObject();
   const auto apply = [this, content] {
-    applySize(QSizeF(content->implicitWidth(), content->implicitHeight()).toSize());
+    const QSize size = QSizeF(content->implicitWidth(), content->implicitHeight()).toSize();
+    if (!size.isEmpty()) applySize(size);
   };
   apply();
   QObject::connect(content, &QQuickItem::implicitWidthChanged, m_view.get(), apply);

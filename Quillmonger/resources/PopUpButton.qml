@@ -21,7 +21,12 @@ Rectangle {
 
     function open() { menu.open() }
 
-    implicitWidth: 200
+    implicitWidth: {
+        let widest = 0
+        for (const title of titles)
+            widest = Math.max(widest, metrics.advanceWidth(title))
+        return Math.max(200, Math.ceil(widest) + 48)
+    }
     implicitHeight: 30
     radius: 7
     antialiasing: true
@@ -39,6 +44,11 @@ Rectangle {
     Keys.onSpacePressed: open()
     Keys.onUpPressed: open()
     Keys.onDownPressed: open()
+
+    FontMetrics {
+        id: metrics
+        font.pixelSize: button.theme.paneFontSize
+    }
 
     Text {
         anchors { left: parent.left; right: arrows.left; leftMargin: 12; rightMargin: 6; verticalCenter: parent.verticalCenter }

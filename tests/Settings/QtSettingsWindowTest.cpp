@@ -28,7 +28,7 @@ Container {
     required property string name
     contentWidth: name === "first" ? 300 : 400
     objectName: name
-    property alias button: button
+    readonly property QtObject theme: QtObject { readonly property int size: 3 }
     Section { label: "A"; Item { implicitWidth: 10; implicitHeight: pane.name === "first" ? 100 : 150 } }
     Section {
         label: "A longer label"
@@ -39,6 +39,11 @@ Container {
             activeFocusOnTab: true
             property int presses: 0
             Keys.onSpacePressed: ++presses
+            readonly property QtObject theme: pane.theme
+            Repeater {
+                model: 2
+                Item { id: row; readonly property QtObject theme: button.theme; implicitWidth: theme.size }
+            }
         }
     }
 })";
@@ -96,9 +101,6 @@ class QtSettingsWindow : public testing::Test {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&view()));
   }
   QQuickItem* item(const char* name) { return find(view().rootObject(), name); }
-  bool awaitPane(const char* name) {
-    return QTest::qWaitFor([this, name] { return item(name) != nullptr && item(name)->opacity() == 1; });
-  }
   void click(QQuickItem* on) {
     QTest::mouseClick(&view(), Qt::LeftButton, {}, on->mapToScene(on->boundingRect().center()).toPoint());
   }
@@ -124,6 +126,18 @@ TEST_F(QtSettingsWindow, IsAsLargeAsThePaneAndItsToolbar) {
   EXPECT_EQ(view().height(), item("first")->implicitHeight() + toolbar);
   EXPECT_EQ(view().title(), "The first");
   EXPECT_TRUE(item("first")->isVisible());
+}
+
+TEST_F(QtSettingsWindow, HasItsSizeBeforeItsFirstFrame) {
+  make();
+  m_controller->tabViewController().restoreInitialTab();
+  const settings::Size atOnce = m_window.size().value();
+
+  view().grabWindow();
+  QCoreApplication::processEvents();
+
+  EXPECT_GT(atOnce.height, 150);
+  EXPECT_EQ(m_window.size().value(), atOnce);
 }
 
 TEST_F(QtSettingsWindow, ShowsThePaneOfAnItemThatIsClicked) {
@@ -199,9 +213,9 @@ TEST_F(QtSettingsWindow, FadesFromOnePaneToTheOtherAndHoldsInputBackMeanwhile) {
   click(item("ToolbarItem-third"));
   EXPECT_EQ(view().title(), "The second") << "held back";
 
-  ASSERT_TRUE(awaitPane("second"));
-  EXPECT_FALSE(item("first")->isVisible());
-  EXPECT_EQ(view().width(), 460);
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !item("first")->isVisible(); }));
+  EXPECT_EQ(item("second")->opacity(), 1);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return view().width() == 460; }));
   click(item("ToolbarItem-third"));
   EXPECT_EQ(view().title(), "The third");
 }
@@ -265,6 +279,20 @@ TEST_F(QtSettingsWindow, ForgetsAPlaceWhereNoScreenIs) {
   m_controller->show();
 
   EXPECT_EQ(view().position(), QPoint(200, 100));
+}
+
+int messageCount = 0;
+
+TEST_F(QtSettingsWindow, GoesWithoutAWord) {
+  make();
+  m_controller->show();
+  messageCount = 0;
+  const auto before = qInstallMessageHandler([](auto, const auto&, const auto&) { ++messageCount; });
+
+  m_view.reset();
+  qInstallMessageHandler(before);
+
+  EXPECT_EQ(messageCount, 0);
 }
 
 TEST_F(QtSettingsWindow, KeepsItsTreeWhenItIsClosed) {

@@ -7,7 +7,7 @@ from roadcase import RoadCase
 TRACKS = {(0x4A, 0x5D, 0xC4), (0x88, 0x8B, 0x97)}
 
 
-class ThePanes(RoadCase):
+class PaneCase(RoadCase):
     size = "1280x900x24"
 
     def setUp(self):
@@ -34,6 +34,9 @@ class ThePanes(RoadCase):
         wait_until(lambda: self.desktop.focused() == window, f"{name} with the focus")
         return window
 
+    def is_shown(self, name):
+        return bool(self.desktop.run(["xdotool", "search", "--onlyvisible", "--name", name], check=False).stdout.split())
+
     def wait_still(self, window):
         """The window has taken its pane's size: three looks in a row see the same."""
         seen = []
@@ -58,10 +61,11 @@ class ThePanes(RoadCase):
         width, height = map(int, size.split())
         return width, height, data
 
+
+class TheSwitches(PaneCase):
     def switches(self, window):
-        """The places on the screen of the enabled switches of the shown pane, from top to bottom."""
+        """The places in the window of the enabled switches of the shown pane, from top to bottom."""
         width, height, data = self.pixels(window)
-        left, top = self.desktop.geometry(window)[:2]
         runs = []
         for y in range(height):
             row = [tuple(data[(y * width + x) * 3:(y * width + x) * 3 + 3]) in TRACKS for x in range(width)]
@@ -73,7 +77,7 @@ class ThePanes(RoadCase):
             if not places or y - places[-1][-1][0] > 1:
                 places.append([])
             places[-1].append((y, x))
-        return [(left + place[0][1] + 12, top + (place[0][0] + place[-1][0]) // 2)
+        return [(place[0][1] + 12, (place[0][0] + place[-1][0]) // 2)
                 for place in places if 18 <= len(place) <= 23]
 
     def flip_all_with_the_mouse(self, pane, names):
@@ -83,7 +87,7 @@ class ThePanes(RoadCase):
         places = self.switches(window)
         self.assertEqual(len(places), len(names), places)
         for name, place in zip(names, places):
-            self.desktop.click(*place)
+            self.desktop.run(["xdotool", "mousemove", "--window", window, *map(str, place), "click", "1"])
             self.wait_for_setting(name, "false" if before[name] == "true" else "true")
 
     def test_the_mouse_flips_the_switches_of_the_general_pane(self):
@@ -99,6 +103,8 @@ class ThePanes(RoadCase):
             "showContentTypeIndicators", "hideLongTextPreview", "showPreviewPaneScrollbar", "autoOpenImagePreview",
             "autoOpenOculet"])
 
+
+class ThePanes(PaneCase):
     def test_the_keyboard_reaches_every_control_of_the_general_pane(self):
         self.desktop.start_app()
         self.open_settings()
@@ -121,14 +127,37 @@ class ThePanes(RoadCase):
                                    "persistHistory": "false"})
         self.assertTrue(list((self.desktop.home / ".config/autostart").glob("*.desktop")), "it starts at login")
 
-    def test_the_keyboard_sets_the_searchs_delay_and_the_search_heeds_it(self):
+    def test_the_keyboard_reaches_every_control_of_the_search_pane(self):
         self.desktop.start_app()
         self.open_settings("Search")
 
-        self.desktop.press("Tab", "Tab", "Tab", "Tab", "End")
+        self.desktop.press("Tab", "space", "Tab", "space", "Tab", "space", "Tab", "End")
 
         wait_until(lambda: abs(float(self.read("searchDebounceInterval")) - 0.3) < 1e-9, "the longest delay")
+        self.assertEqual([self.read(name) for name in ("searchCaseSensitive", "searchRegex", "searchAppName")],
+                         ["true", "true", "false"])
 
+    def test_the_keyboard_reaches_every_control_of_the_appearance_pane(self):
+        self.desktop.start_app()
+        self.open_settings("Appearance")
+
+        self.desktop.press("Tab")  # past the theme
+        for _ in range(6):
+            self.desktop.press("Tab", "space")
+        self.desktop.press("Tab", "space", "Home", "Return")  # where long lines are cut
+        for _ in range(4):
+            self.desktop.press("Tab", "space")
+
+        self.wait_for_setting("autoOpenOculet", "false")
+        self.assertEqual({self.read(name) for name in (
+            "animateMenuBar", "showSourceAppIcon", "showKeyboardShortcuts", "showScrollbar", "showColorIndicator",
+            "showContentTypeIndicators", "hideLongTextPreview", "showPreviewPaneScrollbar", "autoOpenImagePreview")},
+                         {"false"})
+        self.assertEqual(self.read("truncationMode"), "head")
+
+
+
+class TheEffectsOfSettings(PaneCase):
     def test_a_dark_theme_darkens_the_window_at_once_and_a_change_elsewhere_is_seen(self):
         self.desktop.start_app()
         window = self.open_settings("Appearance")
@@ -161,6 +190,15 @@ class ThePanes(RoadCase):
 
         wait_until(lambda: self.desktop.texts() == [], "the history to be empty")
 
+    def test_the_window_comes_in_the_middle_of_the_screen_the_first_time(self):
+        self.desktop.start_app()
+        self.desktop.quillmonger("settings")
+        window = self.wait_for_front("^General$")
+        left, top, width, height = self.desktop.geometry(window)
+
+        self.assertAlmostEqual(left + width / 2, 640, delta=8)
+        self.assertAlmostEqual(top, (900 - height) * 0.4, delta=45)
+
     def test_the_window_keeps_its_title_bar_and_comes_back_where_it_was(self):
         self.desktop.start_app()
         window = self.open_settings()
@@ -172,7 +210,7 @@ class ThePanes(RoadCase):
         self.wait_still(window)
         self.assertEqual(self.desktop.geometry(window)[:2], place)
         self.desktop.press("Escape")
-        wait_until(lambda: self.desktop.focused() != window, "the settings to go")
+        wait_until(lambda: not self.is_shown("^Ignore$"), "the settings to go")
         self.desktop.quillmonger("settings")
         again = self.wait_for_front("^Ignore$")
 

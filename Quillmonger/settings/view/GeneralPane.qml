@@ -31,6 +31,7 @@ PaneLayout {
 
         Slider {
             objectName: "SoundVolumeSlider"
+            anchors.left: parent.left
             width: 220
             text: qsTrId("sound_effects_volume_title")
             valueText: qsTrId("sound_effects_volume_value").arg(Math.round(value * 100))
@@ -114,6 +115,7 @@ PaneLayout {
 
             PushButton {
                 objectName: "ClearHistoryButton"
+                anchors.left: parent.left
                 width: Math.min(implicitWidth, parent.width)
                 isDestructive: true
                 text: qsTrId("settings_clipboard_clear_history_button")

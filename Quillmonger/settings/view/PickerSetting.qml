@@ -20,7 +20,8 @@ Column {
 
     PopUpButton {
         id: button
-        width: Math.min(200, setting.width)
+        anchors.left: parent.left
+        width: Math.min(implicitWidth, setting.width)
         text: setting.label
         titles: setting.choice.titles
         selected: setting.choice.selected

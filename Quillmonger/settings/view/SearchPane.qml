@@ -52,6 +52,7 @@ PaneLayout {
             Slider {
                 id: slider
                 objectName: "DebounceSlider"
+                anchors.left: parent.left
                 width: Math.min(320, parent.width)
                 text: qsTrId("settings_search_debounce_title")
                 valueText: qsTrId("settings_search_debounce_value").arg(Number(value).toLocaleString(Qt.locale(), "f", 2))
@@ -64,6 +65,7 @@ PaneLayout {
             }
 
             SliderEnds {
+                anchors.left: parent.left
                 width: slider.width
                 lower: qsTrId("settings_search_debounce_min_value")
                 upper: qsTrId("settings_search_debounce_max_value")

@@ -7,6 +7,7 @@ Text {
     // 0: as wide as there is room.
     property int maximumWidth: 0
 
+    anchors.left: parent ? parent.left : undefined
     width: maximumWidth > 0 ? Math.min(maximumWidth, parent.width) : parent.width
     visible: text !== ""
     wrapMode: Text.Wrap

@@ -13,7 +13,6 @@ Item {
 
     SettingNote {
         id: lowerEnd
-        anchors.left: parent.left
         width: Math.min(implicitWidth, parent.width / 2)
         theme: ends.theme
         text: ends.lower
@@ -21,7 +20,7 @@ Item {
 
     SettingNote {
         id: upperEnd
-        anchors.right: parent.right
+        anchors { left: undefined; right: parent.right }
         width: Math.min(implicitWidth, parent.width / 2)
         horizontalAlignment: Text.AlignRight
         theme: ends.theme

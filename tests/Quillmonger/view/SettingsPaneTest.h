@@ -29,7 +29,7 @@ class SettingsPaneTest : public testing::Test {
   void clickAt(const std::string& identifier, double share) {
     const QQuickItem* on = item(identifier);
     QTest::mouseClick(&view(), Qt::LeftButton, {},
-                      on->mapToScene(QPointF(on->width() * share, on->height() / 2)).toPoint());
+                      on->mapToScene(QPointF((on->width() - 1) * share, on->height() / 2)).toPoint());
   }
   void focus(const std::string& identifier) {
     activate();

@@ -197,10 +197,37 @@ TEST_P(SettingsPanes, CutNothingAndOverlapNowhereWithTextsTwiceAsLong) {
     EXPECT_GE(placeOf(text).left(), 0) << words;
     EXPECT_LE(placeOf(text).right(), view.width()) << words;
     for (const QQuickItem* other : texts) {
-      if (other != text) EXPECT_FALSE(placeOf(text).intersects(placeOf(other))) << words;
+      const bool overlaps = other != text && placeOf(text).intersects(placeOf(other));
+      EXPECT_FALSE(overlaps) << words << " and " << other->property("text").toString().toStdString();
     }
   }
   QCoreApplication::removeTranslator(&doubled);
+}
+
+std::vector<QRectF> placesOfNamed(testsupport::SettingsStage& stage, const char* pane) {
+  std::vector<QRectF> places;
+  const std::function<void(QQuickItem*)> visit = [&places, &visit](QQuickItem* item) {
+    if (!item->isVisible()) return;
+    if (!item->objectName().isEmpty()) places.push_back(placeOf(item));
+    for (QQuickItem* child : item->childItems())
+      visit(child);
+  };
+  visit(testsupport::find(stage.pane(pane), "SettingsPaneArea"));
+  return places;
+}
+
+TEST_P(SettingsPanes, AreMirroredInALanguageFromRightToLeft) {
+  const auto places = placesOfNamed(m_stage, GetParam().pane);
+  const double width = m_stage.pane(GetParam().pane).width();
+  QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+  testsupport::SettingsStage stage;
+  const auto mirrored = placesOfNamed(stage, GetParam().pane);
+  QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+
+  ASSERT_GT(places.size(), 4U);
+  ASSERT_EQ(mirrored.size(), places.size());
+  for (std::size_t index = 0; index < places.size(); ++index)
+    EXPECT_NEAR(width - mirrored[index].right(), places[index].left(), 1) << index;
 }
 
 INSTANTIATE_TEST_SUITE_P(Panes, SettingsPanes,
