@@ -1,6 +1,6 @@
 #include "Quillmonger/shell/app/PanedSettings.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QLocale>
 #include <QQuickView>
 #include <utility>
@@ -80,6 +80,8 @@ void PanedSettings::close() {
 void PanedSettings::show(std::optional<std::string_view> pane) {
   m_controller.show(pane ? std::optional(settings::PaneIdentifier{std::string(*pane)}) : std::nullopt);
 }
+
+QWindow* PanedSettings::view() const { return m_window.view(); }
 
 platform::QtQuickWindow::Content PanedSettings::content() {
   return {QUrl(QStringLiteral("qrc:/qt-project.org/imports/Quillmonger/Settings/SettingsRoot.qml")),

@@ -47,7 +47,7 @@ class PanedSettings final : public SettingsWindowController {
   [[nodiscard]] Window& window() override { return m_window; }
   void show(std::optional<std::string_view> pane) override;
   /// Null before it is loaded.
-  [[nodiscard]] QWindow* view() const { return m_window.view(); }
+  [[nodiscard]] QWindow* view() const;
 
  private:
   [[nodiscard]] platform::QtQuickWindow::Content content();
