@@ -21,12 +21,20 @@ void RecorderField::componentComplete() {
   forward(m_recorder->showsCancelButton(), &RecorderField::showsClearButtonChanged);
   forward(m_recorder->isRecording(), &RecorderField::isRecordingChanged);
   forward(m_recorder->canBecomeKey(), &RecorderField::canBecomeKeyChanged);
-  if (window() != nullptr) m_recorder->viewDidMoveToWindow();
+  if (window() != nullptr) moveTo(*window());
 }
 
 void RecorderField::itemChange(ItemChange change, const ItemChangeData& data) {
-  if (m_recorder && change == ItemSceneChange && data.window != nullptr) m_recorder->viewDidMoveToWindow();
+  if (m_recorder && change == ItemSceneChange && data.window != nullptr) moveTo(*data.window);
   QQuickItem::itemChange(change, data);
+}
+
+void RecorderField::moveTo(QQuickWindow& place) {
+  m_recorder->viewDidMoveToWindow();
+  QObject::disconnect(m_activation);
+  m_activation = QObject::connect(&place, &QWindow::activeChanged, this, [this] {
+    if (window() != nullptr && window()->isActive() && std::exchange(m_awaitsFocus, false)) takeFocus();
+  });
 }
 
 QString RecorderField::text() const {
@@ -48,11 +56,8 @@ void RecorderField::clear() { m_recorder->performClick(); }
 // A window that comes to the front gives the focus to whoever had it. That is no wish to record.
 void RecorderField::focusInEvent(QFocusEvent* event) {
   QQuickItem::focusInEvent(event);
-  const bool isWished = std::exchange(m_awaitsFocus, false);
   const auto reason = event->reason();
-  if (isWished || (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)) {
-    m_recorder->becomeFirstResponder();
-  }
+  if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) m_recorder->becomeFirstResponder();
 }
 
 void RecorderField::focusOutEvent(QFocusEvent* event) {
@@ -67,13 +72,14 @@ RecorderView::Bounds RecorderField::bounds() const {
 
 void RecorderField::takeFocus() {
   if (window() == nullptr || !window()->isVisible()) return;
-  if (hasActiveFocus()) {
+  if (!window()->isActive()) {
+    m_awaitsFocus = true;
+    window()->requestActivate();
+  } else if (hasActiveFocus()) {
     m_recorder->becomeFirstResponder();
-    return;
+  } else {
+    forceActiveFocus(Qt::OtherFocusReason);
   }
-  m_awaitsFocus = true;
-  forceActiveFocus(Qt::OtherFocusReason);
-  window()->requestActivate();
 }
 
 void RecorderField::resignFocus() { m_recorder->controlTextDidEndEditing(); }

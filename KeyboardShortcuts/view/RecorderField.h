@@ -54,6 +54,7 @@ class RecorderField : public QQuickItem, private RecorderView {
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
 
+  void moveTo(QQuickWindow& place);
   [[nodiscard]] Bounds bounds() const override;
   void takeFocus() override;
   void resignFocus() override;
@@ -62,6 +63,7 @@ class RecorderField : public QQuickItem, private RecorderView {
   QString m_name;
   /// The recorder's wish, until the window has the keyboard again.
   bool m_awaitsFocus = false;
+  QMetaObject::Connection m_activation;
   std::unique_ptr<RecorderCocoa> m_recorder;
   std::vector<foundation::Subscription> m_observations;
 };

@@ -75,7 +75,7 @@ Rectangle {
     Row {
         id: answers
         anchors { right: parent.right; bottom: parent.bottom; margins: 28 }
-        layoutDirection: LayoutMirroring.enabled ? Qt.LeftToRight : Qt.RightToLeft
+        layoutDirection: Qt.RightToLeft
         spacing: 12
 
         Repeater {

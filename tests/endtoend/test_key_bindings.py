@@ -32,7 +32,16 @@ class TheKeyBindings(RoadCase):
         self.desktop.press("Tab")
         for title in ("Ignore", "Search", "Appearance", "Key Bindings"):
             self.desktop.press("Right")
-            self.wait_for_front(f"^{title}$")
+            self.wait_still(self.wait_for_front(f"^{title}$"))
+
+    def wait_still(self, window):
+        """The window, which takes no keys meanwhile, has its pane's size: three looks in a row see the same."""
+        seen = []
+
+        def is_still():
+            seen.append(self.desktop.geometry(window))
+            return len(seen) > 2 and len(set(seen[-3:])) == 1
+        wait_until(is_still, "the window's size", step=0.1)
 
     def wait_for_front(self, name):
         window = self.desktop.window(name)
@@ -41,7 +50,8 @@ class TheKeyBindings(RoadCase):
 
     def stored(self, key):
         settings = self.desktop.home / ".config/quillmonger/settings.json"
-        return json.loads(settings.read_text()).get(key)
+        value = json.loads(settings.read_text())["values"].get(key)
+        return value and next(iter(value.values()))
 
     def wait_for_chord(self, key_code, modifiers):
         chord = {"carbonKeyCode": key_code, "carbonModifiers": modifiers}
@@ -105,7 +115,7 @@ class TheKeyBindings(RoadCase):
         before = self.stored(ACTIVATE)
 
         self.desktop.press("Tab", "ctrl+comma")
-        self.wait_for_front("^This shortcut already belongs to the menu entry .Settings")
+        self.wait_for_front("^This shortcut already belongs to the menu entry .*Settings")
         self.desktop.press("Escape")
         window = self.wait_for_front("^Key Bindings$")
 

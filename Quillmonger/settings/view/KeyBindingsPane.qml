@@ -24,6 +24,8 @@ PaneLayout {
             Recorder {
                 id: activate
                 objectName: "ActivateRecorder"
+                anchors.left: parent.left
+                width: Math.min(implicitWidth, parent.width)
                 recorders: pane.settings.recorders
                 name: "activate"
                 label: qsTrId("settings_show_clipboard_text")
@@ -55,6 +57,8 @@ PaneLayout {
 
         Recorder {
             objectName: "QuickPaste1Recorder"
+            anchors.left: parent.left
+            width: Math.min(implicitWidth, parent.width)
             recorders: pane.settings.recorders
             name: "quickPaste1"
             label: qsTrId("settings_quick_paste_item_1")
@@ -67,6 +71,8 @@ PaneLayout {
 
         Recorder {
             objectName: "QuickPaste2Recorder"
+            anchors.left: parent.left
+            width: Math.min(implicitWidth, parent.width)
             recorders: pane.settings.recorders
             name: "quickPaste2"
             label: qsTrId("settings_quick_paste_item_2")
@@ -79,6 +85,8 @@ PaneLayout {
 
         Recorder {
             objectName: "QuickPaste3Recorder"
+            anchors.left: parent.left
+            width: Math.min(implicitWidth, parent.width)
             recorders: pane.settings.recorders
             name: "quickPaste3"
             label: qsTrId("settings_quick_paste_item_3")
@@ -89,6 +97,7 @@ PaneLayout {
     Section {
         PushButton {
             objectName: "RestoreDefaultsButton"
+            anchors.left: parent.left
             width: Math.min(implicitWidth, parent.width)
             text: qsTrId("restore_defaults_button")
             theme: pane.theme

@@ -14,7 +14,7 @@ RecorderField {
     // Keys that stay with this control in every window.
     readonly property var ownKeys: [Qt.Key_Return]
 
-    implicitWidth: Math.max(minimumWidth, 220)
+    implicitWidth: Math.max(minimumWidth, 220, words.implicitWidth + words.anchors.margins * 2)
     implicitHeight: 30
     activeFocusOnTab: canBecomeKey
     Accessible.role: Accessible.HotkeyField
@@ -35,6 +35,7 @@ RecorderField {
     }
 
     Text {
+        id: words
         objectName: "RecorderText"
         anchors { left: parent.left; right: parent.right; verticalCenter: parent.verticalCenter; margins: 30 }
         horizontalAlignment: Text.AlignHCenter
