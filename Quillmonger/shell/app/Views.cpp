@@ -1,5 +1,7 @@
 #include "Quillmonger/shell/app/Views.h"
 
+#include <malloc.h>
+
 #include <QCoreApplication>
 #include <QQuickView>
 #include <utility>
@@ -84,7 +86,11 @@ void Views::feed(Quillmonger& root, const Pasteboard& pasteboard) {
       root, PreviewFeed::Services{m_notificationCenter, m_defaults, m_backgroundQueue, m_runLoop, m_alert});
   m_guideFeed = std::make_unique<GuideFeed>(root, QStringLiteral("Shift+Super+V"), m_runLoop, [this] {
     // Its last button is still at work.
-    m_runLoop.post([this] { m_gettingStartedWindow.unload(); });
+    m_runLoop.post([this] {
+      m_gettingStartedWindow.unload();
+      // What its pictures took is free, but lies among what stays: the system gets it back on demand alone.
+      malloc_trim(0);
+    });
   });
 }
 
