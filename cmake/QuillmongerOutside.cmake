@@ -18,7 +18,8 @@ pkg_check_modules(LIBAV REQUIRED IMPORTED_TARGET libavformat libavcodec libavuti
 pkg_check_modules(GLIB REQUIRED IMPORTED_TARGET glib-2.0)
 pkg_check_modules(GIO REQUIRED IMPORTED_TARGET gio-2.0)
 
-set(QUILLMONGER_OUTSIDE_posix_INCLUDES "^(sys/.*|arpa/.*|netinet/.*|dirent|errno|fcntl|poll|pwd|sched|signal|spawn|syslog|time|unistd)(\\.h)?$")
+set(QUILLMONGER_OUTSIDE_posix_INCLUDES
+  "^(sys/.*|arpa/.*|netinet/.*|dirent|errno|fcntl|malloc|poll|pwd|sched|signal|spawn|syslog|time|unistd)(\\.h)?$")
 set(QUILLMONGER_OUTSIDE_posix_LINKS Threads::Threads)
 set(QUILLMONGER_OUTSIDE_icu_INCLUDES "^unicode/.*\\.h$")
 set(QUILLMONGER_OUTSIDE_icu_LINKS ICU::uc ICU::i18n)

@@ -48,6 +48,8 @@ VideoProcess::VideoProcess(const std::string& decoderPath, const std::string& fi
     : m_receiver(std::move(receiver)),
       m_runLoop(runLoop),
       m_pictureSize(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height) * bytesOfAPixel) {
+  // All pictures come into the same place.
+  m_bytes.reserve(static_cast<qsizetype>(sizeof(Head) + m_pictureSize));
   m_process.setProgram(QString::fromStdString(decoderPath));
   m_process.setArguments({QString::fromStdString(file), QString::number(size.width), QString::number(size.height)});
   m_process.setStandardErrorFile(QProcess::nullDevice());
@@ -92,7 +94,9 @@ void VideoProcess::wait(foundation::Seconds time) {
 }
 
 void VideoProcess::takeBytes() {
-  m_bytes += m_process.readAllStandardOutput();
+  const qsizetype before = m_bytes.size();
+  m_bytes.resize(before + m_process.bytesAvailable());
+  m_bytes.resize(before + m_process.read(m_bytes.data() + before, m_bytes.size() - before));
   const auto head = headOf(m_bytes);
   if (!head) return;
   const bool isOurSize = head->byteCount == 0 || head->byteCount == m_pictureSize;
@@ -107,11 +111,11 @@ void VideoProcess::showPicture() {
   const auto head = headOf(m_bytes);
   const bool isComplete = head && bytesBeyondHead(m_bytes) == head->byteCount;
   if (!m_isPlaying || !m_isDue || !isComplete) return;
-  const QByteArray picture = std::exchange(m_bytes, {});
+  if (head->byteCount > 0) m_receiver.frame({m_bytes.constData() + sizeof(Head), head->byteCount});
+  m_bytes.resize(0);
   // The next one is read while this one is shown.
   askForPicture();
   wait(std::chrono::microseconds(head->microseconds));
-  if (head->byteCount > 0) m_receiver.frame({picture.constData() + sizeof(Head), head->byteCount});
 }
 
 void VideoProcess::fail() {

@@ -20,7 +20,7 @@ GuideStage::GuideStage(const QString& chord)
       m_accessibility(m_permissions, m_runLoop),
       m_appearance(m_defaults.defaults),
       m_model(chord, {m_guide, m_accessibility, m_videos.factory()}) {
-  m_appearance.follow(m_desktop);
+  m_appearance.follow(m_desktop, [this] { return m_desktop.reducesMotion().value(); });
   quillmonger::resourcesview::registerTypes(m_engine);
   quillmonger::guideview::registerTypes();
 }

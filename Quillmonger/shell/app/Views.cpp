@@ -1,5 +1,7 @@
 #include "Quillmonger/shell/app/Views.h"
 
+#include <malloc.h>
+
 #include <QCoreApplication>
 #include <QQuickView>
 #include <utility>
@@ -94,13 +96,19 @@ void Views::feed(Quillmonger& root, const Pasteboard& pasteboard, const PanedSet
                               [this](int pages) { m_previewFeed->model()->scrollRequested(pages); }});
   m_activateChord = std::make_unique<keyboardshortcuts::ShortcutText>(shortcutname::activate(), services.shortcuts,
                                                                       services.inputSources, m_notificationCenter);
-  m_guideFeed =
-      std::make_unique<GuideFeed>(root, QString::fromStdString(m_activateChord->value().value()), m_runLoop, [this] {
-        // Its last button is still at work.
-        m_runLoop.post([this] { m_gettingStartedWindow.unload(); });
-      });
+  m_guideFeed = std::make_unique<GuideFeed>(root, QString::fromStdString(m_activateChord->value().value()), m_runLoop,
+                                            [this] { endGuide(); });
   m_activateChordSubscription = m_activateChord->value().subscribe(
       [this](const auto& chord) { m_guideFeed->model()->setChord(QString::fromStdString(chord)); });
+}
+
+// Its last button is still at work.
+void Views::endGuide() {
+  m_runLoop.post([this] {
+    m_gettingStartedWindow.unload();
+    // What its pictures took is free, but lies among what stays: the system gets it back on demand alone.
+    malloc_trim(0);
+  });
 }
 
 void Views::close() {

@@ -56,6 +56,7 @@ class Views final {
   void close();
 
  private:
+  void endGuide();
   using Content = platform::QtQuickWindow::Content;
   /// Made when the first view needs it: a start has no use for it before.
   QQmlEngine& engine();

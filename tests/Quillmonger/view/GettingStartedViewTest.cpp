@@ -211,9 +211,8 @@ TEST_F(GettingStartedView, ShowsThePicturesOfTheVideo) {
 
   auto* picture = m_stage.find("GuideVideoPicture");
   const QPointF centre = picture->mapToScene(picture->boundingRect().center());
-  EXPECT_TRUE(QTest::qWaitFor([this, &centre] {
-    return m_stage.view().grabWindow().pixelColor(centre.toPoint()) == QColor(200, 40, 20);
-  }));
+  EXPECT_TRUE(QTest::qWaitFor(
+      [this, &centre] { return m_stage.view().grabWindow().pixelColor(centre.toPoint()) == QColor(200, 40, 20); }));
 }
 
 TEST_F(GettingStartedView, AVideoHasAsManyPixelsAsThePlaceThatItIsShownIn) {
