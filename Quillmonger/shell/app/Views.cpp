@@ -8,6 +8,7 @@
 #include "Quillmonger/guide/view/QmlModule.h"
 #include "Quillmonger/history/view/QmlModule.h"
 #include "Quillmonger/preview/view/QmlModule.h"
+#include "Quillmonger/resources/EmojiFont.h"
 #include "Quillmonger/resources/QmlModule.h"
 #include "Quillmonger/resources/Texts.h"
 #include "Quillmonger/search/view/QmlModule.h"
@@ -108,6 +109,7 @@ void Views::close() {
 
 QQmlEngine& Views::engine() {
   if (!m_engine) {
+    preferColourEmoji();
     m_engine = std::make_unique<QQmlEngine>();
     resourcesview::registerTypes(*m_engine);
     searchview::registerTypes();
