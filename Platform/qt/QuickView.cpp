@@ -13,12 +13,13 @@ constexpr auto showsWithoutActivatingProperty = "_q_showWithoutActivating";
 
 int levelOf(const QWindow* window) { return window->property(levelProperty).toInt(); }
 
-// Those of the program's windows on the screen whose level is higher, the lowest first.
-QWindowList windowsAbove(const QWindow* window) {
+// All that are on the screen and whose level is higher, the lowest first.
+void raiseWindowsAbove(const QWindow* window) {
   QWindowList windows = QGuiApplication::topLevelWindows();
   windows.removeIf([window](const QWindow* other) { return !other->isVisible() || levelOf(other) <= levelOf(window); });
   std::ranges::stable_sort(windows, {}, levelOf);
-  return windows;
+  for (QWindow* other : windows)
+    other->raise();
 }
 
 }  // namespace
@@ -41,13 +42,18 @@ void QuickView::showBehindTheFront() {
   setProperty(showsWithoutActivatingProperty, true);
   show();
   raise();
-  for (QWindow* window : windowsAbove(this))
-    window->raise();
+  raiseWindowsAbove(this);
 }
 
 void QuickView::exposeEvent(QExposeEvent* event) {
   QQuickView::exposeEvent(event);
   if (isExposed() && std::exchange(m_comesToFront, false)) m_windowSystem.bringToFront(winId());
+}
+
+void QuickView::mousePressEvent(QMouseEvent* event) {
+  // The window manager has raised what was clicked.
+  raiseWindowsAbove(this);
+  QQuickView::mousePressEvent(event);
 }
 
 void QuickView::focusInEvent(QFocusEvent* event) {

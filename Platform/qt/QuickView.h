@@ -23,6 +23,7 @@ class QuickView final : public QQuickView {
 
  private:
   void exposeEvent(QExposeEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void hideEvent(QHideEvent* event) override;
 

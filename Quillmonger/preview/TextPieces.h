@@ -15,9 +15,10 @@ namespace quillmonger {
 class TextPieces final {
  public:
   /// In bytes: a piece ends with the last line that ends within `usualLength`, or else with the first one that ends
-  /// within `longestLength`. Only a character that is longer than that makes a longer piece.
+  /// within `longestLength`, which takes about a frame to lay out. Only a character that is longer than that makes a
+  /// longer piece.
   static constexpr std::size_t usualLength = 2048;
-  static constexpr std::size_t longestLength = 8192;
+  static constexpr std::size_t longestLength = 32768;
 
   /// Of an empty text there are none.
   TextPieces() = default;

@@ -2,6 +2,7 @@
 
 #include <QFont>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QGuiApplication>
 #include <algorithm>
 
@@ -20,8 +21,9 @@ void preferColourEmoji() {
   const QString emoji = colourEmojiFamily();
   if (emoji.isEmpty()) return;
   QFont font = QGuiApplication::font();
-  // The usual font stays the first: fonts for emoji have digits, too.
-  font.setFamilies({font.family(), emoji});
+  // The usual font stays the first, since fonts for emoji have digits, too. A name that only stands for it, as "Sans"
+  // does, wouldn't do.
+  font.setFamilies({QFontInfo(font).family(), emoji});
   QGuiApplication::setFont(font);
 }
 

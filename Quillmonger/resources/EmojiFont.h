@@ -8,7 +8,7 @@ namespace quillmonger {
 [[nodiscard]] QString colourEmojiFamily();
 
 /// Has every text of the program show emoji in that font, whatever other fonts have the same characters in black and
-/// white. Before the first window. Main thread.
+/// white. Looks for the usual font, which takes some milliseconds. Before the first view. Main thread.
 void preferColourEmoji();
 
 }  // namespace quillmonger

@@ -14,6 +14,11 @@ class Preview:
                                   check=False)
         return answer.stdout.split()[0] if answer.stdout.split() else None
 
+    def stacking(self):
+        """The windows' numbers, the lowest first."""
+        answer = self.desktop.run(["xprop", "-root", "_NET_CLIENT_LIST_STACKING"]).stdout
+        return [str(int(word.strip(" ,"), 16)) for word in answer.split("#")[1].split(",")]
+
     def wait_gone(self):
         wait_until(lambda: self.preview() is None, "the preview to go")
 
@@ -65,6 +70,7 @@ class Preview:
         self.assertEqual(self.desktop.history_window(), history)
         self.assertIsNotNone(self.preview())
         self.assertEqual(self.desktop.focused(), history)
+        wait_until(lambda: self.stacking().index(history) > self.stacking().index(preview), "the history above it")
         self.desktop.press("ctrl+p")
 
         self.wait_gone()

@@ -11,7 +11,7 @@ namespace quillmonger {
 namespace {
 
 // Bytes from each end of a text: more than the widest row can show of the narrowest letters.
-constexpr std::size_t rowTextLimit = 1024;
+constexpr std::size_t rowTextLimit = 512;
 // Above this many rows that come and go, a view that starts anew is faster, and as much as an eye can follow.
 constexpr std::ptrdiff_t gradualLimit = 16;
 

@@ -12,6 +12,7 @@
 #include "Quillmonger/history/view/QmlModule.h"
 #include "Quillmonger/input/ShortcutNames.h"
 #include "Quillmonger/preview/view/QmlModule.h"
+#include "Quillmonger/resources/EmojiFont.h"
 #include "Quillmonger/resources/QmlModule.h"
 #include "Quillmonger/resources/Texts.h"
 #include "Quillmonger/search/view/QmlModule.h"
@@ -129,6 +130,7 @@ void Views::close() {
 
 QQmlEngine& Views::engine() {
   if (!m_engine) {
+    preferColourEmoji();
     m_engine = std::make_unique<QQmlEngine>();
     resourcesview::registerTypes(*m_engine);
     searchview::registerTypes();

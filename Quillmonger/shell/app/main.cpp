@@ -17,7 +17,6 @@
 #include "Platform/freedesktop/SingleInstance.h"
 #include "Platform/freedesktop/XdgFolders.h"
 #include "Platform/qt/QtTerminationSignals.h"
-#include "Quillmonger/resources/EmojiFont.h"
 #include "Quillmonger/resources/Texts.h"
 #include "Quillmonger/shell/app/Composition.h"
 #include "Quillmonger/shell/client/Connection.h"
@@ -50,7 +49,6 @@ void saveAtExit() {
 int run(int argc, char** argv, const platform::XdgFolders& folders, const std::vector<std::string>& arguments) {
   prepareToolkit();
   QGuiApplication application(argc, argv);
-  quillmonger::preferColourEmoji();
   // The toolkit's clipboard must never be asked: it waits for the owner in this thread, five seconds if that one hangs.
   // Its text fields ask at each change that they hear of.
   QGuiApplication::clipboard()->blockSignals(true);

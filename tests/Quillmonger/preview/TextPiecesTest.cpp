@@ -49,7 +49,7 @@ TEST(TextPieces, EndAtLineEndsAndHaveManyLines) {
 }
 
 TEST(TextPieces, KeepALongLineTogether) {
-  const std::string line(5000, 'x');
+  const std::string line(25'001, 'x');
 
   EXPECT_EQ(all(piecesOf(line + "\n" + line)), (std::vector<std::string>{line + "\n", line}));
 }
@@ -70,7 +70,7 @@ TEST(TextPieces, DivideAnEndlessLineAtABlank) {
 TEST(TextPieces, DivideALineWithoutABlankBetweenCharacters) {
   const std::string family = "👩‍👩‍👧‍👦";
   std::string text;
-  while (text.size() < 50'000)
+  while (text.size() < 200'000)
     text += family;
   const TextPieces pieces = piecesOf(text);
 

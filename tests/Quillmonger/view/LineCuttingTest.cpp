@@ -142,7 +142,8 @@ TEST_F(LineCutting, ShowsAHitInBold) {
 TEST_F(LineCutting, ShowsAHitWhereItIsRead) {
   const std::string hebrew = "שלום עולם טוב";
   const auto middleOfHit = [&](const std::string& text, const CharacterRange& match) {
-    return middleOfDarkest(lineOf(text, TruncationMode::tail, match), m_width);
+    const QImage line = lineOf(text, TruncationMode::tail, match);
+    return middleOfDarkest(line, m_width);
   };
 
   EXPECT_LT(middleOfHit("one two three", {0, 2}), 0.3) << "at the left";
