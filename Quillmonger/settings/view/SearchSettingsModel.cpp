@@ -6,7 +6,7 @@ namespace quillmonger {
 
 namespace {
 
-// The sixth number is 0.3. It lies a little above it, as sums of such numbers do, and so must the end.
+// A little more than 0.3, so that rounding can't put the last step, 0.3, out of reach.
 constexpr SettingRange::Bounds pauses{0.05, 0.301, 0.05};
 
 }  // namespace
