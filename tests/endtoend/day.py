@@ -131,6 +131,10 @@ class Day:
     def paste(self):
         program = self.chance.choice(self.programs)
         word = self.chance.choice(list(self.texts))
+        if isinstance(program, targets.WordProcessor):
+            # It asks for the types of the copy before the last one, without Quillmonger too.
+            self.copy_text()
+            time.sleep(2)
         before = self.bring_up(program)
         begin = time.monotonic()
         self.desktop.open_history()
