@@ -212,6 +212,22 @@ TEST_F(QtQuickWindowTest, IsAsLargeAsItsContentWantsToBeWhenNoSizeIsGiven) {
   EXPECT_EQ(window.view()->rootObject()->height(), 240);
 }
 
+TEST_F(QtQuickWindowTest, APlainWindowHasNoFrameTheOrdinaryLevelAndMayGrow) {
+  auto plain = description();
+  plain.kind = QtQuickWindow::Kind::plain;
+  QtQuickWindow window(plain, m_system);
+
+  window.makeKeyAndOrderFront();
+
+  EXPECT_EQ(window.level(), 0);
+  EXPECT_EQ(m_system.keptOutCount, 0);
+  EXPECT_TRUE(window.view()->flags().testFlag(Qt::FramelessWindowHint));
+  EXPECT_FALSE(window.view()->flags().testFlag(Qt::WindowStaysOnTopHint));
+  EXPECT_EQ(window.view()->minimumSize(), QSize(300, 200));
+  EXPECT_GT(window.view()->maximumSize().width(), 300);
+  EXPECT_EQ(window.view()->rootObject()->property("blendsTransparency").toBool(), m_system.blendsTransparency());
+}
+
 TEST_F(QtQuickWindowTest, HoldsTheFrontWhileAnotherOfItsWindowsComesThere) {
   platform::QtApplication application(m_system);
   int resignedCount = 0;
