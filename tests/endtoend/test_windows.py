@@ -55,7 +55,7 @@ class Windows:
     def test_a_history_that_is_shown_again_as_soon_as_it_has_gone_stays(self):
         self.desktop.start_app()
         self.open_gtk_editor()
-        for _ in range(10):
+        for _ in range(5):
             history = self.desktop.open_history()
             self.desktop.press("Escape")
             self.desktop.wait_hidden()
