@@ -33,12 +33,14 @@ class Probe final {
   Probe& operator=(const Probe&) = delete;
   ~Probe() { xcb_disconnect(m_connection); }
 
-  void measure(std::chrono::seconds duration) {
+  // Whether anything changed.
+  bool measure(std::chrono::seconds duration) {
     pointAtMiddle();
     auto before = m_pixels.now();
     auto lastChange = Clock::now();
     auto nextStep = lastChange;
     int steps = 0;
+    bool hasChanged = false;
     for (const auto end = nextStep + warmUp * frame + duration; Clock::now() < end;) {
       if (Clock::now() >= nextStep) {
         step();
@@ -48,12 +50,16 @@ class Probe final {
       auto present = m_pixels.now();
       if (present != before) {
         const auto now = Clock::now();
-        if (steps > warmUp) std::cout << std::chrono::duration<double, std::milli>(now - lastChange).count() << "\n";
+        if (steps > warmUp) {
+          std::cout << std::chrono::duration<double, std::milli>(now - lastChange).count() << "\n";
+          hasChanged = true;
+        }
         lastChange = now;
         before = std::move(present);
       }
       poll(nullptr, 0, 1);
     }
+    return hasChanged;
   }
 
  private:
@@ -67,7 +73,7 @@ class Probe final {
   void step() {
     constexpr std::uint8_t wheelDown = 5;
     if (m_usesWheel) {
-      for (const std::uint8_t type : {XCB_BUTTON_PRESS, XCB_BUTTON_RELEASE})
+      for (const auto type : {std::uint8_t{XCB_BUTTON_PRESS}, std::uint8_t{XCB_BUTTON_RELEASE}})
         xcb_test_fake_input(m_connection, type, wheelDown, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
     } else {
       m_keyboard.key(XK_Down, true);
@@ -91,5 +97,7 @@ int main(int argc, char** argv) {
     std::cerr << "usage: frame_probe wheel|keys SECONDS\n";
     return 2;
   }
-  Probe(how == "wheel").measure(std::chrono::seconds(std::atoi(argv[2])));
+  if (Probe(how == "wheel").measure(std::chrono::seconds(std::atoi(argv[2])))) return 0;
+  std::cerr << "nothing moved\n";
+  return 1;
 }

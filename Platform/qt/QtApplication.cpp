@@ -22,26 +22,35 @@ bool isFrontAwaited() {
   });
 }
 
+void tellArrival(xcb_window_t id) {
+  for (QWindow* window : QGuiApplication::topLevelWindows()) {
+    if (window->handle() != nullptr && window->winId() == id) window->setProperty(awaitsFrontProperty, false);
+  }
+}
+
 }  // namespace
 
 // While a chord or a menu holds the keyboard, X11 says that the focus went out and in again, though it stays where it
-// is. Qt would take that for the loss of the front.
-class QtApplication::GrabFilter final : public QAbstractNativeEventFilter {
+// is. Qt would take that for the loss of the front. And when the focus went out and comes back at once, Qt tells a
+// window of neither.
+class QtApplication::FocusFilter final : public QAbstractNativeEventFilter {
  public:
   bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* /*result*/) override {
     if (eventType != "xcb_generic_event_t") return false;
     const auto* event = static_cast<const xcb_generic_event_t*>(message);
     const int type = event->response_type & 0x7F;
     if (type != XCB_FOCUS_OUT && type != XCB_FOCUS_IN) return false;
-    const auto mode = reinterpret_cast<const xcb_focus_in_event_t*>(event)->mode;
-    return mode == XCB_NOTIFY_MODE_GRAB || mode == XCB_NOTIFY_MODE_UNGRAB;
+    const auto* focus = reinterpret_cast<const xcb_focus_in_event_t*>(event);
+    if (focus->mode == XCB_NOTIFY_MODE_GRAB || focus->mode == XCB_NOTIFY_MODE_UNGRAB) return true;
+    if (type == XCB_FOCUS_IN) tellArrival(focus->event);
+    return false;
   }
 };
 
 QtApplication::QtApplication(quillmonger::WindowSystem& windowSystem)
-    : m_windowSystem(windowSystem), m_grabFilter(std::make_unique<GrabFilter>()) {
+    : m_windowSystem(windowSystem), m_focusFilter(std::make_unique<FocusFilter>()) {
   QGuiApplication::setQuitOnLastWindowClosed(false);
-  qGuiApp->installNativeEventFilter(m_grabFilter.get());
+  qGuiApp->installNativeEventFilter(m_focusFilter.get());
   QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, &m_connections,
                    [this](Qt::ApplicationState state) {
                      const bool wasActive = std::exchange(m_isActive, state == Qt::ApplicationActive);
@@ -49,7 +58,7 @@ QtApplication::QtApplication(quillmonger::WindowSystem& windowSystem)
                    });
 }
 
-QtApplication::~QtApplication() { qGuiApp->removeNativeEventFilter(m_grabFilter.get()); }
+QtApplication::~QtApplication() { qGuiApp->removeNativeEventFilter(m_focusFilter.get()); }
 
 // An entry in the task list belongs to a window on this desktop, and to none of a program without windows: each window
 // decides for itself, and the policy needs nothing.

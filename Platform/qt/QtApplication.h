@@ -24,12 +24,12 @@ class QtApplication final : public quillmonger::Application {
   foundation::Subscription onDidResignActive(std::function<void()> receiver);
 
  private:
-  class GrabFilter;
+  class FocusFilter;
 
   quillmonger::WindowSystem& m_windowSystem;
   foundation::Stream<int> m_didResignActive;
   bool m_isActive = false;
-  std::unique_ptr<GrabFilter> m_grabFilter;
+  std::unique_ptr<FocusFilter> m_focusFilter;
   QObject m_connections;
 };
 

@@ -32,7 +32,8 @@ QuickView::QuickView(QQmlEngine& engine, quillmonger::WindowSystem& windowSystem
 // The window manager must know the window before it is asked for the front.
 void QuickView::showInFront() {
   m_comesToFront = !isExposed();
-  if (!isActive()) setProperty(awaitsFrontProperty, true);
+  // Hidden a moment ago, it can still pass for active: that it lost the keyboard is heard later.
+  if (m_comesToFront || !isActive()) setProperty(awaitsFrontProperty, true);
   show();
   raise();
   if (isExposed()) m_windowSystem.bringToFront(winId());

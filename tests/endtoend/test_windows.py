@@ -52,6 +52,22 @@ class Windows:
 
         self.desktop.wait_hidden()
 
+    def test_a_history_that_is_shown_again_as_soon_as_it_has_gone_stays(self):
+        self.desktop.start_app()
+        self.open_gtk_editor()
+        for _ in range(5):
+            history = self.desktop.open_history()
+            self.desktop.press("Escape")
+            self.desktop.wait_hidden()
+
+            self.desktop.quillmonger("show")
+
+            wait_until(lambda: self.desktop.focused() == history, "the keyboard with the history")
+            time.sleep(0.2)
+            self.assertEqual(self.desktop.history_window(), history)
+            self.desktop.press("Escape")
+            self.desktop.wait_hidden()
+
     def test_a_chord_that_is_held_down_takes_the_keyboard_and_closes_nothing(self):
         self.desktop.start_app()
         self.open_gtk_editor()
