@@ -197,7 +197,8 @@ TEST_P(SettingsPanes, CutNothingAndOverlapNowhereWithTextsTwiceAsLong) {
     EXPECT_GE(placeOf(text).left(), 0) << words;
     EXPECT_LE(placeOf(text).right(), view.width()) << words;
     for (const QQuickItem* other : texts) {
-      if (other != text) EXPECT_FALSE(placeOf(text).intersects(placeOf(other))) << words;
+      const bool overlaps = other != text && placeOf(text).intersects(placeOf(other));
+      EXPECT_FALSE(overlaps) << words << " and " << other->property("text").toString().toStdString();
     }
   }
   QCoreApplication::removeTranslator(&doubled);
