@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <chrono>
 #include <utility>
 
 #include "Platform/keyboard/KeyCodeTable.h"
@@ -23,6 +24,10 @@ std::uint32_t flags(Qt::KeyboardModifiers modifiers) {
   return flags;
 }
 
+// A key that repeats is told as up and down again. The toolkit takes such a release for a true one when the press has
+// not arrived by then.
+constexpr std::chrono::milliseconds repeatArrives(50);
+
 bool isModifier(std::optional<std::uint16_t> virtualKeyCode) {
   constexpr std::uint16_t first = 54;
   constexpr std::uint16_t last = 63;
@@ -30,6 +35,12 @@ bool isModifier(std::optional<std::uint16_t> virtualKeyCode) {
 }
 
 }  // namespace
+
+QtRecordedEvents::QtRecordedEvents() {
+  m_release.setSingleShot(true);
+  m_release.setInterval(repeatArrives);
+  QObject::connect(&m_release, &QTimer::timeout, this, [this] { endHold(); });
+}
 
 QtRecordedEvents::~QtRecordedEvents() { letGo(); }
 
@@ -49,8 +60,15 @@ void QtRecordedEvents::endWatch() {
   if (!m_heldKey) letGo();
 }
 
+void QtRecordedEvents::endHold() {
+  m_heldKey.reset();
+  m_release.stop();
+  if (!m_handler) letGo();
+}
+
 void QtRecordedEvents::letGo() {
   m_heldKey.reset();
+  m_release.stop();
   qGuiApp->removeEventFilter(this);
   if (m_window) m_window->setKeyboardGrabEnabled(false);
   m_window = nullptr;
@@ -76,8 +94,7 @@ bool QtRecordedEvents::handleOwn(const QEvent& event) {
       return false;
     case QEvent::FocusOut:
     case QEvent::WindowBlocked:
-      m_heldKey.reset();
-      if (!m_handler) letGo();
+      endHold();
       return false;
     default:
       return false;
@@ -87,22 +104,24 @@ bool QtRecordedEvents::handleOwn(const QEvent& event) {
 bool QtRecordedEvents::handlePress(const QKeyEvent& event) {
   const auto code = virtualKeyCode(event.nativeScanCode() - x11KeycodeOffset);
   if (isModifier(code)) return false;
-  if (event.isAutoRepeat()) return true;
-  if (!m_handler) return true;
+  const bool isRepeat =
+      event.nativeScanCode() == m_heldKey && m_release.isActive() && event.timestamp() == m_releaseTime;
+  if (isRepeat) m_release.stop();
+  if (isRepeat || event.isAutoRepeat() || !m_handler) return true;
   const Handler handler = m_handler;  // a copy: it may end the watch
+  m_release.stop();
   m_heldKey = event.nativeScanCode();
   const Event told{.keyCode = code, .modifierFlags = flags(event.QInputEvent::modifiers())};
   if (handler(told) == Disposition::swallow) return true;
-  m_heldKey.reset();
-  if (!m_handler) letGo();
+  endHold();
   return false;
 }
 
 bool QtRecordedEvents::handleRelease(const QKeyEvent& event) {
   if (event.nativeScanCode() != m_heldKey) return false;
   if (event.isAutoRepeat()) return true;
-  m_heldKey.reset();
-  if (!m_handler) letGo();
+  m_releaseTime = event.timestamp();
+  m_release.start();
   return true;
 }
 

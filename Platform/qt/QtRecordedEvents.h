@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QTimer>
 #include <QWindow>
 #include <optional>
 
@@ -18,6 +19,7 @@ namespace platform {
 /// Made after the application object, and gone before it.
 class QtRecordedEvents final : public QObject, public keyboardshortcuts::RecordedEvents {
  public:
+  QtRecordedEvents();
   ~QtRecordedEvents() override;
 
   /// Without a window that has the keyboard nothing is told.
@@ -29,6 +31,7 @@ class QtRecordedEvents final : public QObject, public keyboardshortcuts::Recorde
   bool handlePress(const QKeyEvent& event);
   bool handleRelease(const QKeyEvent& event);
   void handleMouse(const QMouseEvent& event);
+  void endHold();
   void endWatch();
   void letGo();
 
@@ -36,6 +39,9 @@ class QtRecordedEvents final : public QObject, public keyboardshortcuts::Recorde
   Handler m_handler;
   /// The swallowed key that is still down, by its scan code.
   std::optional<quint32> m_heldKey;
+  /// When the held key was last told to be up, by the window system's clock.
+  quint64 m_releaseTime = 0;
+  QTimer m_release;
 };
 
 }  // namespace platform

@@ -49,10 +49,17 @@ class QtRecordedEvents : public testing::Test {
   void send(QEvent::Type type, quint32 evdevKey, Qt::KeyboardModifiers modifiers = {}, Repeat repeat = Repeat::no,
             QWindow* window = nullptr) {
     QKeyEvent event(type, Qt::Key_unknown, modifiers, evdevKey + 8, 0, 0, QString(), repeat == Repeat::yes);
+    event.setTimestamp(m_time);
     QCoreApplication::sendEvent(window == nullptr ? &m_window : window, &event);
   }
-  void press(quint32 evdevKey, Qt::KeyboardModifiers modifiers = {}) { send(QEvent::KeyPress, evdevKey, modifiers); }
-  void release(quint32 evdevKey) { send(QEvent::KeyRelease, evdevKey); }
+  void press(quint32 evdevKey, Qt::KeyboardModifiers modifiers = {}) {
+    ++m_time;
+    send(QEvent::KeyPress, evdevKey, modifiers);
+  }
+  void release(quint32 evdevKey) {
+    ++m_time;
+    send(QEvent::KeyRelease, evdevKey);
+  }
   void repeat(quint32 evdevKey) {
     send(QEvent::KeyRelease, evdevKey, {}, Repeat::yes);
     send(QEvent::KeyPress, evdevKey, {}, Repeat::yes);
@@ -76,6 +83,7 @@ class QtRecordedEvents : public testing::Test {
     });
   }
 
+  quint64 m_time = 1;
   CountingWindow m_window;
   bool m_isReady = false;
   std::vector<Event> m_seen;
@@ -145,9 +153,24 @@ TEST_F(QtRecordedEvents, KeepTheLastKeyFromTheWindowUntilItIsUp) {
   EXPECT_EQ(m_window.presses, 0);
   EXPECT_EQ(m_window.releases, 0);
 
-  press(evdevEscape);
-  EXPECT_EQ(m_window.presses, 1);
+  EXPECT_TRUE(QTest::qWaitFor([this] {
+    press(evdevEscape);
+    return m_window.presses == 1;
+  }));
   EXPECT_EQ(m_seen.size(), 1U);
+}
+
+TEST_F(QtRecordedEvents, KnowARepeatThatTheToolkitTakesForAPressOfItsOwn) {
+  watch(Disposition::swallow);
+  press(evdevA);
+
+  release(evdevA);
+  send(QEvent::KeyPress, evdevA);  // of the same moment
+  EXPECT_EQ(m_seen.size(), 1U);
+
+  release(evdevA);
+  press(evdevA);
+  EXPECT_EQ(m_seen.size(), 2U);
 }
 
 TEST_F(QtRecordedEvents, AreSeenBeforeEveryOtherFilter) {

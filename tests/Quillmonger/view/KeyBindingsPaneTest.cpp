@@ -1,9 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <QGuiApplication>
 #include <QQuickItem>
 #include <QTest>
+#include <QTranslator>
 
 #include "Quillmonger/input/ShortcutNames.h"
+#include "Quillmonger/resources/Texts.h"
 #include "Quillmonger/settings/SettingsKeys.h"
 #include "tests/gallery/KeyBindingsStage.h"
 #include "tests/gallery/SettingsStage.h"
@@ -106,6 +109,59 @@ TEST_F(KeyBindingsPane, RestoresByReturnFromTheKeyboard) {
 
   EXPECT_TRUE(m_stage.alert().isUp());
   EXPECT_EQ(item("RestoreDefaultsButton")->property("ownKeys").toList(), QVariantList{int{Qt::Key_Return}});
+}
+
+// Every text, twice.
+class DoubledTexts final : public QTranslator {
+ public:
+  QString translate(const char* context, const char* key, const char* disambiguation, int count) const override {
+    const QString text = m_texts.translate(context, key, disambiguation, count);
+    return text.isEmpty() ? text : text + " " + text;
+  }
+  [[nodiscard]] bool isEmpty() const override { return false; }
+
+ private:
+  quillmonger::Texts m_texts;
+};
+
+QRectF placeOf(const QQuickItem* item) { return item->mapRectToScene(item->boundingRect()); }
+
+TEST_F(KeyBindingsPane, HasRoomForTextsTwiceAsLong) {
+  DoubledTexts doubled;
+  QCoreApplication::installTranslator(&doubled);
+  m_stage.shortcuts().setShortcut(std::nullopt, shortcutname::quickPaste()[0]);
+
+  const auto& view = m_stage.pane();
+  for (const char* name : {"ActivateRecorder", "QuickPaste1Recorder", "RestoreDefaultsButton"}) {
+    EXPECT_GE(placeOf(item(name)).left(), 0) << name;
+    EXPECT_LE(placeOf(item(name)).right(), view.width()) << name;
+  }
+  EXPECT_FALSE(find(m_stage.pane(), "QuickPaste1Recorder")
+                   ->findChild<QQuickItem*>("RecorderText")
+                   ->property("truncated")
+                   .toBool());
+  for (const auto* label : findAll(m_stage.pane(), "SectionLabel"))
+    EXPECT_LE(placeOf(label).right(), placeOf(item("ActivateRecorder")).left());
+  QCoreApplication::removeTranslator(&doubled);
+}
+
+TEST_F(KeyBindingsPane, StandsBesideItsLabelsFromTheRightToo) {
+  QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+
+  const auto label = placeOf(findAll(m_stage.pane(), "SectionLabel").at(0));
+  for (const char* name : {"ActivateRecorder", "QuickPaste3Recorder", "RestoreDefaultsButton"})
+    EXPECT_NEAR(placeOf(item(name)).right(), label.left() - 12, 0.5) << name;
+
+  QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
+TEST_F(KeyBindingsPane, ShowsALongChordInFull) {
+  m_stage.shortcuts().setShortcut(Shortcut{121, 0x1B00}, shortcutname::activate());
+
+  const auto* text = item("ActivateRecorder")->findChild<QQuickItem*>("RecorderText");
+
+  EXPECT_EQ(text->property("text").toString(), "Ctrl+Alt+Shift+Super+Page Down");
+  EXPECT_FALSE(text->property("truncated").toBool());
 }
 
 }  // namespace
