@@ -107,7 +107,11 @@ bool QtRecordedEvents::handlePress(const QKeyEvent& event) {
   const bool isRepeat =
       event.nativeScanCode() == m_heldKey && m_release.isActive() && event.timestamp() == m_releaseTime;
   if (isRepeat) m_release.stop();
-  if (isRepeat || event.isAutoRepeat() || !m_handler) return true;
+  if (isRepeat || event.isAutoRepeat()) return true;
+  if (!m_handler) {
+    endHold();
+    return false;
+  }
   const Handler handler = m_handler;  // a copy: it may end the watch
   m_release.stop();
   m_heldKey = event.nativeScanCode();

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,7 +21,11 @@ const Name other{"other", std::nullopt};
 
 class ShortcutTextTest : public testing::Test {
  protected:
-  ShortcutTextTest() { shortcuts.declare(show); }
+  ShortcutTextTest() {
+    shortcuts.declare(show);
+    text.emplace(show, shortcuts, inputSources, notificationCenter);
+    hold = text->value().follow([this](const auto& value) { log.push_back(value); });
+  }
 
   testsupport::FakeHotKeyService service;
   testsupport::FakeSymbolicHotKeys symbolicHotKeys;
@@ -28,9 +33,9 @@ class ShortcutTextTest : public testing::Test {
   foundation::NotificationCenter notificationCenter;
   KeyboardShortcuts shortcuts{service, symbolicHotKeys, store, notificationCenter};
   testsupport::LatinInputSource inputSources;
-  ShortcutText text{show, shortcuts, inputSources, notificationCenter};
+  std::optional<ShortcutText> text;
   Log log;
-  foundation::Subscription hold = text.value().follow([this](const auto& value) { log.push_back(value); });
+  foundation::Subscription hold;
 };
 
 TEST_F(ShortcutTextTest, FollowsTheStoredChord) {
@@ -50,7 +55,7 @@ TEST_F(ShortcutTextTest, HeedsNoOtherName) {
 TEST_F(ShortcutTextTest, ShowsAnotherNameFromWhenItIsSet) {
   shortcuts.setShortcut(Shortcut{96, 0x1000}, other);
 
-  text.setName(other);
+  text->setName(other);
   shortcuts.setShortcut(Shortcut{97, 0x1000}, other);
 
   EXPECT_EQ(log, (Log{"Shift+Super+V", "Ctrl+F5", "Ctrl+F6"}));
