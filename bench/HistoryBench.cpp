@@ -32,7 +32,7 @@ class History final {
     for (std::int64_t number = 0; number < count; ++number)
       m_context->insert(makeRecord(number));
     m_viewModel = std::make_unique<ClipboardViewModel>(ClipboardViewModel::Collaborators{
-        clipboard, *m_context, m_searchViewModel, m_searchManager, m_naming, *m_oculetManager, m_pictures, noText,
+        clipboard, *m_context, m_searchViewModel, m_searchManager, m_naming, m_oculetManager, m_pictures, noText,
         m_keyEvents, m_shortcuts, m_runLoop, m_notificationCenter, m_defaults});
     m_rows = m_viewModel->filteredItems().follow([this](const auto& rows) { m_model.setRows(rows); });
     m_runLoop.runUntil([this, count] { return m_model.rowCount() == count; });

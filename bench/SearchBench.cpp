@@ -77,7 +77,7 @@ class History final {
   platform::QtPictureReading m_pictures;
   std::shared_ptr<const ClipboardItemViewModel::Services> m_services =
       std::make_shared<const ClipboardItemViewModel::Services>(
-          ClipboardItemViewModel::Services{m_clipboard, defaults, m_naming, *m_oculetManager, m_pictures, noText});
+          ClipboardItemViewModel::Services{m_clipboard, defaults, m_naming, m_oculetManager, m_pictures, noText});
   SearchManager<ClipboardItemViewModel> m_manager{m_queue, m_runLoop, defaults};
   Items m_items;
   SearchResults<ClipboardItemViewModel> m_results;

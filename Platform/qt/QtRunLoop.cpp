@@ -4,8 +4,10 @@
 #include <QEvent>
 #include <QObject>
 #include <QPointer>
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <limits>
 #include <utility>
 
 namespace platform {
@@ -14,12 +16,17 @@ namespace {
 
 enum class Repeats : bool { no, yes };
 
+// No wait of the toolkit is longer than 24 days: a longer one ends then.
+int millisecondsOf(foundation::Seconds interval) {
+  constexpr double longest = std::numeric_limits<int>::max();
+  return static_cast<int>(std::ceil(std::clamp(interval.count() * 1000, 0.0, longest)));
+}
+
 class Timer final : public QObject {
  public:
   Timer(foundation::Seconds interval, Repeats repeats, foundation::RunLoop::Task task)
       : m_task(std::move(task)), m_repeats(repeats) {
-    const auto milliseconds = static_cast<int>(std::ceil(interval.count() * 1000));
-    m_id = startTimer(milliseconds, repeats == Repeats::yes ? Qt::CoarseTimer : Qt::PreciseTimer);
+    m_id = startTimer(millisecondsOf(interval), repeats == Repeats::yes ? Qt::CoarseTimer : Qt::PreciseTimer);
   }
 
   void end() {

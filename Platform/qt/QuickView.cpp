@@ -31,6 +31,7 @@ QuickView::QuickView(QQmlEngine& engine, quillmonger::WindowSystem& windowSystem
 
 // The window manager must know the window before it is asked for the front.
 void QuickView::showInFront() {
+  setProperty(showsWithoutActivatingProperty, false);
   m_comesToFront = !isExposed();
   // Hidden a moment ago, it can still pass for active: that it lost the keyboard is heard later.
   if (m_comesToFront || !isActive()) setProperty(awaitsFrontProperty, true);
@@ -40,6 +41,7 @@ void QuickView::showInFront() {
 }
 
 void QuickView::showBehindTheFront() {
+  m_comesToFront = false;
   setProperty(showsWithoutActivatingProperty, true);
   show();
   raise();
@@ -63,6 +65,7 @@ void QuickView::focusInEvent(QFocusEvent* event) {
 }
 
 void QuickView::hideEvent(QHideEvent* event) {
+  m_comesToFront = false;
   setProperty(awaitsFrontProperty, false);
   QQuickView::hideEvent(event);
 }

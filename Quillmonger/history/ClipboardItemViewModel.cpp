@@ -206,12 +206,12 @@ bool ClipboardItemViewModel::isLong() const {
 
 // Of a long text the start is enough to tell that nothing is in it, as in nearly all.
 bool ClipboardItemViewModel::mayHaveLongDocument() const {
-  return isLong() && m_services->oculetManager.mayDetect(rowText(headLength).head);
+  return isLong() && m_services->oculetManager->mayDetect(rowText(headLength).head);
 }
 
 std::shared_ptr<const OculetResults> ClipboardItemViewModel::detect() const {
   if (isLong() && !mayHaveLongDocument()) return std::make_shared<const OculetResults>();
-  return std::make_shared<const OculetResults>(m_services->oculetManager.detect(text().view));
+  return std::make_shared<const OculetResults>(m_services->oculetManager->detect(text().view));
 }
 
 std::function<ClipboardItemViewModel::Findings()> ClipboardItemViewModel::inspection() const {
@@ -223,7 +223,7 @@ std::function<ClipboardItemViewModel::Findings()> ClipboardItemViewModel::inspec
           services = m_services] {
     Findings findings;
     if (wantsColor) findings.imageColor = averageColor(services->pictureReading, picture);
-    if (data) findings.recognised = summary(services->oculetManager.detect(trimmedText(*data).view));
+    if (data) findings.recognised = summary(services->oculetManager->detect(trimmedText(*data).view));
     return findings;
   };
 }

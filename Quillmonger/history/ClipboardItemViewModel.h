@@ -40,7 +40,8 @@ class ClipboardItemViewModel final : public Searchable, public std::enable_share
     ClipboardManaging& clipboard;
     const defaults::Defaults& defaults;
     const ApplicationNaming& applicationNaming;
-    const OculetManager& oculetManager;
+    /// Shared, since background work may outlast the rest.
+    std::shared_ptr<const OculetManager> oculetManager;
     const PictureReading& pictureReading;
     foundation::TextLookup texts;
   };

@@ -37,7 +37,7 @@ class ClipboardViewModel final : public BaseEventManager {
     SearchViewModel& searchViewModel;
     SearchManager<ClipboardItemViewModel>& searchManager;
     const ApplicationNaming& applicationNaming;
-    const OculetManager& oculetManager;
+    std::shared_ptr<const OculetManager> oculetManager;
     const PictureReading& pictureReading;
     foundation::TextLookup texts;
     LocalEventMonitoring& eventMonitoring;

@@ -10,7 +10,8 @@ PreviewOpening::PreviewOpening(Collaborators collaborators) : m_with(std::move(c
   m_selection = m_with.selectedItem.subscribe([this](const Item& item) { takeSelection(item); });
   m_activation = m_with.notificationCenter.observe("ClipboardActivated", [this](const auto&) { openIfWanted(); });
   m_findings = m_with.inspection.found().subscribe([this](const Item& item) {
-    if (item == m_with.selectedItem.value()) openIfWanted();
+    // A picture's colour is no reason: the preview was opened for the picture itself, and may have been closed since.
+    if (item == m_with.selectedItem.value() && hasWantedResults(item)) openIfWanted();
   });
 }
 
@@ -29,6 +30,10 @@ void PreviewOpening::openIfWanted() const {
 
 bool PreviewOpening::deservesPreview(const Item& item) const {
   if (m_with.defaults[keys::autoOpenImagePreview] && item->isImage()) return true;
+  return hasWantedResults(item);
+}
+
+bool PreviewOpening::hasWantedResults(const Item& item) const {
   return m_with.defaults[keys::autoOpenOculet] && m_with.inspection.hasOculetResults(item);
 }
 

@@ -38,6 +38,7 @@ class PreviewOpening final {
   void takeSelection(const Item& item);
   void openIfWanted() const;
   [[nodiscard]] bool deservesPreview(const Item& item) const;
+  [[nodiscard]] bool hasWantedResults(const Item& item) const;
 
   Collaborators m_with;
   std::weak_ptr<ClipboardItemViewModel> m_selectedItem;

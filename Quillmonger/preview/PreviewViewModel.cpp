@@ -82,18 +82,18 @@ void PreviewViewModel::loadLongContent(const Item& item) {
   // A picture tells its size without its text.
   const bool hasPicture = item->image().has_value();
   const std::string details = hasPicture ? item->details() : byteCountText(byteCount, m_with.texts);
-  const bool mayDetect = m_with.oculetManager.mayDetect(head);
+  const bool mayDetect = m_with.oculetManager->mayDetect(head);
   PreviewContent beginning;
   beginning.details = details;
   beginning.text = TextPieces(inMemory(head), 0, head);
   m_content.set(std::move(beginning));
 
   m_loading.start([this, item, details, hasPicture, byteCount, mayDetect, hidesLong = m_hidesLongText,
-                   &oculetManager = m_with.oculetManager]() -> LatestWork::Finish {
+                   oculetManager = m_with.oculetManager]() -> LatestWork::Finish {
     const SharedText text = item->text();
     const std::size_t lines = hasPicture ? 0 : lineCount(text.view);
     PreviewContent content;
-    if (mayDetect) content.results = std::make_shared<const OculetResults>(oculetManager.detect(text.view));
+    if (mayDetect) content.results = std::make_shared<const OculetResults>(oculetManager->detect(text.view));
     setText(content, *item, text, hidesLong);
     return [this, content = std::move(content), details, hasPicture, byteCount, lines]() mutable {
       content.details = hasPicture ? details : textDetails(byteCount, lines, m_with.texts);

@@ -47,7 +47,8 @@ class PreviewViewModel final {
     /// Whether the preview window is on the screen.
     foundation::Published<bool>& isWindowVisible;
     defaults::Defaults& defaults;
-    const OculetManager& oculetManager;
+    /// Shared, since background work may outlast the rest.
+    std::shared_ptr<const OculetManager> oculetManager;
     foundation::TextLookup texts;
     foundation::BackgroundQueue& backgroundQueue;
     foundation::RunLoop& runLoop;

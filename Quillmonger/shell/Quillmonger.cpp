@@ -60,7 +60,7 @@ Quillmonger::Quillmonger(const Platform& platform)
       m_searchViewModel(platform.runLoop, platform.defaults),
       m_searchManager(platform.backgroundQueue, platform.runLoop, platform.defaults),
       m_clipboardViewModel({m_clipboardManager, platform.context, m_searchViewModel, m_searchManager,
-                            platform.applicationNaming, *m_oculetManager, platform.pictureReading, platform.texts,
+                            platform.applicationNaming, m_oculetManager, platform.pictureReading, platform.texts,
                             platform.eventMonitoring, platform.shortcuts, platform.runLoop, platform.notificationCenter,
                             platform.defaults}),
       m_commandedHistory(

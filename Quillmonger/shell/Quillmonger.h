@@ -86,7 +86,7 @@ class Quillmonger final {
   Quillmonger& operator=(const Quillmonger&) = delete;
 
   [[nodiscard]] ClipboardManager& clipboardManager() { return m_clipboardManager; }
-  [[nodiscard]] const OculetManager& oculetManager() const { return *m_oculetManager; }
+  [[nodiscard]] const std::shared_ptr<const OculetManager>& oculetManager() const { return m_oculetManager; }
   [[nodiscard]] ClipboardViewModel& clipboardViewModel() { return m_clipboardViewModel; }
   /// The history for the command line.
   [[nodiscard]] CommandedHistory& commandedHistory() { return m_commandedHistory; }

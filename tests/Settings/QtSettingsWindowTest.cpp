@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
@@ -107,7 +108,7 @@ class QtSettingsWindow : public testing::Test {
 
   testsupport::TestDefaults m_defaults;
   bool m_reducesMotion = true;
-  QTemporaryFile m_file{QStringLiteral("XXXXXX.qml")};
+  QTemporaryFile m_file{QDir::tempPath() + QStringLiteral("/XXXXXX.qml")};
   QQmlEngine m_engine;
   settings::QtSettingsWindow m_window{{[this]() -> QQuickView& { return view(); },
                                        [this] { view().setPosition(200, 100); }, [this] { activate(); },

@@ -39,7 +39,7 @@ class Acknowledgements(unittest.TestCase):
     LIBRARIES = {"Qt6": "Qt", "ICU": "ICU", "SQLite3": "SQLite", "nlohmann_json": "JSON for Modern C++",
                  "NETTLE": "Nettle", "HOGWEED": "Nettle", "CURL": "curl", "XCB": "XCB", "XKBCOMMON": "xkbcommon",
                  "XKBCOMMON_X11": "xkbcommon", "PULSE": "PulseAudio", "GLIB": "GLib", "GIO": "GLib",
-                 "rapidjson": "RapidJSON"}
+                 "LIBAV": "FFmpeg", "rapidjson": "RapidJSON"}
     OF_THE_BUILD = {"PkgConfig", "Threads", "GTest", "benchmark"}
 
     def test_every_library_of_the_program_is_named_with_its_licence(self):

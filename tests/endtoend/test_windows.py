@@ -84,14 +84,14 @@ class Windows:
         self.desktop.start_app()
         _, editor = self.open_gtk_editor()
         self.desktop.quillmonger("settings")
-        self.wait_for_front("^Ignore$")
+        self.wait_for_front("^General$")
 
         self.desktop.focus(editor)
         time.sleep(0.3)
-        self.assertIsNotNone(self.shown("^Ignore$"))
+        self.assertIsNotNone(self.shown("^General$"))
         self.desktop.open_history()
 
-        self.assertIsNone(self.shown("^Ignore$"))
+        self.assertIsNone(self.shown("^General$"))
 
     def test_the_about_window_comes_in_the_middle_and_goes_for_escape(self):
         self.desktop.start_app()

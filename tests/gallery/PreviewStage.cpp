@@ -19,7 +19,7 @@ namespace testsupport {
 
 PreviewStage::PreviewStage()
     : m_appearance(m_itemServices.settings.defaults),
-      m_viewModel({m_selectedItem, m_isWindowVisible, m_itemServices.settings.defaults, *m_itemServices.oculetManager,
+      m_viewModel({m_selectedItem, m_isWindowVisible, m_itemServices.settings.defaults, m_itemServices.oculetManager,
                    quillmonger::localizedText, m_queue, m_runLoop}),
       m_copying({[this](const foundation::Data& text) { m_copies.push_back(*text.bytes()); },
                  [this] { ++m_alertCount; }, m_queue, m_runLoop}),

@@ -31,7 +31,7 @@ class ClipboardViewModelFixture : public testing::Test, protected ItemServices {
 
   void makeViewModel() {
     viewModel.emplace(quillmonger::ClipboardViewModel::Collaborators{
-        clipboard, context, searchViewModel, searchManager, naming, *oculetManager, pictures, englishText, eventMonitor,
+        clipboard, context, searchViewModel, searchManager, naming, oculetManager, pictures, englishText, eventMonitor,
         shortcuts, runLoop, notificationCenter, settings.defaults});
     settle();
   }

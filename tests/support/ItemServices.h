@@ -35,7 +35,7 @@ struct ItemServices {
   std::shared_ptr<const quillmonger::OculetManager> oculetManager = quillmonger::makeOculetManager();
   std::shared_ptr<const quillmonger::ClipboardItemViewModel::Services> services =
       std::make_shared<const quillmonger::ClipboardItemViewModel::Services>(
-          quillmonger::ClipboardItemViewModel::Services{clipboard, settings.defaults, naming, *oculetManager, pictures,
+          quillmonger::ClipboardItemViewModel::Services{clipboard, settings.defaults, naming, oculetManager, pictures,
                                                         englishText});
 };
 

@@ -19,11 +19,12 @@ void Animation::run(foundation::Seconds duration, const Step& step, const std::f
     completion();
     return;
   }
+  m_done = 0;
   // The calendar's clock can be set while it runs: it moves the steps, and the end is a timer's.
-  m_steps = m_runLoop.every(stepInterval, [this, duration, step, start = m_runLoop.date(), done = 0.0]() mutable {
+  m_steps = m_runLoop.every(stepInterval, [this, duration, step, start = m_runLoop.date()] {
     const double share = foundation::Seconds(m_runLoop.date() - start) / duration;
-    done = std::max(done, easedOut(std::clamp(share, 0.0, 1.0)));
-    step(done);
+    m_done = std::max(m_done, easedOut(std::clamp(share, 0.0, 1.0)));
+    step(m_done);
   });
   m_end = m_runLoop.after(duration, [this, step, completion] {
     m_steps.cancel();

@@ -24,6 +24,7 @@ class Animation final {
  private:
   foundation::RunLoop& m_runLoop;
   const MotionPreference& m_motion;
+  double m_done = 0;
   foundation::Subscription m_steps;
   foundation::Subscription m_end;
 };

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QPointer>
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -48,7 +49,7 @@ class QtQuickWindowTest : public testing::Test {
             [this]() -> QQmlEngine& { return m_engine; }};
   }
 
-  QTemporaryFile m_file{QStringLiteral("XXXXXX.qml")};
+  QTemporaryFile m_file{QDir::tempPath() + QStringLiteral("/XXXXXX.qml")};
   QQmlEngine m_engine;
   FakeWindowSystem m_system;
   int m_contentCount = 0;
@@ -132,7 +133,7 @@ TEST_F(QtQuickWindowTest, NeverTakesTheKeyboardAsACompanion) {
 }
 
 TEST_F(QtQuickWindowTest, IsNoWiderThanACompanionsContentWhateverItsFrame) {
-  QTemporaryFile file(QStringLiteral("XXXXXX.qml"));
+  QTemporaryFile file(QDir::tempPath() + QStringLiteral("/XXXXXX.qml"));
   file.open();
   file.write("import QtQuick\nItem { implicitWidth: 120; property bool blendsTransparency }");
   file.close();
@@ -192,7 +193,7 @@ TEST_F(QtQuickWindowTest, GoesWhenTheApplicationHides) {
 }
 
 TEST_F(QtQuickWindowTest, IsAsLargeAsItsContentWantsToBeWhenNoSizeIsGiven) {
-  QTemporaryFile file(QStringLiteral("XXXXXX.qml"));
+  QTemporaryFile file(QDir::tempPath() + QStringLiteral("/XXXXXX.qml"));
   file.open();
   file.write(
       "import QtQuick\nItem { implicitWidth: 480; implicitHeight: rows.height; Column { id: rows; Item { width: 9; "

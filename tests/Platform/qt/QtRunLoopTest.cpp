@@ -55,6 +55,22 @@ TEST_F(QtRunLoop, RunsADelayedTaskOnce) {
   EXPECT_EQ(count, 1);
 }
 
+TEST_F(QtRunLoop, WaitsForAMonthWithoutRunningAtOnce) {
+  static int warningCount = 0;
+  const auto earlier =
+      qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) { ++warningCount; });
+  bool hasRun = false;
+  bool isLater = false;
+  const auto month = m_runLoop.after(Seconds(2'629'746), [&hasRun] { hasRun = true; });
+  const auto later = m_runLoop.after(Seconds(0.05), [&isLater] { isLater = true; });
+
+  EXPECT_TRUE(QTest::qWaitFor([&isLater] { return isLater; }));
+
+  qInstallMessageHandler(earlier);
+  EXPECT_FALSE(hasRun);
+  EXPECT_EQ(warningCount, 0) << "the toolkit tells of a wait that it refuses";
+}
+
 TEST_F(QtRunLoop, RunsNothingOfAHoldThatIsGone) {
   bool hasRun = false;
   bool isLater = false;

@@ -36,7 +36,7 @@ TEST(ThreadedSearch, RunsBesideAHistoryThatChanges) {
   for (int age = 0; age < 600; ++age)
     context.insert(makeRecord("text " + std::to_string(age), foundation::Seconds(age)));
   ClipboardViewModel viewModel({clipboard, context, searchViewModel, searchManager, services.naming,
-                                *services.oculetManager, services.pictures, testsupport::englishText, eventMonitor,
+                                services.oculetManager, services.pictures, testsupport::englishText, eventMonitor,
                                 shortcuts, runLoop, notificationCenter, settings.defaults});
 
   for (int round = 0; round < 20; ++round) {

@@ -47,6 +47,18 @@ TEST_F(PreviewOpeningTest, OpensForASelectedPictureSixPointsBesideTheHistory) {
   EXPECT_EQ(shown, std::vector<double>{6});
 }
 
+TEST_F(PreviewOpeningTest, StaysClosedWhenAPicturesColorIsFoundLater) {
+  const auto item = picture();
+  select(item);
+  shown.clear();
+
+  static_cast<void>(inspection.imageColor(item));
+  queue.run();
+  runLoop.runPosted();
+
+  EXPECT_TRUE(shown.empty());
+}
+
 TEST_F(PreviewOpeningTest, OpensForADateAColorAndJson) {
   select(itemOf("2026-11-21T02:25:50Z"));
   select(itemOf("#ff7a59"));

@@ -52,7 +52,7 @@ class PreviewViewModelTest : public testing::Test, protected testsupport::ItemSe
   foundation::Published<PreviewViewModel::Item> selectedItem;
   foundation::Published<bool> isWindowVisible{true};
   PreviewViewModel viewModel{
-      {selectedItem, isWindowVisible, settings.defaults, *oculetManager, testsupport::englishText, queue, runLoop}};
+      {selectedItem, isWindowVisible, settings.defaults, oculetManager, testsupport::englishText, queue, runLoop}};
 };
 
 TEST_F(PreviewViewModelTest, ShowsTheSelectedItem) {

@@ -82,7 +82,7 @@ class WindowManager : public testing::Test, protected testsupport::ItemServices 
   keyboardshortcuts::KeyboardShortcuts shortcuts{hotKeys, symbolicHotKeys, settings.suite, notificationCenter};
   quillmonger::SearchViewModel searchViewModel{runLoop, settings.defaults};
   quillmonger::SearchManager<quillmonger::ClipboardItemViewModel> searchManager{queue, runLoop, settings.defaults};
-  quillmonger::ClipboardViewModel viewModel{{clipboard, context, searchViewModel, searchManager, naming, *oculetManager,
+  quillmonger::ClipboardViewModel viewModel{{clipboard, context, searchViewModel, searchManager, naming, oculetManager,
                                              pictures, testsupport::englishText, eventMonitor, shortcuts, runLoop,
                                              notificationCenter, settings.defaults}};
   testsupport::FakeWindow gettingStartedWindow{"guide", log};
