@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
@@ -107,7 +108,7 @@ class QtSettingsWindow : public testing::Test {
 
   testsupport::TestDefaults m_defaults;
   bool m_reducesMotion = true;
-  QTemporaryFile m_file{QStringLiteral("XXXXXX.qml")};
+  QTemporaryFile m_file{QDir::tempPath() + QStringLiteral("/XXXXXX.qml")};
   QQmlEngine m_engine;
   settings::QtSettingsWindow m_window{{[this]() -> QQuickView& { return view(); },
                                        [this] { view().setPosition(200, 100); }, [this] { activate(); },
@@ -260,6 +261,25 @@ TEST_F(QtSettingsWindow, ComesBackWhereItWasMovedTo) {
   m_controller->show();
 
   EXPECT_EQ(view().position(), QPoint(33, 44));
+}
+
+TEST_F(QtSettingsWindow, ComesBackWhereItWasMovedToWithAnotherPaneAndMotionOn) {
+  m_reducesMotion = false;
+  make();
+  m_controller->show({{"first"}});
+  view().setPosition(33, 44);
+  QCoreApplication::processEvents();
+  view().hide();
+  m_defaults.suite.setObject(Controller::frameAutosaveName, std::string("55 66 360 200"));
+
+  m_controller->show({{"second"}});
+
+  EXPECT_EQ(view().position(), QPoint(55, 66));
+  EXPECT_TRUE(QTest::qWaitFor([this] { return view().width() == 460; }));
+  EXPECT_FALSE(item("first")->isVisible()) << "swapped at once";
+  EXPECT_EQ(item("second")->opacity(), 1);
+  m_window.endAnimation();
+  EXPECT_EQ(view().position(), QPoint(55, 66));
 }
 
 TEST_F(QtSettingsWindow, StaysWhereItIsWhenItIsShownAgainOnTheScreen) {
