@@ -9,11 +9,6 @@ class SegmentedControlStyleViewController final : public SettingsStyleController
  public:
   using SettingsStyleController::SettingsStyleController;
 
-  /// Of the control itself.
-  static constexpr auto controlIdentifier = "toolbarSegmentedControl";
-  /// Of the toolbar's item that holds it.
-  static constexpr auto itemIdentifier = "toolbarSegmentedControlItem";
-
   [[nodiscard]] Style style() const override { return Style::segmentedControl; }
   [[nodiscard]] std::vector<ToolbarItem> toolbar() const override;
   [[nodiscard]] bool isKeepingWindowCentered() const override { return true; }

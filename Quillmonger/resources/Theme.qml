@@ -58,7 +58,6 @@ QtObject {
     readonly property int panelRadius: 15
 
     readonly property int searchFontSize: 20
-    readonly property int titleFontSize: 26
     readonly property int noteFontSize: 18
     readonly property int rowFontSize: 16
     readonly property int bodyFontSize: 15

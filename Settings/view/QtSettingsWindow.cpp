@@ -78,7 +78,7 @@ void QtSettingsWindow::setFrame(const Frame& frame) {
 }
 
 void QtSettingsWindow::animate(const Step& step, const std::function<void()>& completion) {
-  if (m_surroundings.reducesMotion()) {
+  if (m_surroundings.reducesMotion() || !view().isVisible()) {
     step(1);
     completion();
     return;

@@ -263,6 +263,25 @@ TEST_F(QtSettingsWindow, ComesBackWhereItWasMovedTo) {
   EXPECT_EQ(view().position(), QPoint(33, 44));
 }
 
+TEST_F(QtSettingsWindow, ComesBackWhereItWasMovedToWithAnotherPaneAndMotionOn) {
+  m_reducesMotion = false;
+  make();
+  m_controller->show({{"first"}});
+  view().setPosition(33, 44);
+  QCoreApplication::processEvents();
+  view().hide();
+  m_defaults.suite.setObject(Controller::frameAutosaveName, std::string("55 66 360 200"));
+
+  m_controller->show({{"second"}});
+
+  EXPECT_EQ(view().position(), QPoint(55, 66));
+  EXPECT_TRUE(QTest::qWaitFor([this] { return view().width() == 460; }));
+  EXPECT_FALSE(item("first")->isVisible()) << "swapped at once";
+  EXPECT_EQ(item("second")->opacity(), 1);
+  m_window.endAnimation();
+  EXPECT_EQ(view().position(), QPoint(55, 66));
+}
+
 TEST_F(QtSettingsWindow, StaysWhereItIsWhenItIsShownAgainOnTheScreen) {
   make();
   m_controller->show();

@@ -22,7 +22,8 @@ class Documentation(unittest.TestCase):
                     self.assertTrue((document.parent / link).exists(), f"{document.name} links {link}")
 
     def test_every_named_path_exists(self):
-        tops = "Foundation|Defaults|Sauce|KeyboardShortcuts|Quillmonger|Platform|tests|bench|cmake|docs|packaging|script"
+        tops = ("Foundation|Defaults|Settings|Sauce|LaunchAtLogin|KeyboardShortcuts|Quillmonger|Platform|tests|bench|"
+                "cmake|docs|packaging|script")
         for document in tracked("*.md"):
             for path in re.findall(rf"`((?:{tops})/[\w./-]*)`", document.read_text()):
                 self.assertTrue((ROOT / path).exists(), f"{document.name} names {path}")

@@ -11,6 +11,8 @@ Rectangle {
 
     readonly property Theme theme: Theme { isDark: about.appearance.isDark }
 
+    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
     implicitWidth: 540
     implicitHeight: 280
     color: theme.window
