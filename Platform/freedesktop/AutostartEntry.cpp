@@ -5,6 +5,8 @@
 #include <utility>
 
 #include "Platform/freedesktop/AutostartFile.h"
+#include "Platform/freedesktop/DesktopEntry.h"
+#include "Platform/freedesktop/SmallFile.h"
 
 namespace platform {
 
@@ -32,9 +34,12 @@ AutostartEntry::AutostartEntry(std::vector<std::filesystem::path> configFolders,
 }
 
 // Where there is nothing that can be kept, a new one.
-AutostartFile AutostartEntry::ownFile() const {
-  auto file = AutostartFile::read(ownPath());
-  return file ? *std::move(file) : AutostartFile(m_program);
+foundation::Result<AutostartFile> AutostartEntry::ownFile() const {
+  if (auto file = AutostartFile::read(ownPath())) return *std::move(file);
+  std::error_code error;
+  const bool isAbsent = std::filesystem::status(ownPath(), error).type() == std::filesystem::file_type::not_found;
+  if (isAbsent || readSmallFile(ownPath(), DesktopEntry::sizeLimit)) return AutostartFile(m_program);
+  return foundation::Error{ownPath().string() + ": " + (error ? error.message() : "it can't be read")};
 }
 
 // The most important folder's entry counts alone.
@@ -47,19 +52,21 @@ launchatlogin::AppService::Status AutostartEntry::status() const {
 
 foundation::Outcome AutostartEntry::registerApp() {
   auto file = ownFile();
-  file.enable();
-  file.renewCommand(m_program);
-  return file.write(ownPath());
+  if (!file) return file.error();
+  file.value().enable();
+  file.value().renewCommand(m_program);
+  return file.value().write(ownPath());
 }
 
 foundation::Outcome AutostartEntry::unregisterApp() {
   const bool isInSystem = std::any_of(m_paths.begin() + 1, m_paths.end(), isThere);
   if (!isThere(ownPath()) && !isInSystem) return foundation::success();
   auto file = ownFile();
-  file.renewCommand(m_program);
-  if (!isInSystem && file.text() == AutostartFile(m_program).text()) return removeFile(ownPath());
-  file.hide();
-  return file.write(ownPath());
+  if (!file) return file.error();
+  file.value().renewCommand(m_program);
+  if (!isInSystem && file.value().text() == AutostartFile(m_program).text()) return removeFile(ownPath());
+  file.value().hide();
+  return file.value().write(ownPath());
 }
 
 }  // namespace platform

@@ -25,7 +25,8 @@ class AutostartEntry final : public launchatlogin::AppService {
 
  private:
   [[nodiscard]] const std::filesystem::path& ownPath() const { return m_paths.front(); }
-  [[nodiscard]] AutostartFile ownFile() const;
+  /// An error when something is there that can't be read.
+  [[nodiscard]] foundation::Result<AutostartFile> ownFile() const;
 
   /// Each folder's entry, the user's own first.
   std::vector<std::filesystem::path> m_paths;

@@ -4,12 +4,14 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <string_view>
 #include <system_error>
 #include <utility>
 #include <vector>
 
 #include "Platform/freedesktop/DesktopEntry.h"
+#include "Platform/freedesktop/ShowingDesktops.h"
 #include "Platform/freedesktop/SmallFile.h"
 
 namespace platform {
@@ -67,9 +69,27 @@ std::vector<std::string> commandOf(GKeyFile* file) {
   return command;
 }
 
-bool canBeRun(const std::vector<std::string>& command) {
-  if (command.empty()) return false;
-  return std::unique_ptr<char, FreeText>(g_find_program_in_path(command.front().c_str())) != nullptr;
+bool isRunnable(const std::string& program) {
+  return std::unique_ptr<char, FreeText>(g_find_program_in_path(program.c_str())) != nullptr;
+}
+
+bool canBeRun(const std::vector<std::string>& command) { return !command.empty() && isRunnable(command.front()); }
+
+std::vector<std::string> listOf(GKeyFile* file, const char* key) {
+  std::size_t length = 0;
+  const std::unique_ptr<char*, FreeText> list(g_key_file_get_string_list(file, group, key, &length, nullptr));
+  return {list.get(), list.get() + length};
+}
+
+bool isForThisDesktop(GKeyFile* file) {
+  const char* desktops = std::getenv("XDG_CURRENT_DESKTOP");
+  return isShownByDesktop(partsOf(desktops == nullptr ? "" : desktops), listOf(file, "OnlyShowIn"),
+                          listOf(file, "NotShowIn"));
+}
+
+bool isInstalled(GKeyFile* file) {
+  const auto program = valueOf(file, "TryExec");
+  return program.empty() || isRunnable(program);
 }
 
 }  // namespace
@@ -104,14 +124,20 @@ bool AutostartFile::isEnabled() const {
   for (const char* key : switchKeys) {
     if (isFalse(m_file.get(), key)) return false;
   }
-  return valueOf(m_file.get(), "Hidden") != "true" && canBeRun(commandOf(m_file.get()));
+  return valueOf(m_file.get(), "Hidden") != "true" && isForThisDesktop(m_file.get()) && isInstalled(m_file.get()) &&
+         canBeRun(commandOf(m_file.get()));
 }
 
 void AutostartFile::enable() {
+  const auto remove = [this](const char* key) { g_key_file_remove_key(m_file.get(), group, key, nullptr); };
   for (const char* key : switchKeys) {
-    if (isFalse(m_file.get(), key)) g_key_file_remove_key(m_file.get(), group, key, nullptr);
+    if (isFalse(m_file.get(), key)) remove(key);
   }
-  g_key_file_remove_key(m_file.get(), group, "Hidden", nullptr);
+  remove("Hidden");
+  if (!isInstalled(m_file.get())) remove("TryExec");
+  if (isForThisDesktop(m_file.get())) return;
+  remove("OnlyShowIn");
+  remove("NotShowIn");
 }
 
 void AutostartFile::hide() { g_key_file_set_boolean(m_file.get(), group, "Hidden", TRUE); }
@@ -134,9 +160,11 @@ std::string AutostartFile::text() const {
 foundation::Outcome AutostartFile::write(const std::filesystem::path& path) const {
   std::error_code error;
   std::filesystem::create_directories(path.parent_path(), error);
-  // The link of someone who keeps settings elsewhere stays a link.
-  const auto target = std::filesystem::is_symlink(path) ? std::filesystem::weakly_canonical(path, error) : path;
   if (error) return foundation::Error{path.parent_path().string() + ": " + error.message()};
+  // The link of someone who keeps settings elsewhere stays a link.
+  const bool isLink = std::filesystem::is_symlink(std::filesystem::symlink_status(path, error));
+  const auto target = isLink ? std::filesystem::weakly_canonical(path, error) : path;
+  if (isLink && error) return foundation::Error{path.string() + ": " + error.message()};
   GError* failure = nullptr;
   const auto content = text();
   constexpr auto readableByAll = 0644;

@@ -21,9 +21,9 @@ class AutostartFile final {
   ~AutostartFile();
   AutostartFile(AutostartFile&&) noexcept;
 
-  /// Whether a desktop starts what it names.
+  /// Whether the present desktop (XDG_CURRENT_DESKTOP) starts what it names.
   [[nodiscard]] bool isEnabled() const;
-  /// Removes the marks that keep desktops from starting it.
+  /// Removes the marks that keep the present desktop from starting it.
   void enable();
   void hide();
   /// Has it start `program`, unless it has a command of the user's own that can be run.

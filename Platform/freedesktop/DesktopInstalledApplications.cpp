@@ -3,31 +3,17 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <string_view>
 #include <system_error>
+
+#include "Platform/freedesktop/ShowingDesktops.h"
 
 namespace platform {
 
 namespace {
 
-std::vector<std::string> partsOf(const std::string& list) {
-  std::vector<std::string> parts;
-  std::string_view rest = list;
-  while (!rest.empty()) {
-    const auto end = std::min(rest.find(':'), rest.size());
-    if (end > 0) parts.emplace_back(rest.substr(0, end));
-    rest.remove_prefix(std::min(end + 1, rest.size()));
-  }
-  return parts;
-}
-
 bool isProgram(const std::filesystem::path& path) {
   std::error_code error;
   return std::filesystem::is_regular_file(path, error) && access(path.c_str(), X_OK) == 0;
-}
-
-bool contains(const std::vector<std::string>& list, const std::string& word) {
-  return std::ranges::find(list, word) != list.end();
 }
 
 }  // namespace
@@ -49,17 +35,9 @@ std::vector<quillmonger::InstalledApplication> DesktopInstalledApplications::app
 }
 
 bool DesktopInstalledApplications::isShown(const DesktopEntry& entry) const {
-  if (entry.isNoDisplay || entry.name.empty() || !isShownByDesktop(entry)) return false;
+  if (entry.isNoDisplay || entry.name.empty() || !isShownByDesktop(m_desktops, entry.onlyShowIn, entry.notShowIn))
+    return false;
   return entry.tryExec.empty() || isRunnable(entry.tryExec);
-}
-
-// The first of the desktop's names that one of the lists has decides.
-bool DesktopInstalledApplications::isShownByDesktop(const DesktopEntry& entry) const {
-  for (const auto& desktop : m_desktops) {
-    if (contains(entry.onlyShowIn, desktop)) return true;
-    if (contains(entry.notShowIn, desktop)) return false;
-  }
-  return entry.onlyShowIn.empty();
 }
 
 bool DesktopInstalledApplications::isRunnable(const std::filesystem::path& program) const {

@@ -20,7 +20,6 @@ class DesktopInstalledApplications final : public quillmonger::InstalledApplicat
 
  private:
   [[nodiscard]] bool isShown(const DesktopEntry& entry) const;
-  [[nodiscard]] bool isShownByDesktop(const DesktopEntry& entry) const;
   [[nodiscard]] bool isRunnable(const std::filesystem::path& program) const;
 
   const DesktopEntries& m_entries;

@@ -32,11 +32,16 @@ QProcess* makeProcess(const std::filesystem::path& program, const QStringList& a
   return process;
 }
 
-foundation::Subscription holdOf(QProcess* process) {
-  return foundation::Subscription([process] {
+foundation::Subscription holdOf(QProcess* process, const std::filesystem::path& unfinished = {}) {
+  return foundation::Subscription([process, unfinished] {
     process->disconnect();
+    QCoreApplication::removePostedEvents(process, QEvent::MetaCall);
     process->kill();
+    // Until then it may go on writing.
+    process->waitForFinished();
     process->deleteLater();
+    std::error_code none;
+    std::filesystem::remove(unfinished, none);
   });
 }
 
@@ -45,13 +50,12 @@ void later(QProcess* process, std::function<void()> task) {
   QMetaObject::invokeMethod(process, std::move(task), Qt::QueuedConnection);
 }
 
-foundation::Subscription start(QProcess* process, const std::function<void()>& finished) {
+void start(QProcess* process, const std::function<void()>& finished) {
   QObject::connect(process, &QProcess::finished, process, finished);
   QObject::connect(process, &QProcess::errorOccurred, process, [process, finished](QProcess::ProcessError error) {
     if (error == QProcess::FailedToStart) later(process, finished);
   });
   process->start(QIODevice::ReadOnly);
-  return holdOf(process);
 }
 
 bool isPlainName(std::string_view name) {
@@ -66,14 +70,28 @@ std::string fileNameOf(const quillmonger::Update& update) {
   const auto& url = update.url.absoluteString();
   const auto path = std::string_view(url).substr(0, url.find_first_of("?#"));
   const auto name = path.substr(path.rfind('/') + 1);
-  return isPlainName(name) ? std::string(name) : "quillmonger-" + update.version;
+  if (isPlainName(name)) return std::string(name);
+  const auto named = "quillmonger-" + update.version;
+  return isPlainName(named) ? named : "quillmonger-update";
 }
 
 void removeAllBut(const std::filesystem::path& file) {
   std::error_code error;
-  for (const auto& entry : std::filesystem::directory_iterator(file.parent_path(), error)) {
-    if (entry.path() != file) std::filesystem::remove(entry.path(), error);
+  std::error_code failure;
+  for (std::filesystem::directory_iterator entry(file.parent_path(), error), end; !error && entry != end;
+       entry.increment(error)) {
+    if (entry->path() != file) std::filesystem::remove(entry->path(), failure);
   }
+}
+
+// What lies there has been installed, or is not offered any more.
+void clear(const std::filesystem::path& folder) {
+  std::error_code error;
+  if (std::filesystem::exists(folder, error) && ensurePrivateFolder(folder)) removeAllBut(folder / "");
+}
+
+bool isTooLong(const QProcess& process) {
+  return static_cast<std::size_t>(process.bytesAvailable()) > updateanswer::sizeLimit;
 }
 
 // Of the lines that say how much is there, the last.
@@ -88,12 +106,18 @@ foundation::Subscription UpdateProcess::check(std::function<void(const CheckResu
   auto* process = makeProcess(
       m_with.program, {"check", QString::fromStdString(m_with.feed.address.absoluteString()),
                        QString::fromStdString(m_with.feed.publicKey), QString::fromStdString(m_with.ownVersion)});
-  return start(process, [process, finished = std::move(finished)] {
+  QObject::connect(process, &QProcess::readyReadStandardOutput, process, [process] {
+    if (isTooLong(*process)) process->kill();
+  });
+  start(process, [process, folder = m_with.folder, finished = std::move(finished)] {
+    if (isTooLong(*process)) return finished(UpdateFailure::untrusted);
     const int code = exitCodeOf(*process);
     if (code != 0) return finished(updateanswer::failureOf(code));
     const auto answer = updateanswer::decode(process->readAllStandardOutput().toStdString());
+    if (answer && !*answer) clear(folder);
     finished(answer ? CheckResult(*answer) : CheckResult(UpdateFailure::untrusted));
   });
+  return holdOf(process);
 }
 
 foundation::Subscription UpdateProcess::download(const quillmonger::Update& update,
@@ -113,10 +137,11 @@ foundation::Subscription UpdateProcess::download(const quillmonger::Update& upda
     return holdOf(process);
   }
   removeAllBut(file);
-  return start(process, [process, file, finished = std::move(finished)] {
+  start(process, [process, file, finished = std::move(finished)] {
     const int code = exitCodeOf(*process);
     finished(code == 0 ? DownloadResult(file) : DownloadResult(updateanswer::failureOf(code)));
   });
+  return holdOf(process, file.string() + std::string(updateanswer::partSuffix));
 }
 
 }  // namespace platform

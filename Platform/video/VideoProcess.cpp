@@ -70,7 +70,7 @@ void VideoProcess::stop() {
 }
 
 void VideoProcess::play() {
-  if (std::exchange(m_isPlaying, true)) return;
+  if (m_hasFailed || std::exchange(m_isPlaying, true)) return;
   if (m_process.state() == QProcess::NotRunning) {
     m_process.start();
     askForPicture();
@@ -79,6 +79,8 @@ void VideoProcess::play() {
 }
 
 void VideoProcess::pause() {
+  // What waits now is the word of it.
+  if (m_hasFailed) return;
   m_isPlaying = false;
   m_turn.cancel();
 }
@@ -120,6 +122,7 @@ void VideoProcess::showPicture() {
 
 void VideoProcess::fail() {
   stop();
+  m_hasFailed = true;
   m_isPlaying = false;
   m_turn = m_runLoop.after(foundation::Seconds(0), [this] { m_receiver.failure(); });
 }

@@ -42,6 +42,7 @@ class VideoProcess final : public quillmonger::VideoLooper {
   QProcess m_process;
   QByteArray m_bytes;  // of the next picture, as far as it is there
   bool m_isPlaying = false;
+  bool m_hasFailed = false;
   bool m_isDue = false;  // the present picture has stood as long as it should
   foundation::Subscription m_turn;
 };

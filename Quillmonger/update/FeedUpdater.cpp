@@ -110,7 +110,8 @@ void FeedUpdater::install() {
 }
 
 void FeedUpdater::skip() {
-  if (!m_status || m_status->stage != Stage::available) return;
+  const bool isOffered = m_status && (m_status->stage == Stage::available || m_status->stage == Stage::ready);
+  if (!isOffered) return;
   m_with.defaults.set(updaterkeys::skippedUpdate, m_status->update->version);
   close();
 }

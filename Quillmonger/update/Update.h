@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -9,6 +10,11 @@ namespace quillmonger {
 
 /// A version that the feed offers and whose makers' signature has been checked.
 struct Update {
+  /// Bytes of the address.
+  static constexpr std::size_t addressLimit = 2048;
+  /// Bytes of the file.
+  static constexpr std::uint64_t lengthLimit = std::uint64_t{1} << 29U;
+
   std::string version;
   /// What is new in it, as plain text.
   std::string notes;
@@ -21,6 +27,10 @@ struct Update {
 
   bool operator==(const Update&) const = default;
 };
+
+/// Whether it names what can be: a version, an address by HTTPS, a length and a digest, all within their limits. Any
+/// thread.
+[[nodiscard]] bool isUsable(const Update& update);
 
 /// Why there is no answer, or no file.
 enum class UpdateFailure {

@@ -47,11 +47,13 @@ std::optional<std::optional<Update>> decode(std::string_view text) {
   auto url = foundation::Url::parse(*address);
   const auto bytes = number(*length);
   if (!url || !bytes) return std::nullopt;
-  return Update{.version = std::string(*version),
+  Update update{.version = std::string(*version),
                 .notes = std::string(text),
                 .url = *std::move(url),
                 .length = *bytes,
                 .sha256 = std::string(*sha256)};
+  if (!isUsable(update)) return std::nullopt;
+  return std::optional(std::move(update));
 }
 
 int exitCode(UpdateFailure failure) { return firstFailureCode + static_cast<int>(failure); }

@@ -78,11 +78,11 @@ UpdateContent updateContent(const UpdateStatus& status, std::string_view ownVers
               .progress = progressOf(status),
               .buttons = {button("cancel_string", Answer::close)}};
     case Stage::ready:
-      return {
-          .heading = withVersion("update_ready_title"),
-          .message = texts("update_ready_message"),
-          .notes = status.update->notes,
-          .buttons = {button("update_install_button", Answer::install), button("update_later_button", Answer::close)}};
+      return {.heading = withVersion("update_ready_title"),
+              .message = texts("update_ready_message"),
+              .notes = status.update->notes,
+              .buttons = {button("update_install_button", Answer::install),
+                          button("update_later_button", Answer::close), button("update_skip_button", Answer::skip)}};
     case Stage::failed:
       return {.heading = texts("update_failed_title"),
               .message = texts(keyOf(status.failure)),

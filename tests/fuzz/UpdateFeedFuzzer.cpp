@@ -20,7 +20,7 @@ void checkFeed(std::string_view text) {
   fuzz::check(updates->size() <= appcast::itemLimit);
   for (const auto& update : *updates) {
     fuzz::check(update.url.scheme() == "https" && update.notes.size() <= appcast::notesLimit);
-    fuzz::check(update.length > 0 && update.length <= appcast::downloadLimit);
+    fuzz::check(update.length > 0 && update.length <= quillmonger::Update::lengthLimit);
     fuzz::check(updateanswer::decode(updateanswer::encode(update)) == std::optional(std::optional(update)));
   }
   const auto own = quillmonger::SoftwareVersion::parse("1.0");

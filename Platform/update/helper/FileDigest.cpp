@@ -5,11 +5,13 @@
 #include <array>
 #include <cstdint>
 #include <fstream>
+#include <system_error>
 
 namespace platform {
 
 std::optional<std::string> sha256OfFile(const std::filesystem::path& path) {
-  if (!std::filesystem::is_regular_file(path)) return std::nullopt;
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(path, error)) return std::nullopt;
   std::ifstream file(path, std::ios::binary);
   sha256_ctx context;
   sha256_init(&context);

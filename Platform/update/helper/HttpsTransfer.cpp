@@ -27,15 +27,25 @@ int endWithReader(void* /*data*/, curl_off_t, curl_off_t, curl_off_t, curl_off_t
   return poll(&reader, 1, 0) == 1 && (reader.revents & (POLLERR | POLLHUP)) != 0 ? 1 : 0;
 }
 
-void setSecurity(CURL* handle) {
+// Whether the library keeps to all of it: one that knows no such option would take any protocol.
+bool setSecurity(CURL* handle) {
   constexpr long redirectionLimit = 5;
-  curl_easy_setopt(handle, CURLOPT_PROTOCOLS_STR, "https");
-  curl_easy_setopt(handle, CURLOPT_REDIR_PROTOCOLS_STR, "https");
-  curl_easy_setopt(handle, CURLOPT_FOLLOWLOCATION, 1L);
-  curl_easy_setopt(handle, CURLOPT_MAXREDIRS, redirectionLimit);
-  curl_easy_setopt(handle, CURLOPT_FAILONERROR, 1L);
+  const bool isSet = curl_easy_setopt(handle, CURLOPT_PROTOCOLS_STR, "https") == CURLE_OK &&
+                     curl_easy_setopt(handle, CURLOPT_REDIR_PROTOCOLS_STR, "https") == CURLE_OK &&
+                     curl_easy_setopt(handle, CURLOPT_FOLLOWLOCATION, 1L) == CURLE_OK &&
+                     curl_easy_setopt(handle, CURLOPT_MAXREDIRS, redirectionLimit) == CURLE_OK &&
+                     curl_easy_setopt(handle, CURLOPT_FAILONERROR, 1L) == CURLE_OK;
   // As other programs do it: certificates of the user's own in place of the system's.
-  if (const char* certificates = std::getenv("SSL_CERT_FILE")) curl_easy_setopt(handle, CURLOPT_CAINFO, certificates);
+  const char* certificates = std::getenv("SSL_CERT_FILE");
+  return isSet && (certificates == nullptr || curl_easy_setopt(handle, CURLOPT_CAINFO, certificates) == CURLE_OK);
+}
+
+// A server that sends a byte now and then keeps no transfer alive.
+void setPatience(CURL* handle) {
+  constexpr long bytesPerSecond = 100;
+  constexpr long seconds = 60;
+  curl_easy_setopt(handle, CURLOPT_LOW_SPEED_LIMIT, bytesPerSecond);
+  curl_easy_setopt(handle, CURLOPT_LOW_SPEED_TIME, seconds);
 }
 
 }  // namespace
@@ -47,7 +57,8 @@ foundation::Outcome HttpsTransfer::fetch(const std::string& url, const Sink& sin
   const std::unique_ptr<CURL, End> handle(curl_easy_init());
   if (!handle) return foundation::Error{"no memory"};
   std::array<char, CURL_ERROR_SIZE> reason{};
-  setSecurity(handle.get());
+  if (!setSecurity(handle.get())) return foundation::Error{"the network library knows no HTTPS"};
+  setPatience(handle.get());
   curl_easy_setopt(handle.get(), CURLOPT_URL, url.c_str());
   curl_easy_setopt(handle.get(), CURLOPT_USERAGENT, "Quillmonger");
   curl_easy_setopt(handle.get(), CURLOPT_NOSIGNAL, 1L);

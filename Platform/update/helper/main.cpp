@@ -77,7 +77,7 @@ int download(const Download& download) {
   if (platform::sha256OfFile(download.file) == download.sha256) return 0;
   // It lies under its name only when it is what was announced.
   auto part = download.file;
-  part += ".part";
+  part += quillmonger::updateanswer::partSuffix;
   int code = fetchInto(download, part);
   std::error_code error;
   if (code == 0 && platform::sha256OfFile(part) != download.sha256)

@@ -43,6 +43,8 @@ std::unique_ptr<VideoFile> VideoFile::open(const std::string& path, Size size) {
   if (!codec || avcodec_parameters_to_context(codec.get(), format->streams[stream]->codecpar) < 0) return nullptr;
   // One picture at a time is all that is asked for; each thread would hold pictures of its own.
   codec->thread_count = 1;
+  // Its pictures may be larger than the file says at its beginning.
+  codec->max_pixels = std::int64_t{longestSide} * longestSide;
   if (!isSupported(codec->width, codec->height) || avcodec_open2(codec.get(), kind, nullptr) < 0) return nullptr;
   return std::unique_ptr<VideoFile>(new VideoFile(std::move(format), std::move(codec), stream, size));
 }
@@ -85,6 +87,7 @@ bool VideoFile::rewind() {
 }
 
 bool VideoFile::scale() {
+  if (!isSupported(m_frame->width, m_frame->height)) return false;
   m_scaler.reset(sws_getCachedContext(m_scaler.release(), m_frame->width, m_frame->height,
                                       static_cast<AVPixelFormat>(m_frame->format), m_size.width, m_size.height,
                                       AV_PIX_FMT_BGRA, SWS_AREA | SWS_ACCURATE_RND, nullptr, nullptr, nullptr));

@@ -36,15 +36,10 @@ std::string_view cut(std::string_view text) {
   return text.substr(0, end);
 }
 
-std::optional<std::uint64_t> lengthOf(std::string_view text) {
+std::uint64_t lengthOf(std::string_view text) {
   std::uint64_t length = 0;
   const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), length);
-  const bool isLength = failure == std::errc() && end == text.data() + text.size();
-  return isLength && length > 0 && length <= downloadLimit ? std::optional(length) : std::nullopt;
-}
-
-bool isDigest(std::string_view text) {
-  return text.size() == 64 && text.find_first_not_of("0123456789abcdef") == std::string_view::npos;
+  return failure == std::errc() && end == text.data() + text.size() ? length : 0;
 }
 
 // Absent when it lacks something, or names what can't be.
@@ -55,14 +50,14 @@ std::optional<Update> enclosureOf(const char** names, const char** values) {
     }
     return {};
   };
-  const auto version = attribute("quillmonger:version");
-  const auto sha256 = attribute("quillmonger:sha256");
-  const auto length = lengthOf(attribute("length"));
-  auto url = foundation::Url::parse(attribute("url").substr(0, addressLimit + 1));
-  const bool isUsable = length && url && url->absoluteString().size() <= addressLimit && url->scheme() == "https" &&
-                        isDigest(sha256) && SoftwareVersion::parse(version).has_value();
-  if (!isUsable) return std::nullopt;
-  return Update{std::string(version), {}, *std::move(url), *length, std::string(sha256)};
+  auto url = foundation::Url::parse(attribute("url").substr(0, Update::addressLimit + 1));
+  if (!url) return std::nullopt;
+  Update update{std::string(attribute("quillmonger:version")),
+                {},
+                *std::move(url),
+                lengthOf(attribute("length")),
+                std::string(attribute("quillmonger:sha256"))};
+  return isUsable(update) ? std::optional(std::move(update)) : std::nullopt;
 }
 
 void begin(GMarkupParseContext* /*context*/, const char* element, const char** names, const char** values, void* data,

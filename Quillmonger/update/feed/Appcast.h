@@ -1,13 +1,12 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <optional>
 #include <string_view>
 #include <vector>
 
+#include "Quillmonger/update/SoftwareVersion.h"
 #include "Quillmonger/update/Update.h"
-#include "Quillmonger/update/feed/SoftwareVersion.h"
 
 namespace quillmonger {
 
@@ -19,12 +18,8 @@ namespace appcast {
 inline constexpr std::size_t itemLimit = 100;
 /// Bytes of an item's notes; what exceeds them is cut.
 inline constexpr std::size_t notesLimit = std::size_t{16} << 10U;
-/// Bytes of an address; an item with a longer one is passed over.
-inline constexpr std::size_t addressLimit = 2048;
-/// Bytes of a file; an item with a larger one is passed over.
-inline constexpr std::uint64_t downloadLimit = std::uint64_t{1} << 29U;
 
-/// The items that can be used. Absent for a text that is not well-formed XML to its end.
+/// The items that can be used; the others are passed over. Absent for a text that is not well-formed XML to its end.
 [[nodiscard]] std::optional<std::vector<Update>> parse(std::string_view text);
 
 /// The newest of them, if it is newer than `own`.

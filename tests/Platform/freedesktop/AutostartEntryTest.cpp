@@ -5,10 +5,13 @@
 #include <sys/stat.h>
 
 #include <csignal>
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <string>
 
+#include "Platform/freedesktop/AutostartFile.h"
+#include "Platform/freedesktop/DesktopEntry.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace {
@@ -253,6 +256,59 @@ TEST_F(AutostartEntry, SaysWhatIsInTheWayOfTheFolder) {
   EXPECT_NE(outcome.error().message.find("autostart"), std::string::npos) << outcome.error().message;
   EXPECT_EQ(entry.status(), Status::notRegistered);
 }
+
+TEST_F(AutostartEntry, SaysThatTheFolderIsALinkToItself) {
+  std::filesystem::create_directories(config);
+  std::filesystem::create_symlink(config / "autostart", config / "autostart");
+
+  EXPECT_FALSE(entry.registerApp());
+  EXPECT_FALSE(entry.unregisterApp());
+  EXPECT_FALSE(platform::AutostartFile(program).write(own));
+
+  EXPECT_EQ(entry.status(), Status::notRegistered);
+}
+
+TEST_F(AutostartEntry, NeitherReplacesNorRemovesAFileThatItCannotRead) {
+  write(own, execOf(program) + "\n# " + std::string(platform::DesktopEntry::sizeLimit, 'x') + "\n");
+  const auto before = content();
+
+  EXPECT_FALSE(entry.registerApp());
+  EXPECT_FALSE(entry.unregisterApp());
+
+  EXPECT_EQ(content(), before);
+}
+
+class RestrictedAutostartEntry : public AutostartEntry, public testing::WithParamInterface<const char*> {
+ protected:
+  RestrictedAutostartEntry() { setenv("XDG_CURRENT_DESKTOP", "Usual:Base", 1); }
+  ~RestrictedAutostartEntry() override { unsetenv("XDG_CURRENT_DESKTOP"); }
+};
+
+TEST_P(RestrictedAutostartEntry, IsNotRegisteredUntilTheUserWantsItHereToo) {
+  write(own, execOf(program) + "\n" + GetParam() + "\n");
+  EXPECT_EQ(entry.status(), Status::notRegistered);
+
+  ASSERT_TRUE(entry.registerApp());
+
+  EXPECT_EQ(entry.status(), Status::enabled);
+}
+
+INSTANTIATE_TEST_SUITE_P(By, RestrictedAutostartEntry,
+                         testing::Values("OnlyShowIn=Other;", "NotShowIn=Other;Base;", "TryExec=/nowhere/missing"));
+
+class AllowedAutostartEntry : public RestrictedAutostartEntry {};
+
+TEST_P(AllowedAutostartEntry, IsRegistered) {
+  write(own, execOf(program) + "\n" + GetParam() + "\n");
+
+  EXPECT_EQ(entry.status(), Status::enabled);
+  ASSERT_TRUE(entry.registerApp());
+
+  EXPECT_TRUE(contains(GetParam()));
+}
+
+INSTANTIATE_TEST_SUITE_P(By, AllowedAutostartEntry,
+                         testing::Values("OnlyShowIn=Other;Usual;", "NotShowIn=Other;", "TryExec=sh"));
 
 TEST_F(AutostartEntry, LosesNothingOnAFullDisk) {
   write(own, execOf(program) + "\nHidden=true\nX-Mine=7\n");

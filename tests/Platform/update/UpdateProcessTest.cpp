@@ -150,6 +150,70 @@ TEST_F(UpdateProcess, StoresNothingWhereOthersMayWrite) {
   EXPECT_EQ(called(), "");
 }
 
+TEST_F(UpdateProcess, AnswersNothingOnceTheHoldIsGoneAlsoWhereNothingCouldBegin) {
+  std::filesystem::create_directories(downloads);
+  chmod(downloads.c_str(), S_IRWXU | S_IRWXO);
+  bool isAnswered = false;
+  const auto answer = [&isAnswered](const auto&) { isAnswered = true; };
+
+  service
+      .download(
+          testsupport::updateTo("2.0"), [](std::uint64_t) {}, answer)
+      .cancel();
+  service.check(answer).cancel();
+  QCoreApplication::processEvents();
+
+  EXPECT_FALSE(isAnswered);
+}
+
+TEST_F(UpdateProcess, LeavesNoPartOfAFileOnceTheHoldIsGone) {
+  setScript("echo part > \"$5.part\"; echo 5; exec sleep 100");
+  auto hold = service.download(
+      testsupport::updateTo("2.0"), [this](std::uint64_t received) { progress.insert(received); }, [](const auto&) {});
+  ASSERT_TRUE(QTest::qWaitFor([this] { return progress.contains(5); }));
+  ASSERT_TRUE(std::filesystem::exists(downloads / "2.0.deb.part"));
+
+  hold = {};
+
+  EXPECT_TRUE(std::filesystem::is_empty(downloads));
+}
+
+TEST_F(UpdateProcess, LeavesNoDownloadsWhereNothingIsNewer) {
+  setScript("echo none");
+  std::filesystem::create_directories(downloads);
+  chmod(downloads.c_str(), S_IRWXU);
+  std::ofstream(downloads / "1.2.deb") << "installed";
+
+  check();
+
+  EXPECT_TRUE(std::filesystem::is_empty(downloads));
+}
+
+TEST_F(UpdateProcess, KeepsADownloadThatIsStillOffered) {
+  setScript("printf '" + quillmonger::updateanswer::encode(testsupport::updateTo("2.0")) + "'");
+  std::filesystem::create_directories(downloads);
+  chmod(downloads.c_str(), S_IRWXU);
+  std::ofstream(downloads / "2.0.deb") << "perhaps the very one";
+
+  check();
+
+  EXPECT_TRUE(std::filesystem::exists(downloads / "2.0.deb"));
+}
+
+TEST_F(UpdateProcess, StoresNothingOutsideItsFolderWhateverTheVersionIs) {
+  setScript("");
+  auto update = testsupport::updateTo("../../2.0");
+  update.url = *foundation::Url::parse("https://example.org/");
+
+  EXPECT_EQ(download(update), Service::DownloadResult(downloads / "quillmonger-update"));
+}
+
+TEST_F(UpdateProcess, EndsAnAnswerWithoutEnd) {
+  setScript("exec yes");
+
+  EXPECT_EQ(check(), Service::CheckResult(UpdateFailure::untrusted));
+}
+
 TEST_F(UpdateProcess, SaysWhyThereIsNoFile) {
   setScript("exit 12");
 

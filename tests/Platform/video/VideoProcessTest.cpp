@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <signal.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <QCoreApplication>
@@ -40,6 +41,12 @@ std::string colorOf(std::string_view pixels) {
     color = present;
   }
   return color;
+}
+
+// Whether a program that this one started goes on, or has ended unnoticed.
+bool hasChild() {
+  siginfo_t info;
+  return waitid(P_ALL, 0, &info, WEXITED | WNOHANG | WNOWAIT | __WALL) == 0;
 }
 
 // The video of these tests shows red for two pictures, then green, then blue, each for a tenth of a second.
@@ -193,6 +200,31 @@ TEST_F(VideoProcess, FailsWhenTheDecoderEnds) {
   looper->play();
 
   EXPECT_TRUE(fails());
+}
+
+TEST_F(VideoProcess, TellsOfAFailureAlsoWhenItIsPausedAndPlayedMeanwhile) {
+  const auto looper = makeLooper("four-pictures", QUILLMONGER_TEST_VIDEOS, script("exit 0"));
+  looper->play();
+  ASSERT_TRUE(QTest::qWaitFor([] { return !hasChild(); }));  // it has failed, and is to tell so
+
+  looper->pause();
+  looper->play();
+  m_runLoop.advance(1s);
+
+  EXPECT_EQ(m_failureCount, 1);
+}
+
+TEST_F(VideoProcess, StartsNoDecoderAfterAFailure) {
+  const auto bad = script(R"(printf '\001\000\000\000\001\000\000\000x'; cat >/dev/null)");
+  const auto looper = makeLooper("four-pictures", QUILLMONGER_TEST_VIDEOS, bad);
+  looper->play();
+  EXPECT_TRUE(hasChild());
+  ASSERT_TRUE(fails());
+  ASSERT_FALSE(hasChild());
+
+  looper->play();
+
+  EXPECT_FALSE(hasChild());
 }
 
 TEST_F(VideoProcess, FailsWhenTheDecoderCantBeStarted) {

@@ -337,6 +337,19 @@ TEST_F(FeedUpdater, OffersASkippedVersionNeverAgainByItself) {
   EXPECT_EQ(window.shows, Names{"aside"});
 }
 
+TEST_F(FeedUpdater, SkipsAVersionThatWasDownloadedByItself) {
+  settings.set(keys::automaticallyDownloadsUpdates, true);
+  updater.startUpdater();
+  passFirstDelay();
+  service.answer(updateTo("2.0"));
+  service.deliver(std::filesystem::path("/cache/2.0.deb"));
+
+  updater.skip();
+
+  EXPECT_EQ(settings[keys::skippedUpdate], "2.0");
+  EXPECT_FALSE(window.isVisible());
+}
+
 TEST_F(FeedUpdater, OffersTheVersionAfterASkippedOne) {
   settings.set(keys::skippedUpdate, std::string("2.0"));
   updater.startUpdater();

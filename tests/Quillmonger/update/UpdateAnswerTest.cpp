@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <string>
+
 #include "tests/support/FakeUpdateService.h"
 
 namespace {
@@ -32,6 +35,30 @@ INSTANTIATE_TEST_SUITE_P(Of, BadUpdateAnswer,
                                          "update\n2.0\nhttps://a/\ntwelve\nabc\n",
                                          "update\n2.0\nhttps://a/\n12x\nabc\n", "update\n2.0\nno url\n12\nabc\n",
                                          "update\n2.0\nhttps://a/\n99999999999999999999\nabc\n"));
+
+class UnusableUpdate : public testing::TestWithParam<std::function<void(Update&)>> {};
+
+TEST_P(UnusableUpdate, IsNoAnswer) {
+  auto update = testsupport::updateTo("2.0");
+  ASSERT_TRUE(updateanswer::decode(updateanswer::encode(update)).has_value());
+
+  GetParam()(update);
+
+  EXPECT_FALSE(updateanswer::decode(updateanswer::encode(update)).has_value());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    With, UnusableUpdate,
+    testing::Values([](Update& update) { update.url = *foundation::Url::parse("http://example.org/2.0.deb"); },
+                    [](Update& update) { update.url = *foundation::Url::parse("file:///etc/passwd"); },
+                    [](Update& update) {
+                      update.url = *foundation::Url::parse("https://a/" + std::string(Update::addressLimit, 'x'));
+                    },
+                    [](Update& update) { update.sha256.pop_back(); }, [](Update& update) { update.sha256[5] = 'G'; },
+                    [](Update& update) { update.length = 0; },
+                    [](Update& update) { update.length = Update::lengthLimit + 1; },
+                    [](Update& update) { update.version = "../../2.0"; },
+                    [](Update& update) { update.version.clear(); }));
 
 TEST(UpdateAnswer, SaysByTheExitCodeWhyThereIsNone) {
   using quillmonger::UpdateFailure;

@@ -81,7 +81,7 @@ TEST(UpdateContent, NeverShowsMoreThanAll) {
 TEST(UpdateContent, AsksBeforeItOpensTheFile) {
   const auto content = contentOf({.stage = Stage::ready, .update = testsupport::updateTo("2.0")});
 
-  EXPECT_EQ(answersOf(content), (std::vector{Answer::install, Answer::close}));
+  EXPECT_EQ(answersOf(content), (std::vector{Answer::install, Answer::close, Answer::skip}));
 }
 
 TEST(UpdateContent, HasAReasonForEachFailure) {

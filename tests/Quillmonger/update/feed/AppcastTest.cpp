@@ -83,7 +83,7 @@ INSTANTIATE_TEST_SUITE_P(
     Of, UnusableItem,
     testing::Values("", "<enclosure/>", enclosure("not a version"), enclosure("2.0", "http://example.org/file.deb"),
                     enclosure("2.0", "file:///etc/passwd"), enclosure("2.0", "no url"),
-                    enclosure("2.0", "https://example.org/" + std::string(appcast::addressLimit, 'x')),
+                    enclosure("2.0", "https://example.org/" + std::string(Update::addressLimit, 'x')),
                     enclosure("2.0", ""), enclosure("2.0", "https://example.org/file.deb", "0"),
                     enclosure("2.0", "https://example.org/file.deb", "-1"),
                     enclosure("2.0", "https://example.org/file.deb", "many"),

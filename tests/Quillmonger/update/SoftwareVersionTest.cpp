@@ -1,4 +1,4 @@
-#include "Quillmonger/update/feed/SoftwareVersion.h"
+#include "Quillmonger/update/SoftwareVersion.h"
 
 #include <gtest/gtest.h>
 
