@@ -32,8 +32,12 @@ void RecorderField::itemChange(ItemChange change, const ItemChangeData& data) {
 void RecorderField::moveTo(QQuickWindow& place) {
   m_recorder->viewDidMoveToWindow();
   QObject::disconnect(m_activation);
+  QObject::disconnect(m_visibility);
   m_activation = QObject::connect(&place, &QWindow::activeChanged, this, [this] {
     if (window() != nullptr && window()->isActive() && std::exchange(m_awaitsFocus, false)) takeFocus();
+  });
+  m_visibility = QObject::connect(&place, &QWindow::visibleChanged, this, [this](bool isVisible) {
+    if (!isVisible) m_awaitsFocus = false;
   });
 }
 

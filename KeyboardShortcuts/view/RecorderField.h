@@ -61,9 +61,10 @@ class RecorderField : public QQuickItem, private RecorderView {
 
   Recorders* m_recorders = nullptr;
   QString m_name;
-  /// The recorder's wish, until the window has the keyboard again.
+  /// The recorder's wish, until the window has the keyboard again or is hidden.
   bool m_awaitsFocus = false;
   QMetaObject::Connection m_activation;
+  QMetaObject::Connection m_visibility;
   std::unique_ptr<RecorderCocoa> m_recorder;
   std::vector<foundation::Subscription> m_observations;
 };

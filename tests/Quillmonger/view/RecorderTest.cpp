@@ -264,6 +264,25 @@ TEST_F(RecorderView, LeavesAHiddenWindowAloneWhenTheAlertIsAnswered) {
   EXPECT_FALSE(records("Plain"));
 }
 
+TEST_F(RecorderView, ForgetsThatItWaitsForTheKeyboardWhenTheWindowIsHidden) {
+  settle();
+  QWindow other;
+  other.show();
+  other.requestActivate();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+
+  // As where the window manager refuses.
+  m_view.setFlag(Qt::WindowDoesNotAcceptFocus);
+  QMetaObject::invokeMethod(item("Plain"), "record");
+  m_view.hide();
+  m_view.setFlag(Qt::WindowDoesNotAcceptFocus, false);
+  m_view.show();
+  m_view.requestActivate();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&m_view));
+
+  EXPECT_FALSE(records("Plain"));
+}
+
 TEST_F(RecorderView, TellsAScreenReaderWhatItIsForAndItsChord) {
   QAccessible::setActive(true);
   const auto* field = QAccessible::queryAccessibleInterface(item("Show"));
