@@ -19,7 +19,8 @@ GuideStage::GuideStage(const QString& chord)
       m_guide({[this] { ++m_quitCount; }, [this] { ++m_finishCount; }}),
       m_accessibility(m_permissions, m_runLoop),
       m_appearance(m_defaults.defaults),
-      m_model(chord, {m_guide, m_accessibility, m_videos.factory()}) {
+      m_model({m_guide, m_accessibility, m_videos.factory()}) {
+  m_model.setChord(chord);
   m_appearance.follow(m_desktop, [this] { return m_desktop.reducesMotion().value(); });
   quillmonger::resourcesview::registerTypes(m_engine);
   quillmonger::guideview::registerTypes();

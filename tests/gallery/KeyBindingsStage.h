@@ -28,6 +28,7 @@ class KeyBindingsStage final {
   FakeRecordedEvents& events() { return m_events; }
   FakeAlertSheet& alert() { return m_alert; }
   quillmonger::Appearance& appearance() { return m_appearance; }
+  quillmonger::KeyBindingsSettings& settings() { return m_settings; }
   QQmlEngine& engine() { return m_engine; }
 
   /// As large as it wants to be, with the keyboard. Built once, and laid out at each call.

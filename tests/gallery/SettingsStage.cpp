@@ -19,7 +19,7 @@ using quillmonger::AppPickerViewModel;
 
 SettingsStage::SettingsStage()
     : m_appearance(m_defaults.defaults),
-      m_historyClearing({m_alert, quillmonger::localizedText, m_notificationCenter}),
+      m_historyClearing({m_alert, quillmonger::localizedText, m_notificationCenter, [this] { ++m_clearCount; }, this}),
       m_general({m_defaults.defaults, m_launchAtLogin, m_updater, m_historyClearing}),
       m_ignore(m_defaults.defaults),
       m_search(m_defaults.defaults),
@@ -32,7 +32,6 @@ SettingsStage::SettingsStage()
                    settings::SettingsTabViewController::Animation::on,
                    settings::SettingsWindowController::SingleItemToolbar::hidden, {}),
       m_settingsModel(m_controller, m_settingsWindow.size()) {
-  m_historyClearing.setHistory([this] { ++m_clearCount; }, this);
   quillmonger::resourcesview::registerTypes(m_engine);
   settings::registerTypes();
   quillmonger::settingsview::registerTypes();
@@ -69,6 +68,8 @@ std::vector<settings::Pane> SettingsStage::panes() {
                                           [this]() -> quillmonger::IgnoredAppsModel& { return m_ignoredAppsModel; }));
   panes.push_back(quillmonger::searchPane(surroundings, m_search));
   panes.push_back(quillmonger::appearancePane(surroundings, m_appearanceSettings));
+  panes.push_back(quillmonger::keyBindingsPane(
+      surroundings, [this]() -> quillmonger::KeyBindingsSettings& { return m_keyBindings.settings(); }));
   return panes;
 }
 

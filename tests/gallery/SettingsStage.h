@@ -19,6 +19,7 @@
 #include "Settings/SettingsWindowController.h"
 #include "Settings/view/QtSettingsWindow.h"
 #include "Settings/view/SettingsModel.h"
+#include "tests/gallery/KeyBindingsStage.h"
 #include "tests/support/FakeAlertSheet.h"
 #include "tests/support/FakeAppPicker.h"
 #include "tests/support/FakeAppService.h"
@@ -94,6 +95,7 @@ class SettingsStage final {
   quillmonger::AppearanceSettings m_appearanceSettings;
   quillmonger::IgnoreAppsViewModel m_ignoredApps;
   quillmonger::IgnoredAppsModel m_ignoredAppsModel;
+  KeyBindingsStage m_keyBindings;
   std::unique_ptr<quillmonger::AppPickerViewModel> m_pickerViewModel;
   std::unique_ptr<quillmonger::AppPickerModel> m_pickerModel;
   std::vector<quillmonger::AboutModel::Page> m_openedPages;

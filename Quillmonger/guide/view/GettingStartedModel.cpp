@@ -4,8 +4,7 @@
 
 namespace quillmonger {
 
-GettingStartedModel::GettingStartedModel(QString chord, const Collaborators& collaborators)
-    : m_chord(std::move(chord)), m_with(collaborators) {
+GettingStartedModel::GettingStartedModel(const Collaborators& collaborators) : m_with(collaborators) {
   m_screenSubscription = m_with.guide.currentScreen().subscribe([this](LaunchScreen) { emit currentScreenChanged(); });
   m_permissionSubscription =
       m_with.accessibility.permissionsGranted().subscribe([this](bool) { emit permissionsGrantedChanged(); });

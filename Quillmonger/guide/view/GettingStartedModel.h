@@ -30,10 +30,10 @@ class GettingStartedModel final : public QObject {
     VideoLooperFactory makeVideoLooper;
   };
 
-  /// `chord`: the keys that show the history, in the platform's words; empty when there are none. The collaborators
-  /// outlive this object.
-  GettingStartedModel(QString chord, const Collaborators& collaborators);
+  /// The collaborators outlive this object.
+  explicit GettingStartedModel(const Collaborators& collaborators);
 
+  /// The keys that show the history, in the platform's words; empty when there are none.
   [[nodiscard]] QString chord() const { return m_chord; }
   void setChord(const QString& chord);
   [[nodiscard]] int currentScreen() const;

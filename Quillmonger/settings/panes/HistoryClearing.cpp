@@ -12,11 +12,6 @@ constexpr std::size_t clearButton = 0;
 
 HistoryClearing::HistoryClearing(Collaborators collaborators) : m_with(std::move(collaborators)) {}
 
-void HistoryClearing::setHistory(std::function<void()> deleteAllItems, const void* root) {
-  m_deleteAllItems = std::move(deleteAllItems);
-  m_root = root;
-}
-
 void HistoryClearing::ask() {
   using Role = foundation::AlertSheet::Button::Role;
   const auto& text = m_with.texts;
@@ -29,8 +24,8 @@ void HistoryClearing::ask() {
 }
 
 void HistoryClearing::clear() {
-  m_deleteAllItems();
-  m_with.notificationCenter.post("HistoryCleared", m_root);
+  m_with.deleteAllItems();
+  m_with.notificationCenter.post("HistoryCleared", m_with.root);
 }
 
 }  // namespace quillmonger

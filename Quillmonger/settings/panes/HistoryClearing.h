@@ -16,14 +16,15 @@ class HistoryClearing final {
     foundation::AlertSheet& alert;
     foundation::TextLookup texts;
     foundation::NotificationCenter& notificationCenter;
+    /// What confirming the question runs.
+    std::function<void()> deleteAllItems;
+    /// Whom "HistoryCleared" is told of then.
+    const void* root;
   };
 
   /// All collaborators outlive this object.
   explicit HistoryClearing(Collaborators collaborators);
 
-  /// `deleteAllItems` is what confirming the question runs; "HistoryCleared" is told of `root` then. Both are there
-  /// whenever the question is answered.
-  void setHistory(std::function<void()> deleteAllItems, const void* root);
   /// Asks, and returns.
   void ask();
 
@@ -31,8 +32,6 @@ class HistoryClearing final {
   void clear();
 
   Collaborators m_with;
-  std::function<void()> m_deleteAllItems;
-  const void* m_root = nullptr;
   std::shared_ptr<const bool> m_isAlive = std::make_shared<const bool>(true);
 };
 

@@ -23,13 +23,13 @@ std::string videoFolder() {
 
 }  // namespace
 
-GuideFeed::GuideFeed(Quillmonger& root, const QString& chord, foundation::RunLoop& runLoop, std::function<void()> close)
+GuideFeed::GuideFeed(Quillmonger& root, foundation::RunLoop& runLoop, std::function<void()> close)
     : m_guide({[&root] { root.quitApp(); },
                [&root, close = std::move(close)] {
                  root.finishGettingStarted();
                  close();
                }}),
       m_accessibility(root.permissionsManager(), runLoop),
-      m_model(chord, {m_guide, m_accessibility, platform::VideoProcess::factory(decoder(), videoFolder(), runLoop)}) {}
+      m_model({m_guide, m_accessibility, platform::VideoProcess::factory(decoder(), videoFolder(), runLoop)}) {}
 
 }  // namespace quillmonger

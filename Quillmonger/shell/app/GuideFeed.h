@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QString>
 #include <functional>
 
 #include "Foundation/RunLoop.h"
@@ -14,9 +13,8 @@ namespace quillmonger {
 /// What feeds the guide's window. Main thread.
 class GuideFeed final {
  public:
-  /// `chord`: the keys that show the history. `close` is called when the guide is over. `root` and `runLoop` outlive
-  /// this object.
-  GuideFeed(Quillmonger& root, const QString& chord, foundation::RunLoop& runLoop, std::function<void()> close);
+  /// `close` is called when the guide is over. `root` and `runLoop` outlive this object.
+  GuideFeed(Quillmonger& root, foundation::RunLoop& runLoop, std::function<void()> close);
 
   [[nodiscard]] GettingStartedModel* model() { return &m_model; }
 

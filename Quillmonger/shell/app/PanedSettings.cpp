@@ -26,7 +26,6 @@ std::string titleOfASinglePane() {
 
 PanedSettings::PanedSettings(const Surroundings& with)
     : m_alert({with.engine, with.appearance, [this]() -> QWindow* { return view(); }, with.runLoop}),
-      m_historyClearing({m_alert, localizedText, with.notificationCenter}),
       m_ignore(with.defaults),
       m_search(with.defaults),
       m_appearanceSettings(with.defaults),
@@ -58,14 +57,15 @@ std::vector<settings::Pane> PanedSettings::panes(Appearance& appearance) {
 }
 
 void PanedSettings::feed(Quillmonger& root, const Services& services) {
+  m_historyClearing = std::make_unique<HistoryClearing>(HistoryClearing::Collaborators{
+      m_alert, localizedText, m_notificationCenter, [&root] { root.clipboardViewModel().deleteAllItems(); }, &root});
   m_general = std::make_unique<GeneralSettings>(
-      GeneralSettings::Collaborators{m_defaults, services.launchAtLogin, services.updater, m_historyClearing});
+      GeneralSettings::Collaborators{m_defaults, services.launchAtLogin, services.updater, *m_historyClearing});
   m_keyBindings = std::make_unique<KeyBindingsSettings>(
       m_defaults, keyboardshortcuts::RecorderCocoa::Surroundings{
                       services.shortcuts, services.inputSources, services.recordedEvents, m_alert, m_notificationCenter,
                       m_runLoop, localizedText, [&root] { return root.mainMenu(); }, services.beep});
   m_ignoreAppsViewModel = [&root]() -> IgnoreAppsViewModel& { return root.ignoreAppsViewModel(); };
-  m_historyClearing.setHistory([&root] { root.clipboardViewModel().deleteAllItems(); }, &root);
 }
 
 void PanedSettings::close() {
@@ -75,6 +75,8 @@ void PanedSettings::close() {
   m_ignoredApps.reset();
   m_keyBindings.reset();
   m_general.reset();
+  m_historyClearing.reset();
+  m_ignoreAppsViewModel = nullptr;
 }
 
 void PanedSettings::show(std::optional<std::string_view> pane) {

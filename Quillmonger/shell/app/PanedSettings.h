@@ -38,6 +38,7 @@ class PanedSettings final : public SettingsWindowController {
 
   /// All that is named here outlives the settings.
   explicit PanedSettings(const Surroundings& surroundings);
+  ~PanedSettings() override { close(); }
 
   /// Before the window is first shown. All of it is there until `close`.
   void feed(Quillmonger& root, const Services& services);
@@ -55,11 +56,11 @@ class PanedSettings final : public SettingsWindowController {
   [[nodiscard]] std::vector<settings::Pane> panes(Appearance& appearance);
 
   QtAlertSheet m_alert;
-  HistoryClearing m_historyClearing;
   IgnoreSettings m_ignore;
   SearchSettingsModel m_search;
   AppearanceSettings m_appearanceSettings;
   std::function<IgnoreAppsViewModel&()> m_ignoreAppsViewModel;
+  std::unique_ptr<HistoryClearing> m_historyClearing;
   std::unique_ptr<GeneralSettings> m_general;
   std::unique_ptr<IgnoredAppsModel> m_ignoredApps;
   std::unique_ptr<KeyBindingsSettings> m_keyBindings;

@@ -97,9 +97,8 @@ void Views::feed(Quillmonger& root, const Pasteboard& pasteboard, const PanedSet
                               [this](int pages) { m_previewFeed->model()->scrollRequested(pages); }});
   m_activateChord = std::make_unique<keyboardshortcuts::ShortcutText>(shortcutname::activate(), services.shortcuts,
                                                                       services.inputSources, m_notificationCenter);
-  m_guideFeed = std::make_unique<GuideFeed>(root, QString::fromStdString(m_activateChord->value().value()), m_runLoop,
-                                            [this] { endGuide(); });
-  m_activateChordSubscription = m_activateChord->value().subscribe(
+  m_guideFeed = std::make_unique<GuideFeed>(root, m_runLoop, [this] { endGuide(); });
+  m_activateChordSubscription = m_activateChord->value().follow(
       [this](const auto& chord) { m_guideFeed->model()->setChord(QString::fromStdString(chord)); });
 }
 
@@ -126,6 +125,7 @@ void Views::close() {
   m_previewFeed.reset();
   m_clipboardViewAdapter.reset();
   m_searchBarModel.reset();
+  m_clipboardText = nullptr;
 }
 
 QQmlEngine& Views::engine() {

@@ -232,13 +232,13 @@ TEST_P(SettingsPanes, AreMirroredInALanguageFromRightToLeft) {
 
 INSTANTIATE_TEST_SUITE_P(Panes, SettingsPanes,
                          testing::Values(PaneWidth{"general", 500}, PaneWidth{"ignore", 480}, PaneWidth{"search", 500},
-                                         PaneWidth{"appearance", 490}),
+                                         PaneWidth{"appearance", 490}, PaneWidth{"keyBindings", 480}),
                          [](const auto& row) { return std::string(row.param.pane); });
 
 TEST(SettingsPaneOrder, IsThatOfTheToolbar) {
   testsupport::SettingsStage stage;
   std::vector<std::string> titles;
-  for (const char* identifier : {"general", "ignore", "search", "appearance"}) {
+  for (const char* identifier : {"general", "ignore", "search", "appearance", "keyBindings"}) {
     auto* tab = testsupport::find(stage.pane("general"), QStringLiteral("ToolbarItem-") + identifier);
     ASSERT_NE(tab, nullptr);
     QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(tab);
@@ -247,7 +247,7 @@ TEST(SettingsPaneOrder, IsThatOfTheToolbar) {
   }
 
   EXPECT_EQ(titles, (std::vector<std::string>{"General, Gear", "Ignore, Half-filled shield", "Search, Magnifying Glass",
-                                              "Appearance, Paint Palette"}));
+                                              "Appearance, Paint Palette", "Key Bindings, Keyboard"}));
 }
 
 }  // namespace

@@ -15,15 +15,12 @@ using Log = std::vector<std::string>;
 
 class HistoryClearing : public testing::Test {
  protected:
-  HistoryClearing() {
-    m_clearing->setHistory([this] { m_log.emplace_back("deleteAllItems"); }, this);
-  }
-
   Log m_log;
   testsupport::FakeAlertSheet m_alert;
   foundation::NotificationCenter m_center;
   std::unique_ptr<quillmonger::HistoryClearing> m_clearing = std::make_unique<quillmonger::HistoryClearing>(
-      quillmonger::HistoryClearing::Collaborators{m_alert, [](auto key) { return std::string(key); }, m_center});
+      quillmonger::HistoryClearing::Collaborators{m_alert, [](auto key) { return std::string(key); }, m_center,
+                                                  [this] { m_log.emplace_back("deleteAllItems"); }, this});
   foundation::Subscription m_told = m_center.observe("HistoryCleared", [this](const auto& told) {
     m_log.emplace_back(told.object == this ? "HistoryCleared of the root" : "HistoryCleared of another");
   });
