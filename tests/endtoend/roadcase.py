@@ -17,6 +17,25 @@ class RoadCase(unittest.TestCase):
         self.desktop.__enter__()
         self.addCleanup(self.desktop.__exit__)
 
+    # ---- the program's windows
+
+    def is_shown(self, name):
+        return bool(self.desktop.run(["xdotool", "search", "--onlyvisible", "--name", name], check=False).stdout.split())
+
+    def wait_for_front(self, name):
+        window = self.desktop.window(name)
+        wait_until(lambda: self.desktop.focused() == window, f"{name} with the focus")
+        return window
+
+    def wait_still(self, window):
+        """The window, which takes no keys meanwhile, has its pane's size: three looks in a row see the same."""
+        seen = []
+
+        def is_still():
+            seen.append(self.desktop.geometry(window))
+            return len(seen) > 2 and len(set(seen[-3:])) == 1
+        wait_until(is_still, "the window's size", step=0.1)
+
     # ---- real programs
 
     def open_gtk_editor(self, text=""):

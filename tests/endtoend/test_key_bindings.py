@@ -34,20 +34,6 @@ class TheKeyBindings(RoadCase):
             self.desktop.press("Right")
             self.wait_still(self.wait_for_front(f"^{title}$"))
 
-    def wait_still(self, window):
-        """The window, which takes no keys meanwhile, has its pane's size: three looks in a row see the same."""
-        seen = []
-
-        def is_still():
-            seen.append(self.desktop.geometry(window))
-            return len(seen) > 2 and len(set(seen[-3:])) == 1
-        wait_until(is_still, "the window's size", step=0.1)
-
-    def wait_for_front(self, name):
-        window = self.desktop.window(name)
-        wait_until(lambda: self.desktop.focused() == window, f"{name} with the focus")
-        return window
-
     def stored(self, key):
         settings = self.desktop.home / ".config/quillmonger/settings.json"
         value = json.loads(settings.read_text())["values"].get(key)
@@ -64,9 +50,6 @@ class TheKeyBindings(RoadCase):
     def hide_settings(self):
         self.desktop.press("Escape")
         wait_until(lambda: not self.is_shown("^Key Bindings$"), "the settings to go")
-
-    def is_shown(self, name):
-        return bool(self.desktop.run(["xdotool", "search", "--onlyvisible", "--name", name], check=False).stdout.split())
 
     def hold_a_chord(self):
         holder = self.desktop.spawn([sys.executable, "-c", HOLDER], stdout=subprocess.PIPE, text=True)

@@ -29,23 +29,6 @@ class PaneCase(RoadCase):
                 break
         return self.desktop.window(f"^{pane}$")
 
-    def wait_for_front(self, name):
-        window = self.desktop.window(name)
-        wait_until(lambda: self.desktop.focused() == window, f"{name} with the focus")
-        return window
-
-    def is_shown(self, name):
-        return bool(self.desktop.run(["xdotool", "search", "--onlyvisible", "--name", name], check=False).stdout.split())
-
-    def wait_still(self, window):
-        """The window has taken its pane's size: three looks in a row see the same."""
-        seen = []
-
-        def is_still():
-            seen.append(self.desktop.geometry(window))
-            return len(seen) > 2 and len(set(seen[-3:])) == 1
-        wait_until(is_still, "the window's size", step=0.1)
-
     def read(self, name):
         if name == "LOGIN":
             return "true" if list((self.desktop.home / ".config/autostart").glob("*.desktop")) else "false"

@@ -17,21 +17,8 @@ class TheSettings(RoadCase):
         """From the toolbar, which the keyboard reaches first."""
         self.desktop.press("Tab", "Right")
         settings = self.wait_for_front("^Ignore$")
-        seen = []
-
-        def is_still():
-            seen.append(self.desktop.geometry(settings))
-            return len(seen) > 2 and len(set(seen[-3:])) == 1
-        wait_until(is_still, "the window's size", step=0.1)
+        self.wait_still(settings)
         return settings
-
-    def wait_for_front(self, name):
-        window = self.desktop.window(name)
-        wait_until(lambda: self.desktop.focused() == window, f"{name} with the focus")
-        return window
-
-    def is_shown(self, name):
-        return bool(self.desktop.run(["xdotool", "search", "--onlyvisible", "--name", name], check=False).stdout.split())
 
     def copy_all_from_the_editor(self):
         self.desktop.press("ctrl+a", "ctrl+c")

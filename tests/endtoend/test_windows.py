@@ -8,14 +8,6 @@ from roadcase import RoadCase
 
 
 class Windows:
-    def shown(self, name):
-        answer = self.desktop.run(["xdotool", "search", "--onlyvisible", "--name", name], check=False)
-        return answer.stdout.split()[0] if answer.stdout.split() else None
-
-    def wait_for_front(self, name):
-        return wait_until(lambda: self.shown(name) if self.desktop.focused() == self.shown(name) else None,
-                          f"{name} with the focus")
-
     def test_the_history_opens_in_the_middle_and_a_little_above(self):
         self.desktop.start_app()
 
@@ -88,10 +80,10 @@ class Windows:
 
         self.desktop.focus(editor)
         time.sleep(0.3)
-        self.assertIsNotNone(self.shown("^General$"))
+        self.assertTrue(self.is_shown("^General$"))
         self.desktop.open_history()
 
-        self.assertIsNone(self.shown("^General$"))
+        self.assertFalse(self.is_shown("^General$"))
 
     def test_the_about_window_comes_in_the_middle_and_goes_for_escape(self):
         self.desktop.start_app()
@@ -103,7 +95,7 @@ class Windows:
         self.assertAlmostEqual(left + width / 2, 640, delta=8)
         self.desktop.press("Escape")
 
-        wait_until(lambda: self.shown("^About Quillmonger$") is None, "the window to go")
+        wait_until(lambda: not self.is_shown("^About Quillmonger$"), "the window to go")
 
 
 class TheWindows(Windows, RoadCase):

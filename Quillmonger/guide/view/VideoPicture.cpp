@@ -15,6 +15,12 @@ void VideoPicture::componentComplete() {
   polish();
 }
 
+// Without a size, or outside a window, nothing could be made yet.
+void VideoPicture::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) {
+  QQuickPaintedItem::geometryChange(newGeometry, oldGeometry);
+  if (isComponentComplete() && !m_looper) polish();
+}
+
 // Only now does the item have its size.
 void VideoPicture::updatePolish() {
   if (m_looper || window() == nullptr || width() < 1 || height() < 1) return;

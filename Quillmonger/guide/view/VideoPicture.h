@@ -46,6 +46,7 @@ class VideoPicture : public QQuickPaintedItem {
 
  private:
   void componentComplete() override;
+  void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
   void updatePolish() override;
   void applyPlaying();
   void show(std::string_view pixels);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Foundation/Subscription.h"
 #include "LaunchAtLogin/Toggle.h"
 #include "Quillmonger/settings/view/ToggleModel.h"
 
@@ -13,12 +14,13 @@ class LaunchAtLoginToggle final : public ToggleModel {
 
   [[nodiscard]] QString label() const override;
   [[nodiscard]] bool isOn() const override { return m_toggle.isOn(); }
-  void flip() override;
+  void flip() override { m_toggle.flip(); }
   /// Another program may have changed it.
   void refresh() { emit isOnChanged(); }
 
  private:
   launchatlogin::Toggle m_toggle;
+  foundation::Subscription m_changes;
 };
 
 }  // namespace quillmonger

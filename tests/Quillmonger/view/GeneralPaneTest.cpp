@@ -8,6 +8,8 @@ namespace keys = quillmonger::keys;
 class GeneralPane : public testsupport::SettingsPaneTest {
  protected:
   GeneralPane() : SettingsPaneTest("general") {}
+
+  bool startsAtLogin() { return item("LaunchAtLoginToggle")->property("isOn").toBool(); }
 };
 
 TEST_F(GeneralPane, ChoosesASizeOfTheHistoryWithTheMouse) {
@@ -99,18 +101,19 @@ TEST_F(GeneralPane, HasPickersOfTheirWidth) { EXPECT_EQ(item("HistorySizePicker"
 TEST_F(GeneralPane, TurnsTheStartAtLoginOnAndOff) {
   click("LaunchAtLoginToggle");
   EXPECT_EQ(m_stage.appService().calls, std::vector<std::string>{"register"});
-  EXPECT_TRUE(item("LaunchAtLoginToggle")->property("isOn").toBool());
+  EXPECT_TRUE(QTest::qWaitFor([this] { return startsAtLogin(); }));
 
   click("LaunchAtLoginToggle");
-  EXPECT_FALSE(item("LaunchAtLoginToggle")->property("isOn").toBool());
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !startsAtLogin(); }));
 }
 
 TEST_F(GeneralPane, ShowsTheStartAtLoginAsTheDesktopHoldsIt) {
   m_stage.appService().failure = "refused";
 
   click("LaunchAtLoginToggle");
+  QCoreApplication::processEvents();
 
-  EXPECT_FALSE(item("LaunchAtLoginToggle")->property("isOn").toBool());
+  EXPECT_FALSE(startsAtLogin());
 }
 
 TEST_F(GeneralPane, BringsTheGuideBackAtTheNextStart) {

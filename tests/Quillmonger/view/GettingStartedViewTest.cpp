@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "Quillmonger/guide/view/VideoPicture.h"
 #include "tests/gallery/GuideStage.h"
 #include "tests/gallery/LongTexts.h"
 #include "tests/gallery/ViewStage.h"
@@ -221,6 +222,18 @@ TEST_F(GettingStartedView, AVideoHasAsManyPixelsAsThePlaceThatItIsShownIn) {
 
   EXPECT_EQ(m_stage.videos().last().size.width, picture->width());
   EXPECT_EQ(m_stage.videos().last().size.height, picture->height());
+}
+
+TEST_F(GettingStartedView, AVideoWithoutAPlaceIsMadeOnceItHasOne) {
+  m_stage.view();
+  quillmonger::VideoPicture picture(m_stage.view().contentItem());
+  picture.setModel(&m_stage.model());
+  picture.setVideo(QStringLiteral("late"));
+
+  picture.setSize({40, 30});
+
+  EXPECT_TRUE(QTest::qWaitFor([&picture] { return picture.canPlay(); }));
+  EXPECT_EQ(m_stage.videos().last().name, "late");
 }
 
 TEST_F(GettingStartedView, ThereIsNothingToPlayWhereThereIsNoVideo) {
