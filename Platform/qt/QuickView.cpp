@@ -1,7 +1,10 @@
 #include "Platform/qt/QuickView.h"
 
+#include <xcb/xcb.h>
+
 #include <QGuiApplication>
 #include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 namespace platform {
@@ -12,6 +15,14 @@ namespace {
 constexpr auto showsWithoutActivatingProperty = "_q_showWithoutActivating";
 
 int levelOf(const QWindow* window) { return window->property(levelProperty).toInt(); }
+
+// The display has been told of the window before it hears anything of it over another connection.
+void settleOwnConnection() {
+  const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+  if (x11 == nullptr) return;
+  xcb_connection_t* connection = x11->connection();
+  std::free(xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
+}
 
 // All that are on the screen and whose level is higher, the lowest first.
 void raiseWindowsAbove(const QWindow* window) {
@@ -29,7 +40,8 @@ QuickView::QuickView(QQmlEngine& engine, quillmonger::WindowSystem& windowSystem
   setResizeMode(QQuickView::SizeRootObjectToView);
 }
 
-// The window manager must know the window before it is asked for the front.
+// Asked for the front at once, since what is typed meanwhile goes elsewhere; and again when the window is there, since
+// some window managers let no window to the front before.
 void QuickView::showInFront() {
   setProperty(showsWithoutActivatingProperty, false);
   m_comesToFront = !isExposed();
@@ -37,7 +49,8 @@ void QuickView::showInFront() {
   if (m_comesToFront || !isActive()) setProperty(awaitsFrontProperty, true);
   show();
   raise();
-  if (isExposed()) m_windowSystem.bringToFront(winId());
+  settleOwnConnection();
+  m_windowSystem.bringToFront(winId());
 }
 
 void QuickView::showBehindTheFront() {

@@ -147,7 +147,8 @@ class Desktop:
         wait_until(lambda: self.focused() == window, "the focus")
 
     def focused(self):
-        return self.run(["xdotool", "getactivewindow"], check=False).stdout.strip()
+        """The window that gets the keys: the window manager's word for the active one can be ahead of it."""
+        return self.run(["xdotool", "getwindowfocus"], check=False).stdout.strip()
 
     def geometry(self, window):
         """Left, top, width and height, without what the window manager adds."""

@@ -71,16 +71,18 @@ TEST_F(QtQuickWindowTest, LoadsItsContentOnceWithItsProperties) {
   EXPECT_EQ(m_window.view()->rootObject()->property("words").toString(), "hello");
 }
 
-TEST_F(QtQuickWindowTest, ComesToTheFrontEachTimeItIsShown) {
+TEST_F(QtQuickWindowTest, AsksForTheFrontAtOnceAndAgainWhenItIsOnTheScreenEachTimeItIsShown) {
   m_window.makeKeyAndOrderFront();
-  EXPECT_TRUE(QTest::qWaitFor([this] { return m_system.frontCount == 1; }));
+  EXPECT_GE(m_system.frontCount, 1);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return m_system.frontCount == 2; }));
   EXPECT_TRUE(m_window.isVisible());
 
   m_window.orderOut();
   EXPECT_FALSE(m_window.isVisible());
   m_window.makeKeyAndOrderFront();
 
-  EXPECT_TRUE(QTest::qWaitFor([this] { return m_system.frontCount == 2; }));
+  EXPECT_GE(m_system.frontCount, 3);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return m_system.frontCount == 4; }));
   EXPECT_EQ(m_system.keptOutCount, 2);
 }
 
