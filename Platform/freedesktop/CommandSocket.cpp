@@ -69,9 +69,7 @@ class CommandSocket::Server final : public std::enable_shared_from_this<Server> 
   void run() {
     while (!m_isStopped) {
       waitForEvents();
-      takeReplies();
-      for (auto& client : m_clients)
-        serve(client);
+      exchange();
       acceptClients();
       const auto now = Clock::now();
       std::erase_if(m_clients, [now](const Client& client) {
@@ -80,6 +78,8 @@ class CommandSocket::Server final : public std::enable_shared_from_this<Server> 
         return isOver;
       });
     }
+    // The answer to the request that ended the program may have come since.
+    exchange();
     for (const auto& client : m_clients)
       close(client.descriptor);
   }
@@ -138,6 +138,12 @@ class CommandSocket::Server final : public std::enable_shared_from_this<Server> 
     poll(events.data(), events.size(), timeout);
     std::uint64_t count = 0;
     if ((events.front().revents & POLLIN) != 0 && ::read(m_wake, &count, sizeof count) < 0) m_isStopped = true;
+  }
+
+  void exchange() {
+    takeReplies();
+    for (auto& client : m_clients)
+      serve(client);
   }
 
   void acceptClients() {

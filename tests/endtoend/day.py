@@ -31,6 +31,7 @@ class Day:
         self.counts = Counter()
         self.texts = {}  # those that can be pasted, by the word that finds them
         self.number = 0
+        self.pictures = 0  # pasted into the browser
         self.slowest = 0.0
         self.memory = []
 
@@ -40,8 +41,9 @@ class Day:
         self.picture = subprocess.run(picture, check=True, capture_output=True).stdout
 
     def live(self, seconds):
-        acts = [self.copy_text] * 4 + [self.paste] * 5 + [self.copy_in_editor, self.copy_picture, self.copy_files,
-                                                         self.copy_formatted, self.copy_secret]
+        acts = [self.copy_text] * 4 + [self.paste] * 5 + [
+            self.copy_in_editor, self.copy_in_word_processor, self.copy_picture, self.copy_files, self.copy_formatted,
+            self.copy_secret, self.paste_picture]
         self.copy_text()
         end = time.monotonic() + seconds
         while time.monotonic() < end:
@@ -67,13 +69,25 @@ class Day:
         self.texts[word] = f"{word} {self.chance.choice(TEXTS)}"
         self.expect_record(lambda: self.desktop.copy(self.texts[word]), word)
 
+    def program(self, kind):
+        return next(program for program in self.programs if isinstance(program, kind))
+
     def copy_in_editor(self):
-        editor = next(program for program in self.programs if isinstance(program, targets.GtkEditor))
-        self.bring_up(editor)
+        self.bring_up(self.program(targets.GtkEditor))
         word = self.new_word()
         self.texts[word] = f"{word} typed by hand"
         self.desktop.type(self.texts[word])
         self.expect_record(lambda: self.desktop.press("ctrl+a", "ctrl+c"), word)
+
+    def copy_in_word_processor(self):
+        """A word of a letter, which is offered in a dozen types."""
+        self.desktop.focus(self.program(targets.WordProcessor).window)
+        word = self.new_word()
+        self.texts[word] = word
+        self.desktop.press("ctrl+End")
+        self.desktop.type(f" {word}")
+        self.expect_record(lambda: self.desktop.press("ctrl+shift+Left", "ctrl+c"), word)
+        self.desktop.press("ctrl+End")
 
     def copy_picture(self):
         # Bytes after its end make another picture of it.
@@ -110,7 +124,7 @@ class Day:
             self.blame("doubled copies", [(record["text"], record["types"]) for record in new])
 
     def is_newest(self, word):
-        return (self.desktop.records()[0]["text"] or "").startswith(word + " ")
+        return (self.desktop.records()[0]["text"] or "").startswith(word)
 
     def record_names(self):
         begin = time.monotonic()
@@ -136,19 +150,36 @@ class Day:
             self.copy_text()
             time.sleep(2)
         before = self.bring_up(program)
-        begin = time.monotonic()
-        self.desktop.open_history()
-        self.note_time("the history", time.monotonic() - begin)
-        self.desktop.search(word)
-        self.desktop.press("Return")
-        self.desktop.wait_hidden()
-        self.counts["pastes"] += 1
-        # What was pasted is on the clipboard, and so in the history once more.
-        wait_until(lambda: self.is_newest(word), "the paste in the history")
+        self.choose(word)
         try:
             program.wait_for_text(before + self.texts[word])
         except AssertionError as difference:
             self.blame("wrong pastes", f"{type(program).__name__} {word}: {str(difference)[:200]}")
+
+    def paste_picture(self):
+        self.copy_picture()
+        browser = self.program(targets.Browser)
+        self.desktop.focus(browser.window)
+        self.choose("")
+        self.pictures += 1
+        try:
+            browser.wait_for_picture(self.pictures)
+        except Timeout as difference:
+            self.blame("wrong pastes", str(difference))
+
+    def choose(self, word):
+        """Pastes the newest item with the word, or the newest of all."""
+        before = self.record_names()
+        begin = time.monotonic()
+        self.desktop.open_history()
+        self.note_time("the history", time.monotonic() - begin)
+        if word:
+            self.desktop.search(word)
+        self.desktop.press("Return")
+        self.desktop.wait_hidden()
+        self.counts["pastes"] += 1
+        # What was pasted is on the clipboard, and so in the history once more.
+        wait_until(lambda: self.record_names()[0] != before[0], "the paste in the history")
 
     # ---- what should not be
 

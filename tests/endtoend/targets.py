@@ -70,10 +70,18 @@ class QtEditor(Editor):
 
 
 class Browser(Target):
-    """A text field of a page, which tells its text in the title."""
+    """A text field of a page, which tells its text in the title, and after a picture how many it was given."""
 
     page = """<!doctype html><title>ready</title><textarea id="field" autofocus></textarea>
-              <script>field.oninput = () => { document.title = "[" + field.value + "]" }</script>"""
+              <script>
+                let pictures = 0
+                field.oninput = () => { document.title = "[" + field.value + "]" }
+                field.onpaste = event => {
+                  if (![...event.clipboardData.files].some(file => file.type.startsWith("image/"))) return
+                  document.title = "pictures: " + ++pictures
+                  event.preventDefault()
+                }
+              </script>"""
 
     def __init__(self, desktop):
         super().__init__(desktop)
@@ -84,10 +92,15 @@ class Browser(Target):
                        f"--user-data-dir={desktop.home}/browser", f"--app=file://{page}"])
         self._show("^ready$", seconds=60)
 
+    def title(self):
+        return self.desktop.run(["xdotool", "getwindowname", self.window]).stdout.removesuffix("\n")
+
     def text(self):
-        title = self.desktop.run(["xdotool", "getwindowname", self.window]).stdout
-        found = re.fullmatch(r"\[(.*)\]\n", title)
+        found = re.fullmatch(r"\[(.*)\]", self.title())
         return found.group(1) if found else ""
+
+    def wait_for_picture(self, number):
+        wait_until(lambda: self.title() == f"pictures: {number}", f"picture {number} in the page, not {self.title()}")
 
 
 class WordProcessor(Target):

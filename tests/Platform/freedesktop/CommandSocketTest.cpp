@@ -212,6 +212,23 @@ TEST_F(CommandSocketTest, AReplyAfterItsEndIsHarmless) {
   EXPECT_EQ(caller.hear(running()), "");
 }
 
+// Over and over, since it was a race between two threads.
+TEST_F(CommandSocketTest, AnswersTheRequestThatEndsIt) {
+  for (int i = 0; i < 300; ++i) {
+    listen();
+    Caller caller(path);
+    caller.say("quit\n");
+
+    const auto heard = caller.hear([this] {
+      const auto before = requests.size();
+      runLoop.runPosted();
+      if (requests.size() > before) socket.reset();
+    });
+
+    ASSERT_EQ(heard, "answer to quit\n");
+  }
+}
+
 TEST_F(CommandSocketTest, TakesThePlaceOfASocketThatACrashLeft) {
   listen();
   const auto left = folder.path() / "left";
