@@ -28,6 +28,7 @@ void IncomingTransfer::handleNotify(const xcb_selection_notify_event_t& event) {
   // An answer that came too late for an earlier question does not answer this one.
   if (m_isStreaming || event.selection != m_question.selection || event.target != m_question.target) return;
   if (event.property == XCB_ATOM_NONE) return finish(Outcome::refused);
+  if (event.property != m_question.property) return;
   std::optional<X11Property> answer = readProperty(m_thread.connection(), m_question.requestor, m_question.property,
                                                    m_question.limit, AfterReading::deleteProperty);
   if (!answer) return finish(Outcome::unusable);
@@ -69,7 +70,7 @@ void IncomingTransfer::receivePiece() {
 }
 
 void IncomingTransfer::restartPatience() {
-  m_patience = m_thread.after(patience, [this] { finish(Outcome::silent); });
+  m_patience = m_thread.after(m_question.patience, [this] { finish(Outcome::silent); });
 }
 
 void IncomingTransfer::finish(Outcome outcome, X11Property answer) {

@@ -20,20 +20,21 @@ class X11Thread;
 /// the owner makes no progress. On the thread of the connection.
 class IncomingTransfer final {
  public:
-  static constexpr std::chrono::milliseconds patience{2000};
+  static constexpr std::chrono::milliseconds usualPatience{2000};
 
   enum class Outcome {
     answered,
     refused,
     /// The answer is too large, broken off or made of pieces that don't belong together.
     unusable,
-    /// Nothing came for `patience`; it may still come.
+    /// Nothing came for as long as the question's patience; it may still come.
     silent,
   };
   using Completion = std::function<void(Outcome outcome, X11Property answer)>;
 
   struct Question {
-    /// Our window, and its property for the answer, which no other question uses as long as one is unanswered.
+    /// Our window, and its property for the answer, which no question for something else uses as long as this one is
+    /// unanswered.
     xcb_window_t requestor;
     xcb_atom_t property;
     xcb_atom_t selection;
@@ -41,6 +42,7 @@ class IncomingTransfer final {
     xcb_timestamp_t time;
     /// Bytes that the answer may have.
     std::size_t limit;
+    std::chrono::milliseconds patience = usualPatience;
   };
 
   /// Asks. `completion` is called once, unless this object goes before, and may end this object.

@@ -39,7 +39,13 @@ SelectionReading::~SelectionReading() { xcb_destroy_window(m_thread.connection()
 
 void SelectionReading::start() {
   m_patience = m_thread.after(patience, [this] { end(Streaming::end); });
-  ask(m_atoms.atom("TARGETS"), [this](Outcome outcome, const X11Property& answer) { takeOffer(outcome, answer); });
+  askForOffer();
+}
+
+// Into the same property each time: whichever question is answered first will do.
+void SelectionReading::askForOffer() {
+  ask({.target = m_atoms.atom("TARGETS"), .property = m_atoms.atom("QUILLMONGER_OFFER"), .patience = offerPatience},
+      [this](Outcome outcome, const X11Property& answer) { takeOffer(outcome, answer); });
 }
 
 void SelectionReading::handleEvent(const xcb_generic_event_t& event) {
@@ -52,27 +58,24 @@ void SelectionReading::handleEvent(const xcb_generic_event_t& event) {
   }
 }
 
-void SelectionReading::ask(xcb_atom_t target, IncomingTransfer::Completion completion) {
-  const std::string property = "QUILLMONGER_ANSWER_" + std::to_string(m_silentQuestions);
+void SelectionReading::ask(const Asked& asked, IncomingTransfer::Completion completion) {
   const IncomingTransfer::Question question{.requestor = m_window,
-                                            .property = m_atoms.atom(property),
+                                            .property = asked.property,
                                             .selection = m_atoms.clipboard(),
-                                            .target = target,
+                                            .target = asked.target,
                                             .time = m_time,
-                                            .limit = byteLimit - m_byteCount};
+                                            .limit = byteLimit - m_byteCount,
+                                            .patience = asked.patience};
   m_transfer = std::make_unique<IncomingTransfer>(
       m_thread, m_atoms, question, [this, completion = std::move(completion)](Outcome outcome, X11Property answer) {
         const auto done = std::move(m_transfer);
-        if (outcome == Outcome::silent) {
-          ++m_silentQuestions;
-          m_isAnswerPending = true;
-        }
+        if (outcome == Outcome::silent) m_isAnswerPending = true;
         completion(outcome, std::move(answer));
       });
 }
 
 void SelectionReading::takeOffer(Outcome outcome, const X11Property& answer) {
-  if (outcome == Outcome::silent) return finish();
+  if (outcome == Outcome::silent) return askForOffer();
   std::vector<std::string> names;
   const bool isList = answer.type == XCB_ATOM_ATOM || answer.type == m_atoms.atom("TARGETS");
   if (outcome == Outcome::answered && isList) {
@@ -99,11 +102,17 @@ void SelectionReading::askNext() {
     m_name = 0;
   }
   if (m_isSuperseded || m_request == requests.size() || m_byteCount == byteLimit) return finish();
-  ask(m_atoms.atom(requests[m_request].names[m_name]),
+  const std::string property = "QUILLMONGER_ANSWER_" + std::to_string(m_silentQuestions);
+  ask({.target = m_atoms.atom(requests[m_request].names[m_name]), .property = m_atoms.atom(property)},
       [this](Outcome outcome, X11Property answer) { takeValue(outcome, std::move(answer)); });
 }
 
 void SelectionReading::takeValue(Outcome outcome, X11Property answer) {
+  if (outcome == Outcome::silent) {
+    ++m_silentQuestions;
+    if (!std::exchange(m_isAskedAgain, true)) return askNext();
+  }
+  m_isAskedAgain = false;
   const OfferedTypes::Request& request = m_offered->requests()[m_request];
   const std::string& name = request.names[m_name];
   std::optional<std::string> value;

@@ -25,6 +25,9 @@ class SelectionReading final {
  public:
   /// For a whole content.
   static constexpr std::chrono::milliseconds patience{15'000};
+  /// Until the question for the types is asked again: some programs drop what they are asked while they wait for an
+  /// answer themselves, as a word processor does that looks at what it takes the clipboard from.
+  static constexpr std::chrono::milliseconds offerPatience{500};
   static constexpr std::size_t byteLimit = std::size_t{512} << 20;
 
   struct Result {
@@ -63,7 +66,13 @@ class SelectionReading final {
  private:
   using Outcome = IncomingTransfer::Outcome;
 
-  void ask(xcb_atom_t target, IncomingTransfer::Completion completion);
+  void askForOffer();
+  struct Asked {
+    xcb_atom_t target;
+    xcb_atom_t property;
+    std::chrono::milliseconds patience = IncomingTransfer::usualPatience;
+  };
+  void ask(const Asked& asked, IncomingTransfer::Completion completion);
   void takeOffer(Outcome outcome, const X11Property& answer);
   void judge(OfferedTypes offered);
   void askNext();
@@ -84,6 +93,7 @@ class SelectionReading final {
   std::size_t m_request = 0;  // the one that is being asked for, and which of its names
   std::size_t m_name = 0;
   unsigned m_silentQuestions = 0;
+  bool m_isAskedAgain = false;
   bool m_isRejected = false;
   bool m_isSuperseded = false;
   bool m_isAnswerPending = false;

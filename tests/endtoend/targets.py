@@ -93,7 +93,9 @@ class Browser(Target):
         self._show("^ready$", seconds=60)
 
     def title(self):
-        return self.desktop.run(["xdotool", "getwindowname", self.window]).stdout.removesuffix("\n")
+        """Without the marks that the browser sets around what is read from right to left."""
+        title = self.desktop.run(["xdotool", "getwindowname", self.window]).stdout.removesuffix("\n")
+        return re.sub("[\u200e\u200f\u202a-\u202e]", "", title)
 
     def text(self):
         found = re.fullmatch(r"\[(.*)\]", self.title())

@@ -4,6 +4,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <utility>
 
 #include "Platform/x11/X11Reply.h"
 #include "tests/Platform/x11/X11PasteboardFixture.h"
@@ -83,6 +84,39 @@ TEST_F(X11PasteboardHostileOwner, ThatNeverAnswersHoldsUpNothing) {
   expectGoodCopy();
 
   EXPECT_LT(Clock::now() - start, std::chrono::milliseconds(500));
+}
+
+TEST_F(X11PasteboardHostileOwner, ThatDropsTheFirstQuestionForItsTypesIsAskedAgain) {
+  HostileOwner owner(m_display.name());
+  owner.answer("TARGETS", [isFirst = true](HostileOwner& self, const Request& request) mutable {
+    if (std::exchange(isFirst, false)) return;
+    const xcb_atom_t text = self.atom("UTF8_STRING");
+    self.put(request, XCB_ATOM_ATOM, 32, std::string_view(reinterpret_cast<const char*>(&text), sizeof text));
+    self.notify(request, request.property);
+  });
+  owner.answer("UTF8_STRING", give("words"));
+
+  owner.own();
+
+  ASSERT_TRUE(advanceToNext());
+  EXPECT_EQ(presentText(), "words");
+  const std::vector<std::string> asked = {"TARGETS", "TARGETS", "UTF8_STRING"};
+  EXPECT_EQ(owner.requestedTargets(), asked);
+}
+
+TEST_F(X11PasteboardHostileOwner, ThatDropsAQuestionForBytesIsAskedAgain) {
+  HostileOwner owner(m_display.name());
+  owner.answer("UTF8_STRING",
+               [isFirst = true, words = give("words")](HostileOwner& self, const Request& request) mutable {
+                 if (!std::exchange(isFirst, false)) words(self, request);
+               });
+  owner.answer("text/html", give("<b>words</b>"));
+
+  owner.own();
+
+  ASSERT_TRUE(advanceToNext());
+  EXPECT_EQ(presentText(), "words");
+  EXPECT_EQ(presentValue("public.html"), "<b>words</b>");
 }
 
 TEST_F(X11PasteboardHostileOwner, ThatNeverGivesItsBytesHoldsUpNothing) {
