@@ -127,7 +127,7 @@ Composition::Composition(const platform::XdgFolders& folders, const std::vector<
               platform::SoundProcess::factory(soundPlayer())}),
       m_commandLine(commandOperations(), m_root.commandedHistory(), m_defaults) {
   m_views.follow(m_desktopPreferences, m_motion);
-  m_views.feed(m_root, *m_pasteboard,
+  m_views.feed(m_root, *m_pasteboard, m_eventMonitor,
                {m_launchAtLogin, m_updates.updater(), m_shortcuts, *m_inputSources, m_recordedEvents,
                 [this] { m_windowSystem->beep(); }});
   m_resigning = m_application.onDidResignActive([this] { m_root.applicationDidResignActive(); });

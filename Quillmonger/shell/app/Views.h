@@ -51,7 +51,8 @@ class Views final {
   [[nodiscard]] Alert& alert() { return m_alert; }
 
   /// Before the first window is shown. All of it is there until `close`.
-  void feed(Quillmonger& root, const Pasteboard& pasteboard, const PanedSettings::Services& services);
+  void feed(Quillmonger& root, const Pasteboard& pasteboard, LocalEventMonitoring& eventMonitoring,
+            const PanedSettings::Services& services);
   /// Lets go of everything that `feed` gave. The windows stay, without content, for those that hold them.
   void close();
 
