@@ -130,7 +130,7 @@ TEST_F(PreviewView, ShowsTheFactsButNoPictureWhenItCannotBeDecoded) {
   EXPECT_EQ(m_stage.find("PreviewPicture"), nullptr);
   EXPECT_NE(m_stage.find("UnreadablePictureNotice"), nullptr);
   EXPECT_NE(m_stage.find("FadingTextView"), nullptr);
-  EXPECT_EQ(textOf("PreviewDetails"), "6 bytes • 100 × 100");
+  EXPECT_EQ(textOf("PreviewDetails"), "6 bytes • 100×100");
 }
 
 TEST_F(PreviewView, SaysSoWhenNotEvenTheSizeOfAPictureCanBeRead) {
