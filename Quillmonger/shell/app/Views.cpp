@@ -42,7 +42,8 @@ std::string presentText(const Pasteboard& pasteboard) {
 }  // namespace
 
 Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCache::IconNaming iconNaming,
-             const AppPickerViewModel::Collaborators& applications, foundation::NotificationCenter& notificationCenter)
+             const AppPickerViewModel::Collaborators& applications, foundation::NotificationCenter& notificationCenter,
+             const UrlOpener& openUrl)
     : m_defaults(defaults),
       m_backgroundQueue(applications.backgroundQueue),
       m_runLoop(applications.runLoop),
@@ -51,7 +52,8 @@ Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCach
       m_appearance(defaults),
       m_inspection(applications.backgroundQueue, applications.runLoop),
       m_historySettings(defaults),
-      m_aboutModel(QCoreApplication::applicationVersion(), openOutsidePage),
+      m_aboutModel(QCoreApplication::applicationVersion(),
+                   [openUrl](AboutModel::Page page) { openUrl(outsidePage(page)); }),
       m_updateModel(QCoreApplication::applicationVersion().toStdString()),
       m_alert([this]() -> QQmlEngine& { return engine(); }, m_appearance),
       m_appWindow({platform::QtQuickWindow::Kind::palette, appWindowSize, QStringLiteral("Quillmonger"),
