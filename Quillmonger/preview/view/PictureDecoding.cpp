@@ -19,12 +19,13 @@ bool isKnownFormat(const QByteArray& format) {
   return std::ranges::any_of(known, [&format](const char* name) { return format == name; });
 }
 
-// Other pictures are whole in memory before they are scaled: as large as every reader of pictures lets them be.
+// Other pictures are whole in memory before they are scaled: as large as the readers let them be, which count no less
+// than 32 bits for a pixel.
 bool isTooLarge(const QImageReader& reader, const QSize& size) {
   const double pixels = double{1} * size.width() * size.height();
   if (reader.format() == "jpeg") return pixels > mostJpegPixels;
   constexpr double bytesInMegabyte = 1 << 20;
-  const int bytesPerPixel = std::max(1, QImage::toPixelFormat(reader.imageFormat()).bitsPerPixel() / 8);
+  const int bytesPerPixel = std::max(4, QImage::toPixelFormat(reader.imageFormat()).bitsPerPixel() / 8);
   return pixels * bytesPerPixel > QImageReader::allocationLimit() * bytesInMegabyte;
 }
 

@@ -12,8 +12,8 @@ namespace {
 
 using quillmonger::decodePicture;
 
-foundation::Data encoded(const QSize& size, const char* format) {
-  QImage image(size, QImage::Format_RGB32);
+foundation::Data encoded(const QSize& size, const char* format, QImage::Format pixels = QImage::Format_RGB32) {
+  QImage image(size, pixels);
   image.fill(QColor(10, 200, 30));
   QByteArray bytes;
   QBuffer buffer(&bytes);
@@ -92,6 +92,8 @@ TEST_F(WithLittleMemory, RefusesWhatWouldNotFitBeforeItsReaderDoes) {
   complaints.clear();
 
   EXPECT_TRUE(decodePicture(encoded({512, 513}, "PNG"), 100).isNull());
+  EXPECT_TRUE(decodePicture(encoded({512, 513}, "PNG", QImage::Format_Grayscale8), 100).isNull());
+  EXPECT_TRUE(decodePicture(encoded({362, 363}, "PNG", QImage::Format_RGBA64), 100).isNull());
   EXPECT_TRUE(decodePicture(encoded({512, 513}, "TIFF"), 100).isNull());
 
   EXPECT_EQ(complaints, QStringList());
