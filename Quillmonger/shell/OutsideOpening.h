@@ -28,7 +28,7 @@ class OutsideOpening final {
     std::function<void(const std::string&)> copy;
   };
 
-  /// All collaborators outlive this object, and it what it opens.
+  /// All collaborators outlive this object, and it outlives the last turn of the main queue.
   explicit OutsideOpening(Collaborators collaborators) : m_with(std::move(collaborators)) {}
 
   /// Where nothing opens it, an alert has the address, which can be copied there.
