@@ -23,6 +23,8 @@ std::optional<std::vector<std::uint32_t>> QtPictureReading::pixels(const foundat
   DataDevice device(picture);
   QImageReader reader(&device);
   reader.setAutoTransform(true);
+  // Never whole in memory then, unlike other kinds.
+  if (reader.format() == "jpeg") reader.setScaledSize({edge, edge});
   const QImage whole = reader.read();
   if (whole.isNull()) return std::nullopt;
   const QImage image = whole.scaled(edge, edge, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)

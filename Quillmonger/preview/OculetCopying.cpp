@@ -19,16 +19,21 @@ std::optional<foundation::Data> rewritten(const OculetResults& results, JsonForm
 OculetCopying::OculetCopying(Collaborators collaborators)
     : m_with(std::move(collaborators)), m_work(m_with.backgroundQueue, m_with.runLoop) {}
 
-void OculetCopying::copy(std::function<std::string()> text) {
-  m_work.start([this, text = std::move(text)]() -> LatestWork::Finish {
-    return [this, data = foundation::Data(text())] { m_with.writeToPasteboard(data); };
+void OculetCopying::copy(std::function<std::string()> text, Copied copied) {
+  m_work.start([this, text = std::move(text), copied = std::move(copied)]() -> LatestWork::Finish {
+    return [this, data = foundation::Data(text()), copied] { write(data, copied); };
   });
 }
 
-void OculetCopying::copyJson(std::shared_ptr<const OculetResults> results, JsonForm form) {
-  m_work.start([this, results = std::move(results), form]() -> LatestWork::Finish {
-    return [this, data = rewritten(*results, form)] { data ? m_with.writeToPasteboard(*data) : m_with.showAlert(); };
+void OculetCopying::copyJson(std::shared_ptr<const OculetResults> results, JsonForm form, Copied copied) {
+  m_work.start([this, results = std::move(results), form, copied = std::move(copied)]() -> LatestWork::Finish {
+    return [this, data = rewritten(*results, form), copied] { data ? write(*data, copied) : m_with.showAlert(); };
   });
+}
+
+void OculetCopying::write(const foundation::Data& text, const Copied& copied) {
+  m_with.writeToPasteboard(text);
+  copied(text);
 }
 
 }  // namespace quillmonger

@@ -30,13 +30,20 @@ class OculetCopying final {
   /// All collaborators outlive this object.
   explicit OculetCopying(Collaborators collaborators);
 
+  /// Hears what was copied, once it is the pasteboard's content.
+  using Copied = std::function<void(const foundation::Data&)>;
+
   /// Copies what `text` gives, which runs beside the main thread.
-  void copy(std::function<std::string()> text);
+  void copy(
+      std::function<std::string()> text, Copied copied = [](const auto&) {});
   /// Copies the JSON text of `results` in another form, which is worked out now, beside the main thread. When that
   /// fails the alert is shown and the pasteboard stays as it is.
-  void copyJson(std::shared_ptr<const OculetResults> results, JsonForm form);
+  void copyJson(
+      std::shared_ptr<const OculetResults> results, JsonForm form, Copied copied = [](const auto&) {});
 
  private:
+  void write(const foundation::Data& text, const Copied& copied);
+
   Collaborators m_with;
   LatestWork m_work;
 };

@@ -25,7 +25,7 @@ void PreviewOpening::openIfWanted() const {
   const Item item = m_with.selectedItem.value();
   // A hidden history's items are not examined.
   if (!item || !m_with.isMainWindowVisible()) return;
-  if (deservesPreview(item)) m_with.showPreview(padding);
+  if (deservesPreview(item)) m_with.showPreview();
 }
 
 bool PreviewOpening::deservesPreview(const Item& item) const {

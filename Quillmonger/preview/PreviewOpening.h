@@ -18,8 +18,6 @@ namespace quillmonger {
 class PreviewOpening final {
  public:
   using Item = std::shared_ptr<ClipboardItemViewModel>;
-  /// Between the history's window and the preview beside it, in points.
-  static constexpr double padding = 6;
 
   struct Collaborators {
     foundation::Published<Item>& selectedItem;
@@ -28,7 +26,7 @@ class PreviewOpening final {
     ItemInspection& inspection;
     std::function<bool()> isMainWindowVisible;
     /// Ignores a call while the preview is up.
-    std::function<void(double padding)> showPreview;
+    std::function<void()> showPreview;
   };
 
   /// All collaborators outlive this object.

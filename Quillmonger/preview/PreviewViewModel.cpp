@@ -19,6 +19,12 @@ constexpr std::size_t headLength = 1U << 12U;
 
 foundation::Data inMemory(std::string_view text) { return foundation::Data(std::string(text)); }
 
+void setResults(PreviewContent& content, std::shared_ptr<const OculetResults> results) {
+  if (const auto* date = dateResult(*results)) content.dateRows = dateRows(date->date);
+  if (const auto* color = colorResult(*results)) content.colorRows = colorRows(*color);
+  content.results = std::move(results);
+}
+
 // Where the text that is shown lies, and how much of it is shown.
 void setText(PreviewContent& content, foundation::Data data, std::size_t offset, std::string_view text,
              bool hidesLong) {
@@ -71,7 +77,9 @@ void PreviewViewModel::loadContent(const Item& item) {
     loadLongContent(item);
     return;
   }
-  PreviewContent content{item->details(), item->oculetResults(), {}};
+  PreviewContent content;
+  content.details = item->details();
+  setResults(content, item->oculetResults());
   setText(content, *item, *text, m_hidesLongText);
   m_content.set(std::move(content));
 }
@@ -93,7 +101,7 @@ void PreviewViewModel::loadLongContent(const Item& item) {
     const SharedText text = item->text();
     const std::size_t lines = hasPicture ? 0 : lineCount(text.view);
     PreviewContent content;
-    if (mayDetect) content.results = std::make_shared<const OculetResults>(oculetManager->detect(text.view));
+    if (mayDetect) setResults(content, std::make_shared<const OculetResults>(oculetManager->detect(text.view)));
     setText(content, *item, text, hidesLong);
     return [this, content = std::move(content), details, hasPicture, byteCount, lines]() mutable {
       content.details = hasPicture ? details : textDetails(byteCount, lines, m_with.texts);

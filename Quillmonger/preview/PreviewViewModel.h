@@ -14,6 +14,7 @@
 #include "Quillmonger/detection/OculetManager.h"
 #include "Quillmonger/history/ClipboardItemViewModel.h"
 #include "Quillmonger/preview/LatestWork.h"
+#include "Quillmonger/preview/OculetRows.h"
 #include "Quillmonger/preview/TextPieces.h"
 
 namespace quillmonger {
@@ -22,6 +23,8 @@ namespace quillmonger {
 struct PreviewContent {
   std::string details;  ///< the size, in the words of `ClipboardItemViewModel::details`
   std::shared_ptr<const OculetResults> results = std::make_shared<const OculetResults>();  ///< never null
+  std::vector<OculetRow> dateRows;   ///< of the first date among `results`
+  std::vector<OculetRow> colorRows;  ///< of the first colour
   TextPieces text;
   bool isTextHidden = false;  ///< whether `text` is only the beginning, since the user wants it so
 };

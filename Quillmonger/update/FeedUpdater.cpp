@@ -105,8 +105,14 @@ void FeedUpdater::finishDownload(const UpdateService::DownloadResult& result) {
 
 void FeedUpdater::install() {
   if (!m_status || m_status->stage != Stage::ready) return;
-  if (m_with.open(m_file)) return close();
+  close();
+  m_with.open(m_file, [this] { failToOpen(); });
+}
+
+void FeedUpdater::failToOpen() {
+  if (m_status) return;
   become({.stage = Stage::failed, .failure = UpdateFailure::notOpened});
+  present();
 }
 
 void FeedUpdater::skip() {

@@ -30,8 +30,8 @@ class FeedUpdater final : public Updater {
     foundation::RunLoop& runLoop;
     UpdateService& service;
     UpdateInterface& interface;
-    /// Hands a file to the desktop's program for it; whether there is one.
-    std::function<bool(const std::filesystem::path&)> open;
+    /// Hands a file to the desktop's program for it. `failed` is called in a later turn if nothing opens it.
+    std::function<void(const std::filesystem::path&, std::function<void()> failed)> open;
   };
 
   /// All collaborators outlive this object.
@@ -63,6 +63,7 @@ class FeedUpdater final : public Updater {
   void fetch(const Update& update);
   void finishDownload(const UpdateService::DownloadResult& result);
   void fail(UpdateFailure failure);
+  void failToOpen();
   void become(UpdateStatus status);
   void present();
   void watchForStall();

@@ -88,6 +88,41 @@ class TheFirstRun(RoadCase):
         self.assertEqual(self.desktop.focused(), guide)
         self.assertEqual(self.desktop.texts(), ["kept from before"])
 
+    def drag(self, start, way):
+        """Holds the pointer's button at a place of the guide, and goes on step by step until the window follows.
+
+        Returns how far its left, top, right and bottom edges went.
+        """
+        guide = self.desktop.guide_window()
+        left, top, width, height = self.desktop.geometry(guide)
+        self.desktop.run(["xdotool", "mousemove", str(left + start[0]), str(top + start[1]), "mousedown", "1"])
+
+        def follows():
+            self.desktop.run(["xdotool", "mousemove_relative", "--", *map(str, way)])
+            return self.desktop.geometry(guide) != (left, top, width, height)
+        wait_until(follows, "the window to follow the pointer", step=0.1)
+        self.desktop.run(["xdotool", "mouseup", "1"])
+        self.wait_still(guide)
+        new_left, new_top, new_width, new_height = self.desktop.geometry(guide)
+        return (new_left - left, new_top - top,
+                new_left + new_width - left - width, new_top + new_height - top - height)
+
+    def test_its_edges_resize_it_and_its_background_moves_it(self):
+        self.desktop.start_app(first_launch=True)
+        _, _, width, height = self.desktop.geometry(self.desktop.guide_window())
+
+        left, top, right, bottom = self.drag((width - 3, height - 3), (12, 8))
+        self.assertEqual((left, top), (0, 0))
+        self.assertTrue(right > 0 and bottom > 0, "the corner went nowhere")
+
+        left, top, right, bottom = self.drag((2, 300), (-12, 8))
+        self.assertEqual((top, right, bottom), (0, 0, 0))
+        self.assertLess(left, 0)
+
+        left, top, right, bottom = self.drag((60, 60), (-12, 8))
+        self.assertEqual((left, top), (right, bottom))
+        self.assertTrue(left < 0 < top, "the window went nowhere")
+
     def test_a_video_is_read_by_one_program_at_a_time_and_by_none_after_the_guide(self):
         self.desktop.start_app(first_launch=True)
         self.desktop.guide_window()

@@ -115,7 +115,22 @@ class Preview:
 
 
 class ThePreview(Preview, RoadCase):
-    pass
+    def test_alt_and_a_digit_copy_what_was_recognised_and_close_nothing(self):
+        self.desktop.start_app()
+        self.desktop.copy("#ff8000")
+        self.desktop.wait_for_text("#ff8000")
+        history, _ = self.open_with_preview()
+
+        self.desktop.press("alt+2")
+
+        wait_until(lambda: self.desktop.clipboard() == b"rgb(255, 128, 0)", "the colour's second form")
+        self.desktop.wait_for_text("rgb(255, 128, 0)")
+        self.assertEqual(self.desktop.focused(), history)
+        self.assertIsNotNone(self.preview())
+        # Had the digit been typed, this would look for "2#ff".
+        self.desktop.search("#ff")
+        self.desktop.press("Return")
+        wait_until(lambda: self.desktop.clipboard() == b"#ff8000", "the row that was searched for")
 
 
 class ThePreviewUnderXfwm4(Preview, RoadCase):

@@ -99,7 +99,23 @@ class Windows:
 
 
 class TheWindows(Windows, RoadCase):
-    pass
+    def test_a_page_that_nothing_opens_is_told_with_an_address_to_copy(self):
+        programs = self.desktop.home / "programs"
+        programs.mkdir()
+        opener = programs / "xdg-open"
+        opener.write_text("#!/bin/sh\nexit 3\n")
+        opener.chmod(0o700)
+        self.desktop.environment["PATH"] = f"{programs}:{self.desktop.environment['PATH']}"
+        self.desktop.start_app()
+        self.desktop.quillmonger("about")
+        self.wait_for_front("^About Quillmonger$")
+
+        self.desktop.press("Tab", "Return")
+        self.wait_for_front("^The address could not be opened$")
+        self.desktop.press("Return")
+
+        wait_until(lambda: self.desktop.clipboard().startswith(b"https://quillmonger.example/"), "the address")
+        self.wait_for_front("^About Quillmonger$")
 
 
 class TheWindowsUnderXfwm4(Windows, RoadCase):

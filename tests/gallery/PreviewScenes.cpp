@@ -49,6 +49,13 @@ void hoverTheFirstButton(PreviewStage& stage) {
   QTest::mouseMove(&stage.view(), button->mapToScene(button->boundingRect().center()).toPoint());
 }
 
+void showTheKeys(PreviewStage& stage) { stage.setOptionPressed(true); }
+
+void pressTheSecondButton(PreviewStage& stage) {
+  stage.model().pressCopyButton(1);
+  stage.load();
+}
+
 void selectAcrossPieces(PreviewStage& stage) {
   QQuickItem* list = stage.find("FadingTextView");
   const QPoint start = list->mapToScene(QPointF(60, 40)).toPoint();
@@ -80,6 +87,13 @@ const std::vector<Scene>& scenes() {
       {"date-tip",
        [](PreviewStage& stage) { return stage.makeItem("1700000000", "public.utf8-plain-text", "Terminal"); },
        hoverTheFirstButton},
+      {"date-keys",
+       [](PreviewStage& stage) { return stage.makeItem("1700000000", "public.utf8-plain-text", "Terminal"); },
+       showTheKeys},
+      {"json-keys", [](PreviewStage& stage) { return stage.makeItem("[1, 2]"); }, showTheKeys},
+      {"color-copied",
+       [](PreviewStage& stage) { return stage.makeItem("#ff7a59", "public.utf8-plain-text", "Design"); },
+       pressTheSecondButton},
       {"color", [](PreviewStage& stage) { return stage.makeItem("#ff7a59", "public.utf8-plain-text", "Design"); }},
       {"json",
        [](PreviewStage& stage) {
@@ -87,6 +101,11 @@ const std::vector<Scene>& scenes() {
                                "public.utf8-plain-text", "A Very Long Application Name That Needs To Be Cut");
        }},
       {"picture", [](PreviewStage& stage) { return stage.makePicture(1920, 1080, "Paint"); }},
+      {"unreadable-picture",
+       [](PreviewStage& stage) {
+         stage.pictures().setPicture("broken", {20'000, 10'000});
+         return stage.makeItem("broken", "public.png", "Paint");
+       }},
       {"tall-picture", [](PreviewStage& stage) { return stage.makePicture(200, 900, "Paint"); }},
       {"file",
        [](PreviewStage& stage) {

@@ -23,8 +23,9 @@ PreviewStage::PreviewStage()
                    quillmonger::localizedText, m_queue, m_runLoop}),
       m_copying({[this](const foundation::Data& text) { m_copies.push_back(*text.bytes()); },
                  [this] { ++m_alertCount; }, m_queue, m_runLoop}),
-      m_model({m_viewModel, m_copying, m_itemServices.settings.defaults, m_queue, m_runLoop,
-               [this] { ++m_settingsCount; }}) {
+      m_buttons({m_viewModel, m_copying, m_keyboard, m_runLoop}),
+      m_model({m_viewModel, m_copying, m_buttons, m_isOptionPressed, m_itemServices.settings.defaults, m_queue,
+               m_runLoop, [this] { ++m_settingsCount; }}) {
   quillmonger::resourcesview::registerTypes(m_engine);
   quillmonger::historyview::registerTypes();
   quillmonger::previewview::registerTypes();

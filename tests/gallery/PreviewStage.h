@@ -9,10 +9,12 @@
 #include <vector>
 
 #include "Foundation/Published.h"
+#include "Quillmonger/preview/OculetButtons.h"
 #include "Quillmonger/preview/OculetCopying.h"
 #include "Quillmonger/preview/PreviewViewModel.h"
 #include "Quillmonger/preview/view/PreviewModel.h"
 #include "Quillmonger/resources/Appearance.h"
+#include "tests/support/FakeLocalEventMonitor.h"
 #include "tests/support/InlineBackgroundQueue.h"
 #include "tests/support/ItemServices.h"
 #include "tests/support/TemporaryFolder.h"
@@ -45,6 +47,8 @@ class PreviewStage final {
   [[nodiscard]] int settingsCount() const { return m_settingsCount; }
 
   quillmonger::PreviewModel& model() { return m_model; }
+  FakeLocalEventMonitor& keyboard() { return m_keyboard; }
+  void setOptionPressed(bool isPressed) { m_isOptionPressed.set(isPressed); }
 
   /// Builds the view tree, once, and lays it out.
   QQuickView& view();
@@ -59,15 +63,18 @@ class PreviewStage final {
   TemporaryFolder m_folder;
   ItemServices m_itemServices;
   VirtualRunLoop m_runLoop;
+  FakeLocalEventMonitor m_keyboard;
   InlineBackgroundQueue m_queue;
   foundation::Published<Item> m_selectedItem;
   foundation::Published<bool> m_isWindowVisible{true};
+  foundation::Published<bool> m_isOptionPressed{false};
   std::vector<std::string> m_copies;
   int m_alertCount = 0;
   int m_settingsCount = 0;
   quillmonger::Appearance m_appearance;
   quillmonger::PreviewViewModel m_viewModel;
   quillmonger::OculetCopying m_copying;
+  quillmonger::OculetButtons m_buttons;
   quillmonger::PreviewModel m_model;
   QQmlEngine m_engine;
   std::unique_ptr<QQuickView> m_view;

@@ -2,7 +2,8 @@ import QtQuick
 import Quillmonger.Guide
 import Quillmonger.Resources
 
-// The guide of a first start, a screen at a time. It is moved by its background, since it has no frame.
+// The guide of a first start, a screen at a time. It is moved by its background and resized by its
+// edges, since it has no frame.
 FocusScope {
     id: guide
 
@@ -71,4 +72,6 @@ FocusScope {
             duration: guide.theme.fade
         }
     }
+
+    ResizeEdges { anchors.fill: parent }
 }

@@ -57,6 +57,10 @@ TextRuns attributedLine(std::string_view string, std::span<const CharacterRange>
   return runs;
 }
 
+QString withWholeEmoji(QString text) {
+  return text.replace(QStringLiteral("\uFE0F\u200D"), QStringLiteral("\u200D\u200D"));
+}
+
 TextRuns onOneLine(const TextRuns& runs) {
   TextRuns line;
   bool isAfterBlank = false;
@@ -69,7 +73,7 @@ TextRuns onOneLine(const TextRuns& runs) {
       if (isBlank && !isAfterBlank) text.append(u' ');
       isAfterBlank = isBlank;
     }
-    if (!text.isEmpty()) line.append({text, run.style});
+    if (!text.isEmpty()) line.append({withWholeEmoji(text), run.style});
   }
   return line;
 }

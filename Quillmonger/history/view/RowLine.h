@@ -41,6 +41,11 @@ using TextRuns = QList<TextRun>;
 /// What stands for a control character; any other character is itself.
 [[nodiscard]] QChar controlPicture(QChar character);
 
+/// The text, of the same length, in which an emoji of several characters, some flags among them, is shown as one. Qt
+/// looks for a font for each character, and fonts for emoji lack the variation selector that may stand before a joiner:
+/// it would part what is joined.
+[[nodiscard]] QString withWholeEmoji(QString text);
+
 [[nodiscard]] QString plainText(const TextRuns& runs);
 
 }  // namespace quillmonger

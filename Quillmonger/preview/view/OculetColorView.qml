@@ -13,9 +13,8 @@ OculetPanel {
     OculetRows {
         width: parent.width
         rows: panel.preview.colorRows
+        preview: panel.preview
+        firstButton: panel.preview.dateRows.length
         theme: panel.theme
-        selectedValue: panel.preview.selectedValue
-        onSelected: value => panel.preview.selectedValue = value
-        onCopied: value => panel.preview.copy(value)
     }
 }

@@ -13,9 +13,8 @@ OculetPanel {
     OculetRows {
         width: parent.width
         rows: panel.preview.dateRows
+        preview: panel.preview
+        firstButton: 0
         theme: panel.theme
-        selectedValue: panel.preview.selectedValue
-        onSelected: value => panel.preview.selectedValue = value
-        onCopied: value => panel.preview.copy(value)
     }
 }

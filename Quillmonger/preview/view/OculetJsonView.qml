@@ -7,13 +7,15 @@ OculetPanel {
     id: panel
 
     required property PreviewModel preview
+    readonly property int firstButton: preview.dateRows.length + preview.colorRows.length
 
     component JsonRow: Item {
         id: row
 
         required property string text
+        required property PreviewModel preview
+        required property int number
         required property Theme theme
-        signal triggered()
 
         width: parent.width
         height: Math.max(label.height, copy.height)
@@ -32,9 +34,10 @@ OculetPanel {
         CopyButton {
             id: copy
             anchors { right: parent.right; verticalCenter: parent.verticalCenter }
-            text: qsTrId("preview_copy_button") + " " + row.text
+            preview: row.preview
+            number: row.number
+            label: row.text
             theme: row.theme
-            onTriggered: row.triggered()
         }
     }
 
@@ -42,13 +45,15 @@ OculetPanel {
 
     JsonRow {
         text: qsTrId("preview_oculet_beautify_json")
+        preview: panel.preview
+        number: panel.firstButton
         theme: panel.theme
-        onTriggered: panel.preview.copyBeautifiedJson()
     }
 
     JsonRow {
         text: qsTrId("preview_oculet_minify_json")
+        preview: panel.preview
+        number: panel.firstButton + 1
         theme: panel.theme
-        onTriggered: panel.preview.copyMinifiedJson()
     }
 }

@@ -1,4 +1,5 @@
 import QtQuick
+import Quillmonger.Preview
 import Quillmonger.Resources
 
 // Rows of a label, a value that can be selected, and a button that copies it. The labels are as wide as the widest.
@@ -7,12 +8,11 @@ Column {
 
     // Of "label", a text's key, and "value".
     required property var rows
+    required property PreviewModel preview
+    // The number of its first copy button.
+    required property int firstButton
     required property Theme theme
     property int labelSpacing: 8
-    // The part of a value that the pane has as its selection.
-    required property string selectedValue
-    signal copied(string value)
-    signal selected(string value)
 
     readonly property real labelMaxWidth: Math.min(labels.implicitWidth, width * 0.4)
 
@@ -42,6 +42,7 @@ Column {
             id: row
 
             required property var modelData
+            required property int index
 
             width: column.width
             height: Math.max(value.height, copy.height)
@@ -81,12 +82,12 @@ Column {
                 text: row.modelData.value
                 Accessible.role: Accessible.StaticText
                 Accessible.name: label.text + " " + text
-                onSelectedTextChanged: if (selectedText !== "") column.selected(selectedText)
+                onSelectedTextChanged: if (selectedText !== "") column.preview.selectedValue = selectedText
 
                 Connections {
-                    target: column
+                    target: column.preview
                     function onSelectedValueChanged() {
-                        if (value.selectedText !== column.selectedValue) value.deselect()
+                        if (value.selectedText !== column.preview.selectedValue) value.deselect()
                     }
                 }
             }
@@ -94,9 +95,10 @@ Column {
             CopyButton {
                 id: copy
                 anchors { right: parent.right; verticalCenter: parent.verticalCenter }
-                text: qsTrId("preview_copy_button") + " " + label.text
+                preview: column.preview
+                number: column.firstButton + row.index
+                label: label.text
                 theme: column.theme
-                onTriggered: column.copied(row.modelData.value)
             }
         }
     }

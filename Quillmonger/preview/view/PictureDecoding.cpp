@@ -10,12 +10,23 @@ namespace quillmonger {
 
 namespace {
 
-constexpr double mostPixelsRead = 256e6;
+// A JPEG picture is scaled as it is read, so that it takes time but no room.
+constexpr double mostJpegPixels = 256e6;
 constexpr double mostPixelsKept = 4e6;
 
 bool isKnownFormat(const QByteArray& format) {
   constexpr std::array<const char*, 3> known{"png", "jpeg", "tiff"};
   return std::ranges::any_of(known, [&format](const char* name) { return format == name; });
+}
+
+// Other pictures are whole in memory before they are scaled: as large as the readers let them be, which count no less
+// than 32 bits for a pixel.
+bool isTooLarge(const QImageReader& reader, const QSize& size) {
+  const double pixels = double{1} * size.width() * size.height();
+  if (reader.format() == "jpeg") return pixels > mostJpegPixels;
+  constexpr double bytesInMegabyte = 1 << 20;
+  const int bytesPerPixel = std::max(4, QImage::toPixelFormat(reader.imageFormat()).bitsPerPixel() / 8);
+  return pixels * bytesPerPixel > QImageReader::allocationLimit() * bytesInMegabyte;
 }
 
 // Never larger than the picture is.
@@ -35,7 +46,7 @@ QImage decodePicture(const foundation::Data& picture, int width) {
   QImageReader reader(&buffer);
   if (!isKnownFormat(reader.format())) return {};
   const QSize size = reader.size();
-  if (size.isEmpty() || double{1} * size.width() * size.height() > mostPixelsRead) return {};
+  if (size.isEmpty() || isTooLarge(reader, size)) return {};
   reader.setAutoTransform(true);
   // The size is that before the picture is turned.
   const bool isOnItsSide = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);

@@ -38,7 +38,7 @@ Item {
             width: ListView.view.width - 2 * content.theme.previewMargin
             topPadding: content.theme.previewMargin
             spacing: content.theme.previewMargin
-            bottomPadding: hasPanels || picture.visible ? content.theme.previewMargin : 0
+            bottomPadding: hasPanels || picture.visible || notice.visible ? content.theme.previewMargin : 0
 
             readonly property bool hasPanels: date.active || color.active || json.active
 
@@ -52,6 +52,13 @@ Item {
                 picture: content.preview.picture
                 Accessible.role: Accessible.Graphic
                 Accessible.name: qsTrId("accessibility_picture")
+            }
+
+            UnreadablePictureNotice {
+                id: notice
+                anchors.horizontalCenter: parent.horizontalCenter
+                visible: content.preview.isPictureUnreadable
+                theme: content.theme
             }
 
             Panel {

@@ -3,7 +3,6 @@
 #include <QGuiApplication>
 #include <utility>
 
-#include "Quillmonger/preview/OculetRows.h"
 #include "Quillmonger/preview/view/PictureDecoding.h"
 #include "Quillmonger/settings/SettingsKeys.h"
 
@@ -32,6 +31,8 @@ PreviewModel::PreviewModel(Collaborators collaborators)
   m_subscriptions.push_back(preview.content().follow([this](const PreviewContent& content) { takeContent(content); }));
   m_subscriptions.push_back(preview.footer().subscribe([this](const PreviewFooter&) { emit footerChanged(); }));
   m_subscriptions.push_back(preview.item().follow([this](const auto& item) { takeItem(item); }));
+  m_subscriptions.push_back(m_with.buttons.copied().subscribe([this](const auto&) { emit copiedButtonChanged(); }));
+  m_subscriptions.push_back(m_with.isOptionPressed.subscribe([this](bool) { emit showsButtonKeysChanged(); }));
   m_subscriptions.push_back(m_with.defaults.updates<bool>(keys::showPreviewPaneScrollbar,
                                                           defaults::Defaults::Initial::yes, [this](const bool& isOn) {
                                                             m_showScrollbar = isOn;
@@ -41,7 +42,9 @@ PreviewModel::PreviewModel(Collaborators collaborators)
 
 void PreviewModel::takeItem(const PreviewViewModel::Item& item) {
   m_decoding.cancel();
-  const auto scaled = item && item->isImage() ? item->image() : std::nullopt;
+  const bool isImage = item && item->isImage();
+  const auto scaled = isImage ? item->image() : std::nullopt;
+  m_isPictureUnreadable = isImage && !scaled;
   m_pictureAspect = scaled ? scaled->size.height / scaled->size.width : 0;
   m_picture = {};
   if (scaled) {
@@ -56,15 +59,14 @@ void PreviewModel::takeItem(const PreviewViewModel::Item& item) {
 
 void PreviewModel::takePicture(const QImage& picture) {
   m_picture = picture;
-  if (picture.isNull()) m_pictureAspect = 0;
+  m_isPictureUnreadable = picture.isNull();
+  if (m_isPictureUnreadable) m_pictureAspect = 0;
   emit pictureChanged();
 }
 
 void PreviewModel::takeContent(const PreviewContent& content) {
-  const auto* date = dateResult(*content.results);
-  const auto* color = colorResult(*content.results);
-  m_dateRows = date != nullptr ? rows(quillmonger::dateRows(date->date)) : QVariantList();
-  m_colorRows = color != nullptr ? rows(quillmonger::colorRows(*color)) : QVariantList();
+  m_dateRows = rows(content.dateRows);
+  m_colorRows = rows(content.colorRows);
   m_selection.clear();
   setSelectedValue({});
   // A view lets go of a whole text in one step; changes to a list would reach it while it still lays out the old one.
@@ -89,15 +91,12 @@ QString PreviewModel::relativeDate() const {
 
 QString PreviewModel::pasteCount() const { return QString::fromStdString(m_with.preview.footer().value().pasteCount); }
 
-void PreviewModel::copy(const QString& text) {
-  m_with.copying.copy([text = text.toStdString()] { return text; });
+int PreviewModel::copiedButton() const {
+  const auto button = m_with.buttons.copied().value();
+  return button ? static_cast<int>(*button) : -1;
 }
 
-void PreviewModel::copyBeautifiedJson() { copyJson(JsonForm::beautified); }
-
-void PreviewModel::copyMinifiedJson() { copyJson(JsonForm::minified); }
-
-void PreviewModel::copyJson(JsonForm form) { m_with.copying.copyJson(m_with.preview.content().value().results, form); }
+void PreviewModel::pressCopyButton(int button) { m_with.buttons.press(static_cast<std::size_t>(button)); }
 
 void PreviewModel::setSelectedValue(const QString& value) {
   if (value == m_selectedValue) return;
@@ -108,7 +107,7 @@ void PreviewModel::setSelectedValue(const QString& value) {
 
 bool PreviewModel::copySelection() {
   if (!m_selectedValue.isEmpty()) {
-    copy(m_selectedValue);
+    m_with.copying.copy([value = m_selectedValue.toStdString()] { return value; });
     return true;
   }
   if (m_selection.isEmpty()) return false;

@@ -10,8 +10,10 @@
 
 #include "Defaults/Defaults.h"
 #include "Foundation/BackgroundQueue.h"
+#include "Foundation/Published.h"
 #include "Foundation/RunLoop.h"
 #include "Quillmonger/preview/LatestWork.h"
+#include "Quillmonger/preview/OculetButtons.h"
 #include "Quillmonger/preview/OculetCopying.h"
 #include "Quillmonger/preview/PreviewViewModel.h"
 #include "Quillmonger/preview/view/TextPiecesModel.h"
@@ -27,6 +29,7 @@ class PreviewModel final : public QObject {
   Q_PROPERTY(bool hasItem READ hasItem NOTIFY itemChanged)
   Q_PROPERTY(QImage picture READ picture NOTIFY pictureChanged)
   Q_PROPERTY(qreal pictureAspect READ pictureAspect NOTIFY pictureChanged)
+  Q_PROPERTY(bool isPictureUnreadable READ isPictureUnreadable NOTIFY pictureChanged)
   Q_PROPERTY(QVariantList dateRows READ dateRows NOTIFY contentChanged)
   Q_PROPERTY(QVariantList colorRows READ colorRows NOTIFY contentChanged)
   Q_PROPERTY(bool hasJson READ hasJson NOTIFY contentChanged)
@@ -34,6 +37,8 @@ class PreviewModel final : public QObject {
   Q_PROPERTY(TextPiecesModel* text READ text NOTIFY contentChanged)
   Q_PROPERTY(TextSelection* selection READ selection CONSTANT)
   Q_PROPERTY(QString selectedValue READ selectedValue WRITE setSelectedValue NOTIFY selectedValueChanged)
+  Q_PROPERTY(int copiedButton READ copiedButton NOTIFY copiedButtonChanged)
+  Q_PROPERTY(bool showsButtonKeys READ showsButtonKeys NOTIFY showsButtonKeysChanged)
   Q_PROPERTY(QString details READ details NOTIFY contentChanged)
   Q_PROPERTY(QString iconPath READ iconPath NOTIFY footerChanged)
   Q_PROPERTY(QString appName READ appName NOTIFY footerChanged)
@@ -45,6 +50,9 @@ class PreviewModel final : public QObject {
   struct Collaborators {
     PreviewViewModel& preview;
     OculetCopying& copying;
+    OculetButtons& buttons;
+    /// Whether the key is held that presses the buttons together with a digit.
+    foundation::Published<bool>& isOptionPressed;
     defaults::Defaults& defaults;
     foundation::BackgroundQueue& backgroundQueue;
     foundation::RunLoop& runLoop;
@@ -62,6 +70,8 @@ class PreviewModel final : public QObject {
   [[nodiscard]] QImage picture() const { return m_picture; }
   /// The picture's height by its width, known before it is decoded; 0 when there is no picture.
   [[nodiscard]] qreal pictureAspect() const { return m_pictureAspect; }
+  /// Whether the item is a picture that is damaged or too large.
+  [[nodiscard]] bool isPictureUnreadable() const { return m_isPictureUnreadable; }
   /// Maps of "label", a text's key, and "value"; empty when there is no such result.
   [[nodiscard]] QVariantList dateRows() const { return m_dateRows; }
   [[nodiscard]] QVariantList colorRows() const { return m_colorRows; }
@@ -72,6 +82,9 @@ class PreviewModel final : public QObject {
   /// What is selected of a value in a panel. Only one of it and `selection` isn't empty.
   [[nodiscard]] QString selectedValue() const { return m_selectedValue; }
   void setSelectedValue(const QString& value);
+  /// The copy button that shows that it has just copied, as `OculetButtons` numbers them; -1 for none.
+  [[nodiscard]] int copiedButton() const;
+  [[nodiscard]] bool showsButtonKeys() const { return m_with.isOptionPressed.value(); }
   [[nodiscard]] QString details() const;
   /// The source application's desktop entry; empty when there is none.
   [[nodiscard]] QString iconPath() const;
@@ -80,9 +93,7 @@ class PreviewModel final : public QObject {
   [[nodiscard]] QString pasteCount() const;
   [[nodiscard]] bool showScrollbar() const { return m_showScrollbar; }
 
-  Q_INVOKABLE void copy(const QString& text);
-  Q_INVOKABLE void copyBeautifiedJson();
-  Q_INVOKABLE void copyMinifiedJson();
+  Q_INVOKABLE void pressCopyButton(int button);
   Q_INVOKABLE void showAppearanceSettings() { m_with.showAppearanceSettings(); }
 
   /// False, and nothing is copied, while nothing is selected.
@@ -98,6 +109,8 @@ class PreviewModel final : public QObject {
   void footerChanged();
   void showScrollbarChanged();
   void selectedValueChanged();
+  void copiedButtonChanged();
+  void showsButtonKeysChanged();
   /// By pages down, or up when negative.
   void scrollRequested(int pages);
 
@@ -105,7 +118,6 @@ class PreviewModel final : public QObject {
   void takeItem(const PreviewViewModel::Item& item);
   void takeContent(const PreviewContent& content);
   void takePicture(const QImage& picture);
-  void copyJson(JsonForm form);
 
   Collaborators m_with;
   std::unique_ptr<TextPiecesModel> m_text;
@@ -115,6 +127,7 @@ class PreviewModel final : public QObject {
   QVariantList m_colorRows;
   QImage m_picture;
   qreal m_pictureAspect = 0;
+  bool m_isPictureUnreadable = false;
   bool m_showScrollbar = true;
   LatestWork m_decoding;
   std::vector<foundation::Subscription> m_subscriptions;

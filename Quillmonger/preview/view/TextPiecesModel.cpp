@@ -1,5 +1,7 @@
 #include "Quillmonger/preview/view/TextPiecesModel.h"
 
+#include <utility>
+
 #include "Quillmonger/history/view/RowLine.h"
 
 namespace quillmonger {
@@ -15,7 +17,7 @@ QVariant TextPiecesModel::data(const QModelIndex& index, int role) const {
   if (!isLast && text.endsWith(u'\n')) text.chop(1);
   for (QChar& character : text)
     if (character != u'\n' && character != u'\t') character = controlPicture(character);
-  return text;
+  return withWholeEmoji(std::move(text));
 }
 
 QHash<int, QByteArray> TextPiecesModel::roleNames() const { return {{pieceRole, "piece"}}; }

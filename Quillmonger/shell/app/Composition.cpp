@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QDBusConnection>
-#include <QDesktopServices>
 #include <QFile>
 #include <algorithm>
 #include <utility>
@@ -11,7 +10,9 @@
 #include "Foundation/Output.h"
 #include "Platform/freedesktop/PasteboardTypeTable.h"
 #include "Platform/freedesktop/SystemLog.h"
+#include "Platform/qt/XdgOpen.h"
 #include "Platform/sound/SoundProcess.h"
+#include "Quillmonger/capture/PasteboardTypes.h"
 #include "Quillmonger/resources/Texts.h"
 #include "Quillmonger/shell/command/CommandSyntax.h"
 
@@ -54,10 +55,6 @@ std::string pasteboardType(const std::string& mimeType) {
   return entry != nullptr ? std::string(entry->type) : mimeType;
 }
 
-void openUrl(const foundation::Url& url) {
-  QDesktopServices::openUrl(QUrl(QString::fromStdString(url.absoluteString())));
-}
-
 }  // namespace
 
 Composition::Composition(const platform::XdgFolders& folders, const std::vector<std::string>& arguments)
@@ -85,14 +82,21 @@ Composition::Composition(const platform::XdgFolders& folders, const std::vector<
       m_motion(m_desktopPreferences, *m_windowSystem),
       m_views(
           m_defaults, *m_windowSystem, [this](const std::string& path) { return iconOf(path); },
-          {m_installedApplications, m_backgroundQueue, m_runLoop}, m_notificationCenter),
+          {m_installedApplications, m_backgroundQueue, m_runLoop}, m_notificationCenter,
+          [this](const foundation::Url& url) { m_opening.open(url); }),
+      m_opening({platform::xdgOpen, m_views.alert(), localizedText, m_runLoop,
+                 [this](const std::string& text) { copyText(text); }}),
       m_statusBar(QDBusConnection::sessionBus(), [](const std::string& name) { return resourcePlace(name, "svg"); }),
-      m_updates({m_defaults, m_runLoop, m_views.updateModel(), m_views.updateWindow(), folders.cache / "updates"}),
+      m_updates(
+          {m_defaults, m_runLoop, m_views.updateModel(), m_views.updateWindow(), m_opening, folders.cache / "updates"}),
       m_autostartEntry(folders.configSearch, QCoreApplication::applicationFilePath().toStdString()),
       m_launchAtLogin(m_autostartEntry,
                       [](const std::string& message) { platform::logError("LaunchAtLogin", message); }),
-      m_dialogManager(m_views.alert(), localizedText, openUrl, supportAddress),
-      m_permissionsManager(m_postEventAccess, m_views.alert(), localizedText, openUrl, m_runLoop),
+      m_dialogManager(
+          m_views.alert(), localizedText, [this](const foundation::Url& url) { m_opening.open(url); }, supportAddress),
+      m_permissionsManager(
+          m_postEventAccess, m_views.alert(), localizedText,
+          [this](const foundation::Url& url) { m_opening.open(url); }, m_runLoop),
       m_contextProvider(m_dialogManager, folders.data, m_runLoop),
       m_shortcuts(*m_hotKeys, m_desktopShortcuts, m_userDefaults, m_notificationCenter),
       m_root({m_runLoop,
@@ -127,7 +131,7 @@ Composition::Composition(const platform::XdgFolders& folders, const std::vector<
               platform::SoundProcess::factory(soundPlayer())}),
       m_commandLine(commandOperations(), m_root.commandedHistory(), m_defaults) {
   m_views.follow(m_desktopPreferences, m_motion);
-  m_views.feed(m_root, *m_pasteboard,
+  m_views.feed(m_root, *m_pasteboard, m_eventMonitor,
                {m_launchAtLogin, m_updates.updater(), m_shortcuts, *m_inputSources, m_recordedEvents,
                 [this] { m_windowSystem->beep(); }});
   m_resigning = m_application.onDidResignActive([this] { m_root.applicationDidResignActive(); });
@@ -149,6 +153,11 @@ bool Composition::isTerminal(const std::string& windowClass) const {
 std::optional<std::string> Composition::iconOf(const std::string& path) const {
   const auto entry = m_desktopEntries.at(foundation::Url::fromFilePath(path));
   return entry ? std::optional(entry->icon) : std::nullopt;
+}
+
+void Composition::copyText(const std::string& text) {
+  m_pasteboard->clearContents();
+  m_pasteboard->setString(text, pasteboardtype::NSPasteboardTypeString);
 }
 
 void Composition::launch(const std::vector<std::string>& arguments) {

@@ -37,6 +37,7 @@
 #include "Quillmonger/capture/ContextProvider.h"
 #include "Quillmonger/shell/DesktopMotion.h"
 #include "Quillmonger/shell/DialogManager.h"
+#include "Quillmonger/shell/OutsideOpening.h"
 #include "Quillmonger/shell/PermissionsManager.h"
 #include "Quillmonger/shell/Quillmonger.h"
 #include "Quillmonger/shell/app/Updates.h"
@@ -64,6 +65,7 @@ class Composition final {
  private:
   [[nodiscard]] bool isTerminal(const std::string& windowClass) const;
   [[nodiscard]] std::optional<std::string> iconOf(const std::string& path) const;
+  void copyText(const std::string& text);
   [[nodiscard]] CommandLine::Operations commandOperations();
   void listenToCommands();
   void tellServices() const;
@@ -97,6 +99,7 @@ class Composition final {
   platform::PortalPreferences m_desktopPreferences;
   DesktopMotion m_motion;
   Views m_views;
+  OutsideOpening m_opening;
   platform::StatusNotifierBar m_statusBar;
   Updates m_updates;
   platform::AutostartEntry m_autostartEntry;

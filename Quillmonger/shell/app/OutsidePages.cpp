@@ -1,44 +1,36 @@
 #include "Quillmonger/shell/app/OutsidePages.h"
 
 #include <QCoreApplication>
-#include <QDesktopServices>
+#include <QDir>
 #include <QFileInfo>
-#include <QUrl>
-
-#include "Foundation/Output.h"
 
 namespace quillmonger {
 
 namespace {
 
-// Beside the program, as it is built, or where an installed program has its documentation.
-QUrl acknowledgements() {
-  const QString folder = QCoreApplication::applicationDirPath();
-  for (const char* place : {"/acknowledgements.html", "/../../share/doc/quillmonger/acknowledgements.html"}) {
-    const QFileInfo file(folder + QLatin1String(place));
-    if (file.isFile()) return QUrl::fromLocalFile(file.canonicalFilePath());
-  }
-  return {};
-}
+foundation::Url fileUrl(const QString& path) { return foundation::Url::fromFilePath(path.toStdString()); }
 
-QUrl address(AboutModel::Page page) {
-  switch (page) {
-    case AboutModel::Page::privacy:
-      return QUrl(QStringLiteral("https://quillmonger.example/privacy"));
-    case AboutModel::Page::acknowledgements:
-      return acknowledgements();
-    case AboutModel::Page::website:
-      return QUrl(QStringLiteral("https://quillmonger.example/"));
-  }
-  return {};
+// Beside the program, as it is built, or where an installed program has its documentation.
+foundation::Url acknowledgements() {
+  const QFileInfo built(QCoreApplication::applicationDirPath() + QStringLiteral("/acknowledgements.html"));
+  if (built.isFile()) return fileUrl(built.canonicalFilePath());
+  const QFileInfo installed(QCoreApplication::applicationDirPath() +
+                            QStringLiteral("/../../share/doc/quillmonger/acknowledgements.html"));
+  return fileUrl(QDir::cleanPath(installed.filePath()));
 }
 
 }  // namespace
 
-void openOutsidePage(AboutModel::Page page) {
-  const QUrl url = address(page);
-  if (url.isEmpty() || !QDesktopServices::openUrl(url))
-    foundation::printLine("unable to open the page: ", url.toString().toStdString());
+foundation::Url outsidePage(AboutModel::Page page) {
+  switch (page) {
+    case AboutModel::Page::acknowledgements:
+      return acknowledgements();
+    case AboutModel::Page::privacy:
+      return *foundation::Url::parse("https://quillmonger.example/privacy");
+    case AboutModel::Page::website:
+      break;
+  }
+  return *foundation::Url::parse("https://quillmonger.example/");
 }
 
 }  // namespace quillmonger

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "Foundation/Url.h"
 #include "Quillmonger/settings/view/AboutModel.h"
 
 namespace quillmonger {
 
-/// Opens a page in the user's browser. What is not installed, or can't be shown, is told on standard output. Main
-/// thread.
-void openOutsidePage(AboutModel::Page page);
+/// The address of a page. Main thread.
+[[nodiscard]] foundation::Url outsidePage(AboutModel::Page page);
 
 }  // namespace quillmonger

@@ -19,10 +19,12 @@ PreviewFeed::PreviewFeed(Quillmonger& root, const Services& services)
                    services.defaults, root.oculetManager(), localizedText, services.backgroundQueue, services.runLoop}),
       m_copying({[&root](const foundation::Data& text) { root.clipboardManager().writeToPasteboard(text); },
                  [&alert = services.alert] { tellFailedCopy(alert); }, services.backgroundQueue, services.runLoop}),
-      m_model({m_viewModel, m_copying, services.defaults, services.backgroundQueue, services.runLoop,
+      m_buttons({m_viewModel, m_copying, services.eventMonitoring, services.runLoop}),
+      m_model({m_viewModel, m_copying, m_buttons, root.clipboardViewModel().isOptionPressed(), services.defaults,
+               services.backgroundQueue, services.runLoop,
                [&root] { root.windowManager().showSettingsWindow(WindowManager::SettingsPane::appearance); }}),
       m_opening({root.clipboardViewModel().selectedItem(), services.notificationCenter, services.defaults,
                  services.inspection, [&root] { return root.windowManager().isAppWindowVisible(); },
-                 [&root](double /*padding*/) { root.windowManager().showPreviewWindow(); }}) {}
+                 [&root] { root.windowManager().showPreviewWindow(); }}) {}
 
 }  // namespace quillmonger

@@ -4,6 +4,7 @@
 #include "Foundation/BackgroundQueue.h"
 #include "Foundation/NotificationCenter.h"
 #include "Foundation/RunLoop.h"
+#include "Quillmonger/preview/OculetButtons.h"
 #include "Quillmonger/preview/OculetCopying.h"
 #include "Quillmonger/preview/PreviewOpening.h"
 #include "Quillmonger/preview/PreviewViewModel.h"
@@ -21,6 +22,7 @@ class PreviewFeed final {
     defaults::Defaults& defaults;
     foundation::BackgroundQueue& backgroundQueue;
     foundation::RunLoop& runLoop;
+    LocalEventMonitoring& eventMonitoring;
     ItemInspection& inspection;
     Alert& alert;
   };
@@ -33,6 +35,7 @@ class PreviewFeed final {
  private:
   PreviewViewModel m_viewModel;
   OculetCopying m_copying;
+  OculetButtons m_buttons;
   PreviewModel m_model;
   PreviewOpening m_opening;
 };

@@ -1,8 +1,6 @@
 #include "Quillmonger/shell/app/Updates.h"
 
 #include <QCoreApplication>
-#include <QDesktopServices>
-#include <QUrl>
 #include <optional>
 #include <string>
 
@@ -26,10 +24,6 @@ std::optional<UpdateFeed> installedFeed() {
   return text ? UpdateFeed::parse(*text) : std::nullopt;
 }
 
-bool openFile(const std::filesystem::path& file) {
-  return QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(file.string())));
-}
-
 }  // namespace
 
 class Updates::Configured final {
@@ -38,7 +32,11 @@ class Updates::Configured final {
       : m_service({besideProgram("quillmonger-update"), feed, QCoreApplication::applicationVersion().toStdString(),
                    with.folder}),
         m_window(with.model, with.window),
-        m_updater({with.defaults, with.runLoop, m_service, m_window, openFile}) {
+        m_updater({with.defaults, with.runLoop, m_service, m_window,
+                   [&opening = with.opening, &runLoop = with.runLoop](const auto& file, const auto& failed) {
+                     opening.open(foundation::Url::fromFilePath(file.string()),
+                                  [&runLoop, failed] { runLoop.post(failed); });
+                   }}) {
     with.model.answered = [this](UpdateContent::Answer answer) { take(answer); };
   }
 

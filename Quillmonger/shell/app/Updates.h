@@ -5,6 +5,7 @@
 
 #include "Defaults/Defaults.h"
 #include "Foundation/RunLoop.h"
+#include "Quillmonger/shell/OutsideOpening.h"
 #include "Quillmonger/shell/windows/Panel.h"
 #include "Quillmonger/update/UnconfiguredUpdater.h"
 #include "Quillmonger/update/view/UpdateModel.h"
@@ -19,6 +20,7 @@ class Updates final {
     foundation::RunLoop& runLoop;
     UpdateModel& model;
     Panel& window;
+    OutsideOpening& opening;
     /// Where downloads are stored.
     std::filesystem::path folder;
   };

@@ -42,7 +42,8 @@ std::string presentText(const Pasteboard& pasteboard) {
 }  // namespace
 
 Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCache::IconNaming iconNaming,
-             const AppPickerViewModel::Collaborators& applications, foundation::NotificationCenter& notificationCenter)
+             const AppPickerViewModel::Collaborators& applications, foundation::NotificationCenter& notificationCenter,
+             const UrlOpener& openUrl)
     : m_defaults(defaults),
       m_backgroundQueue(applications.backgroundQueue),
       m_runLoop(applications.runLoop),
@@ -51,7 +52,8 @@ Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCach
       m_appearance(defaults),
       m_inspection(applications.backgroundQueue, applications.runLoop),
       m_historySettings(defaults),
-      m_aboutModel(QCoreApplication::applicationVersion(), openOutsidePage),
+      m_aboutModel(QCoreApplication::applicationVersion(),
+                   [openUrl](AboutModel::Page page) { openUrl(outsidePage(page)); }),
       m_updateModel(QCoreApplication::applicationVersion().toStdString()),
       m_alert([this]() -> QQmlEngine& { return engine(); }, m_appearance),
       m_appWindow({platform::QtQuickWindow::Kind::palette, appWindowSize, QStringLiteral("Quillmonger"),
@@ -78,7 +80,8 @@ Views::Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCach
       m_appPicker({applications, m_appearance, [this]() -> QQmlEngine& { return engine(); },
                    [this]() -> QWindow* { return m_settings.view(); }, [this] { return m_clipboardText(); }}) {}
 
-void Views::feed(Quillmonger& root, const Pasteboard& pasteboard, const PanedSettings::Services& services) {
+void Views::feed(Quillmonger& root, const Pasteboard& pasteboard, LocalEventMonitoring& eventMonitoring,
+                 const PanedSettings::Services& services) {
   ClipboardViewModel& history = root.clipboardViewModel();
   m_clipboardText = [&pasteboard] { return presentText(pasteboard); };
   m_settings.feed(root, services);
@@ -86,9 +89,9 @@ void Views::feed(Quillmonger& root, const Pasteboard& pasteboard, const PanedSet
       ClipboardViewAdapter::History{history.filteredItems(), history.selectedItem(), history.isOptionPressed(),
                                     [&history] { return history.items().empty(); },
                                     [&history](const auto& item) { history.select(item); }, m_inspection});
-  m_previewFeed = std::make_unique<PreviewFeed>(
-      root,
-      PreviewFeed::Services{m_notificationCenter, m_defaults, m_backgroundQueue, m_runLoop, m_inspection, m_alert});
+  m_previewFeed =
+      std::make_unique<PreviewFeed>(root, PreviewFeed::Services{m_notificationCenter, m_defaults, m_backgroundQueue,
+                                                                m_runLoop, eventMonitoring, m_inspection, m_alert});
   m_searchBarModel = std::make_unique<SearchBarModel>(
       root.searchViewModel().searchTerm(), m_defaults, m_clipboardText,
       SearchBarModel::Preview{[&root] { root.windowManager().togglePreviewWindow(); },

@@ -16,6 +16,7 @@
 #include "Quillmonger/settings/panes/AppPickerViewModel.h"
 #include "Quillmonger/settings/view/AboutModel.h"
 #include "Quillmonger/settings/view/AppPickerWindow.h"
+#include "Quillmonger/shell/DialogManager.h"
 #include "Quillmonger/shell/Quillmonger.h"
 #include "Quillmonger/shell/app/GuideFeed.h"
 #include "Quillmonger/shell/app/PanedSettings.h"
@@ -33,7 +34,8 @@ class Views final {
  public:
   /// All that is named here outlives the views.
   Views(defaults::Defaults& defaults, WindowSystem& windowSystem, ImageCache::IconNaming iconNaming,
-        const AppPickerViewModel::Collaborators& applications, foundation::NotificationCenter& notificationCenter);
+        const AppPickerViewModel::Collaborators& applications, foundation::NotificationCenter& notificationCenter,
+        const UrlOpener& openUrl);
 
   /// Heeds what the user has told the desktop. Both outlive the views.
   void follow(DesktopPreferences& desktop, const MotionPreference& motion) {
@@ -51,7 +53,8 @@ class Views final {
   [[nodiscard]] Alert& alert() { return m_alert; }
 
   /// Before the first window is shown. All of it is there until `close`.
-  void feed(Quillmonger& root, const Pasteboard& pasteboard, const PanedSettings::Services& services);
+  void feed(Quillmonger& root, const Pasteboard& pasteboard, LocalEventMonitoring& eventMonitoring,
+            const PanedSettings::Services& services);
   /// Lets go of everything that `feed` gave. The windows stay, without content, for those that hold them.
   void close();
 

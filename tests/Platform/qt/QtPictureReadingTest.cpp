@@ -4,6 +4,7 @@
 
 #include <QBuffer>
 #include <QImage>
+#include <QImageReader>
 #include <algorithm>
 #include <string>
 
@@ -52,6 +53,18 @@ TEST(QtPictureReading, DrawsOverAllPixels) {
     EXPECT_EQ(pixels->size(), 400U);
     EXPECT_TRUE(std::ranges::all_of(*pixels, [](std::uint32_t pixel) { return pixel == 0xFFFFFFFF; })) << format;
   }
+}
+
+TEST(QtPictureReading, DrawsAJpegPictureThatWouldNotFitIntoTheMemory) {
+  const platform::QtPictureReading reading;
+  const auto picture = encoded(filled(1000, 1000, Qt::white), "JPG");
+  QImageReader::setAllocationLimit(1);
+
+  const auto pixels = reading.pixels(picture, 20);
+
+  QImageReader::setAllocationLimit(platform::QtPictureReading::allocationLimitInMegabytes);
+  ASSERT_TRUE(pixels);
+  EXPECT_TRUE(std::ranges::all_of(*pixels, [](std::uint32_t pixel) { return pixel == 0xFFFFFFFF; }));
 }
 
 TEST(QtPictureReading, PremultipliesWhatIsTransparent) {

@@ -37,9 +37,10 @@ class FeedUpdater : public testing::Test {
   Names opened;
   bool opens = true;
   std::unique_ptr<Updater> owned = std::make_unique<Updater>(
-      Updater::Collaborators{settings, runLoop, service, window, [this](const std::filesystem::path& file) {
+      Updater::Collaborators{settings, runLoop, service, window,
+                             [this](const std::filesystem::path& file, const std::function<void()>& failed) {
                                opened.push_back(file.string());
-                               return opens;
+                               if (!opens) runLoop.post(failed);
                              }});
   Updater& updater = *owned;
 };
@@ -86,7 +87,7 @@ TEST_F(FeedUpdater, RemembersTheLastCheckFromRunToRun) {
   updater.startUpdater();
   passFirstDelay();
   service.answer(std::nullopt);
-  Updater next({settings, runLoop, service, window, [](const auto&) { return true; }});
+  Updater next({settings, runLoop, service, window, [](const auto&, const auto&) {}});
 
   owned.reset();
   next.startUpdater();
@@ -440,10 +441,25 @@ TEST_F(FeedUpdater, TellsWhenNoProgramOpensTheFile) {
   service.deliver(std::filesystem::path("/cache/2.0.deb"));
 
   updater.install();
+  runLoop.runPosted();
 
   EXPECT_EQ(stage(), Stage::failed);
   EXPECT_EQ(window.status().failure, UpdateFailure::notOpened);
   EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(FeedUpdater, LeavesAnOpenedFilesFailureAloneOnceItChecksAgain) {
+  opens = false;
+  updater.checkForUpdates();
+  service.answer(updateTo("2.0"));
+  updater.download();
+  service.deliver(std::filesystem::path("/cache/2.0.deb"));
+  updater.install();
+
+  updater.checkForUpdates();
+  runLoop.runPosted();
+
+  EXPECT_EQ(stage(), Stage::checking);
 }
 
 TEST_F(FeedUpdater, TellsWhyADownloadFailed) {

@@ -7,6 +7,7 @@
 #include <chrono>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "Quillmonger/guide/view/VideoPicture.h"
@@ -382,6 +383,28 @@ TEST_F(GettingStartedView, EveryTextHasItsPlaceOnEveryScreen) {
     expectNoOverlap(m_stage);
     m_stage.guide().showNext();
   }
+}
+
+TEST_F(GettingStartedView, ShowsByThePointerWhereItIsResized) {
+  const QSize size = m_stage.view().size();
+  const int right = size.width() - 2;
+  const int bottom = size.height() - 2;
+  const std::vector<std::pair<QPoint, Qt::CursorShape>> places{
+      {{2, 300}, Qt::SizeHorCursor},      {{right, 300}, Qt::SizeHorCursor},  {{300, 2}, Qt::SizeVerCursor},
+      {{300, bottom}, Qt::SizeVerCursor}, {{2, 2}, Qt::SizeFDiagCursor},      {{right, bottom}, Qt::SizeFDiagCursor},
+      {{right, 2}, Qt::SizeBDiagCursor},  {{2, bottom}, Qt::SizeBDiagCursor}, {{12, 12}, Qt::SizeFDiagCursor},
+      {{20, 20}, Qt::ArrowCursor},        {{20, 300}, Qt::ArrowCursor},
+  };
+
+  for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+    QGuiApplication::setLayoutDirection(direction);
+    for (const auto& [place, shape] : places) {
+      QTest::mouseMove(&m_stage.view(), place);
+      QCoreApplication::processEvents();
+      EXPECT_EQ(m_stage.view().cursor().shape(), shape) << place.x() << "," << place.y();
+    }
+  }
+  QGuiApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 }  // namespace

@@ -57,6 +57,16 @@ TEST_F(HistoryRow, ShowsEmojiInColourAsOneWithAllThatBelongsToThem) {
   EXPECT_EQ(lines.at(2)->implicitWidth(), lines.at(1)->implicitWidth());
 }
 
+TEST_F(HistoryRow, ShowsAFlagOfSeveralCharactersAsOneGlyph) {
+  if (quillmonger::colourEmojiFamily().isEmpty()) GTEST_SKIP() << "no font here has emoji in colour";
+  m_stage.show({m_stage.makeItem("👍"), m_stage.makeItem("\U0001F3F3\uFE0F\u200D\U0001F308")});
+  m_stage.picture();
+
+  const auto lines = m_stage.findAll("ClipboardItemText");
+
+  EXPECT_EQ(lines.at(1)->implicitWidth(), lines.at(0)->implicitWidth());
+}
+
 TEST_F(HistoryRow, ShowsAGradientOfAPicturesColourInTheTextsPlace) {
   showRedPicture();
   m_stage.finishWork();

@@ -4,14 +4,16 @@
 
 #include <QBuffer>
 #include <QByteArray>
+#include <QImageReader>
+#include <QStringList>
 #include <string>
 
 namespace {
 
 using quillmonger::decodePicture;
 
-foundation::Data encoded(const QSize& size, const char* format) {
-  QImage image(size, QImage::Format_RGB32);
+foundation::Data encoded(const QSize& size, const char* format, QImage::Format pixels = QImage::Format_RGB32) {
+  QImage image(size, pixels);
   image.fill(QColor(10, 200, 30));
   QByteArray bytes;
   QBuffer buffer(&bytes);
@@ -64,6 +66,41 @@ TEST(PictureDecoding, RefusesOtherFormatsUnderTheNameOfAPicture) {
 TEST(PictureDecoding, RefusesAPictureThatClaimsAGiantSize) {
   EXPECT_TRUE(decodePicture(claiming(60'000, 60'000), 332).isNull());
   EXPECT_TRUE(decodePicture(claiming(2'000'000'000, 1), 332).isNull());
+}
+
+class WithLittleMemory : public testing::Test {
+ protected:
+  WithLittleMemory() { QImageReader::setAllocationLimit(1); }
+  ~WithLittleMemory() override {
+    qInstallMessageHandler(m_handlerBefore);
+    QImageReader::setAllocationLimit(m_limitBefore);
+  }
+
+  static inline QStringList complaints;
+
+ private:
+  int m_limitBefore = QImageReader::allocationLimit();
+  QtMessageHandler m_handlerBefore = qInstallMessageHandler(
+      [](QtMsgType, const QMessageLogContext&, const QString& message) { complaints.append(message); });
+};
+
+TEST_F(WithLittleMemory, ReadsWhatJustFits) {
+  EXPECT_EQ(decodePicture(encoded({512, 512}, "PNG"), 100).size(), QSize(100, 100));
+}
+
+TEST_F(WithLittleMemory, RefusesWhatWouldNotFitBeforeItsReaderDoes) {
+  complaints.clear();
+
+  EXPECT_TRUE(decodePicture(encoded({512, 513}, "PNG"), 100).isNull());
+  EXPECT_TRUE(decodePicture(encoded({512, 513}, "PNG", QImage::Format_Grayscale8), 100).isNull());
+  EXPECT_TRUE(decodePicture(encoded({362, 363}, "PNG", QImage::Format_RGBA64), 100).isNull());
+  EXPECT_TRUE(decodePicture(encoded({512, 513}, "TIFF"), 100).isNull());
+
+  EXPECT_EQ(complaints, QStringList());
+}
+
+TEST_F(WithLittleMemory, ReadsALargerJpegPictureScaledDown) {
+  EXPECT_EQ(decodePicture(encoded({2000, 2000}, "JPG"), 100).size(), QSize(100, 100));
 }
 
 TEST(PictureDecoding, RefusesACutOffPicture) {

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QTest>
 
+#include "Quillmonger/input/Action.h"
 #include "tests/gallery/PreviewStage.h"
 #include "tests/support/InLocale.h"
 #include "tests/support/InTimeZone.h"
@@ -109,6 +111,63 @@ TEST_F(PreviewPanels, CopyTheValueBesideTheButton) {
   press(1);
 
   EXPECT_EQ(m_stage.copies(), std::vector<std::string>{"2023-11-14T22:13:20Z"});
+}
+
+TEST_F(PreviewPanels, CopyByTheChordOfTheButton) {
+  show("#ff8000");
+
+  EXPECT_TRUE(m_stage.keyboard().press(quillmonger::quickPasteKeyCodes.at(0), quillmonger::optionFlag));
+  m_stage.load();
+
+  EXPECT_EQ(m_stage.copies(),
+            std::vector<std::string>{m_stage.findAll("OculetValue").at(0)->property("text").toString().toStdString()});
+}
+
+TEST_F(PreviewPanels, TickTheButtonThatHasCopiedWhetherByKeyOrPointer) {
+  const auto symbols = [this] {
+    std::vector<std::string> names;
+    for (QQuickItem* button : m_stage.findAll("CopyButton"))
+      names.push_back(button->property("symbol").toString().toStdString());
+    return names;
+  };
+  show("1700000000");
+  EXPECT_EQ(symbols(), (std::vector<std::string>{"doc.on.doc", "doc.on.doc", "doc.on.doc"}));
+
+  press(0);
+  EXPECT_EQ(symbols(), (std::vector<std::string>{"checkmark", "doc.on.doc", "doc.on.doc"}));
+
+  m_stage.keyboard().press(quillmonger::quickPasteKeyCodes.at(2), quillmonger::optionFlag);
+  m_stage.load();
+  EXPECT_EQ(symbols(), (std::vector<std::string>{"doc.on.doc", "doc.on.doc", "checkmark"}));
+}
+
+TEST_F(PreviewPanels, ShowTheChordsWhileTheirKeyIsHeld) {
+  for (const char* text : {"1700000000", "#ff8000", "{\"a\": 1}"}) {
+    show(text);
+    EXPECT_TRUE(m_stage.findAll("CopyButtonKey").empty()) << text;
+
+    m_stage.setOptionPressed(true);
+
+    const auto keys = textsOf("CopyButtonKey");
+    ASSERT_EQ(keys.size(), m_stage.findAll("CopyButton").size()) << text;
+    for (std::size_t button = 0; button < keys.size(); ++button)
+      EXPECT_EQ(keys.at(button), "Alt+" + std::to_string(button + 1)) << text;
+    m_stage.setOptionPressed(false);
+  }
+}
+
+TEST_F(PreviewPanels, TellTheChordToAssistivePrograms) {
+  show("{\"a\": 1}");
+
+  QQuickItem* button = m_stage.findAll("CopyButton").at(1);
+  QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(button);
+  ASSERT_NE(accessible, nullptr);
+  EXPECT_EQ(accessible->text(QAccessible::Name).toStdString(), "Copy Minified JSON");
+  EXPECT_EQ(accessible->text(QAccessible::Description).toStdString(), "Alt+2");
+
+  press(1);
+
+  EXPECT_EQ(accessible->text(QAccessible::Description).toStdString(), "Copied");
 }
 
 TEST_F(PreviewPanels, CopyJsonAsTheButtonSays) {

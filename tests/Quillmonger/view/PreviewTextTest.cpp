@@ -154,6 +154,18 @@ TEST_F(PreviewText, CopiesAllOfItWhenAllIsSelected) {
   EXPECT_EQ(m_stage.copies()[0] + "\n", text);
 }
 
+TEST_F(PreviewText, ShowsAFlagOfSeveralCharactersAsOneAndCopiesAllOfThem) {
+  const std::string flag = "\U0001F3F3\uFE0F\u200D\U0001F308";
+  show(flag + " flag");
+  EXPECT_EQ(m_stage.find("TextPiece")->property("text").toString(),
+            QStringLiteral("\U0001F3F3\u200D\u200D\U0001F308 flag"));
+
+  m_stage.model().selectAll();
+  EXPECT_TRUE(copy());
+
+  EXPECT_EQ(m_stage.copies(), std::vector<std::string>{flag + " flag"});
+}
+
 TEST_F(PreviewText, CopiesNothingWhileNothingIsSelected) {
   show("text");
 

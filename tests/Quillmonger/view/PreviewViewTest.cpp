@@ -128,8 +128,28 @@ TEST_F(PreviewView, ShowsTheFactsButNoPictureWhenItCannotBeDecoded) {
   show(m_stage.makeItem("broken", "public.png"));
 
   EXPECT_EQ(m_stage.find("PreviewPicture"), nullptr);
+  EXPECT_NE(m_stage.find("UnreadablePictureNotice"), nullptr);
   EXPECT_NE(m_stage.find("FadingTextView"), nullptr);
-  EXPECT_NE(m_stage.find("PreviewFooter"), nullptr);
+  EXPECT_EQ(textOf("PreviewDetails"), "6 bytes • 100×100");
+}
+
+TEST_F(PreviewView, SaysSoWhenNotEvenTheSizeOfAPictureCanBeRead) {
+  show(m_stage.makeItem("broken", "public.png"));
+
+  EXPECT_NE(m_stage.find("UnreadablePictureNotice"), nullptr);
+
+  show(m_stage.makeItem("text"));
+
+  EXPECT_EQ(m_stage.find("UnreadablePictureNotice"), nullptr);
+}
+
+TEST_F(PreviewView, SaysNothingOfAPictureThatIsStillBeingRead) {
+  m_stage.select(m_stage.makePicture(100, 100));
+  EXPECT_EQ(m_stage.find("UnreadablePictureNotice"), nullptr);
+
+  m_stage.load();
+
+  EXPECT_EQ(m_stage.find("UnreadablePictureNotice"), nullptr);
 }
 
 TEST_F(PreviewView, ShowsNoPictureThatIsNoLongerSelected) {
