@@ -19,8 +19,8 @@ int levelOf(const QWindow* window) { return window->property(levelProperty).toIn
 // The display has been told of the window before it hears anything of it over another connection.
 void settleOwnConnection() {
   const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-  if (x11 == nullptr) return;
-  xcb_connection_t* connection = x11->connection();
+  xcb_connection_t* connection = x11 != nullptr ? x11->connection() : nullptr;
+  if (connection == nullptr) return;
   std::free(xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
 }
 
