@@ -52,7 +52,7 @@ class Loader final {
 
   LoadedStore load() {
     LoadedStore store;
-    m_hasPayload = m_payloads.step();
+    stepPayload();
     while (m_items.step()) {
       const std::int64_t key = m_items.integer(0);
       require(key > 0, "a record's key");
@@ -60,15 +60,18 @@ class Loader final {
       store.entries.push_back({key, std::make_shared<ClipboardItem>(std::move(payload), attributes())});
       store.greatestKey = key;
     }
-    require(!m_hasPayload, "a value without a record");
+    require(!m_payloadKey, "a value without a record");
     store.blobReferences = std::move(m_references);
-    std::ranges::stable_sort(store.entries, {}, [](const auto& entry) { return entry.record->creationDate(); });
+    // Most often they are written in the order in which they were made.
+    const auto date = [](const auto& entry) { return entry.record->creationDate(); };
+    if (!std::ranges::is_sorted(store.entries, {}, date)) std::ranges::stable_sort(store.entries, {}, date);
     return store;
   }
 
  private:
   ClipboardItem::Attributes attributes() const {
-    require(isDigest(m_items.text(2)), "a digest");
+    const std::string_view digest = m_items.text(2);
+    require(isDigest(digest), "a digest");
     std::optional<std::string> identifier;
     if (!m_items.isNull(3)) identifier = m_items.text(3);
     std::optional<foundation::Url> url;
@@ -77,7 +80,7 @@ class Loader final {
       require(url.has_value(), "a location");
     }
     return {foundation::Uuid(fixedBytes<foundation::Uuid::Bytes>(m_items.blob(1), "an identity")),
-            std::string(m_items.text(2)),
+            std::string(digest),
             std::move(identifier),
             std::move(url),
             dateFrom(m_items.integer(5)),
@@ -86,13 +89,15 @@ class Loader final {
 
   Payload takePayload(std::int64_t key) {
     Payload payload;
-    while (m_hasPayload && m_payloads.integer(0) <= key) {
-      require(m_payloads.integer(0) == key, "a value without a record");
+    while (m_payloadKey && *m_payloadKey <= key) {
+      require(*m_payloadKey == key, "a value without a record");
       payload.emplace_hint(payload.end(), m_payloads.text(1), value());
-      m_hasPayload = m_payloads.step();
+      stepPayload();
     }
     return payload;
   }
+
+  void stepPayload() { m_payloadKey = m_payloads.step() ? std::optional(m_payloads.integer(0)) : std::nullopt; }
 
   std::optional<Data> value() {
     const bool isInline = !m_payloads.isNull(2);
@@ -139,7 +144,7 @@ class Loader final {
   SqliteStatement m_items;
   SqliteStatement m_payloads;
   SqliteStatement m_chunks;
-  bool m_hasPayload = false;
+  std::optional<std::int64_t> m_payloadKey;  // of the value that is read next
   std::map<std::int64_t, std::int64_t> m_references;
   std::map<std::int64_t, std::optional<Data>> m_values;
 };
