@@ -19,8 +19,8 @@ int levelOf(const QWindow* window) { return window->property(levelProperty).toIn
 // The display has been told of the window before it hears anything of it over another connection.
 void settleOwnConnection() {
   const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-  if (x11 == nullptr) return;
-  xcb_connection_t* connection = x11->connection();
+  xcb_connection_t* connection = x11 == nullptr ? nullptr : x11->connection();
+  if (connection == nullptr) return;
   std::free(xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
 }
 
@@ -44,8 +44,8 @@ QuickView::QuickView(QQmlEngine& engine, quillmonger::WindowSystem& windowSystem
 // some window managers let no window to the front before.
 void QuickView::showInFront() {
   setProperty(showsWithoutActivatingProperty, false);
-  m_comesToFront = !isExposed();
-  // Hidden a moment ago, it can still pass for active: that it lost the keyboard is heard later.
+  // Hidden a moment ago, it can still pass for exposed and active: that it has gone is heard later.
+  m_comesToFront = !isVisible() || !isExposed();
   if (m_comesToFront || !isActive()) setProperty(awaitsFrontProperty, true);
   show();
   raise();
