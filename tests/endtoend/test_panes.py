@@ -235,6 +235,51 @@ class ThePanes(PaneCase):
 
 
 
+class OnALowScreen(PaneCase):
+    size = "1280x480x24"
+    stops = ("Sounds", "Volume", "Start when you log in", "Show the guide at the next start",
+             "Always paste without formatting", "History", "Keep the history", "Clear History…", "When pasting")
+
+    def is_seen(self, condition):
+        """Whether the node that meets the condition is on the screen as a whole, below the toolbar."""
+        nodes = self.nodes()
+        found = next((node for node in nodes if condition(node)), None)
+        if not found:
+            return False
+        tabs = next(node for node in nodes if node["role"] == "page tab list")
+        window = next(node for node in nodes if node["role"] == "frame")
+        top, bottom = found["place"][1], found["place"][1] + found["place"][3]
+        end = window["place"][1] + window["place"][3]
+        return tabs["place"][1] + tabs["place"][3] <= top and bottom <= end <= 480
+
+    def wait_until_seen(self, name):
+        wait_until(lambda: self.is_seen(lambda node: node["name"] == name), f"{name} on the screen")
+
+    def test_the_pane_is_scrolled_with_the_wheel_and_the_keyboard_and_begins_at_its_top(self):
+        self.desktop.start_app()
+        self.open_settings()
+        self.wait_until_seen("Start when you log in")
+        self.assertFalse(self.is_seen(lambda node: node["name"] == "Copy to the clipboard only"))
+
+        self.desktop.run(["xdotool", "mousemove", "640", "300", "click", "--repeat", "30", "5"])
+        self.wait_until_seen("Copy to the clipboard only")
+        self.desktop.press("Page_Up", "Page_Up")
+        self.wait_until_seen("Start when you log in")
+        self.desktop.press("Page_Down", "Page_Down")
+        self.wait_until_seen("Copy to the clipboard only")
+        self.desktop.press("Right")
+        self.wait_still(self.wait_for_front("^Ignore$"))
+        self.wait_until_seen("Ignore sensitive copies")
+
+    def test_the_control_with_the_keyboard_is_brought_into_view(self):
+        self.desktop.start_app()
+        self.open_settings()
+
+        for name in self.stops:
+            self.desktop.press("Tab")
+            wait_until(lambda: self.is_seen(lambda node: node["name"] == name and node["focused"]), f"{name} in view")
+
+
 class TheEffectsOfSettings(PaneCase):
     def test_a_dark_theme_darkens_the_window_at_once_and_a_change_elsewhere_is_seen(self):
         self.desktop.start_app()
