@@ -98,6 +98,7 @@ class TheMouse(PaneCase):
                 if name != "LOGIN":
                     self.write(name, value)
             wait_until(lambda: self.are_shown(elsewhere), f"{pane}: the switches as the command wrote")
+        self.assertNotIn("QPainter", self.desktop.log.read_text(), "painted before there was anything to paint on")
 
     def test_moves_the_sliders_and_chooses_options(self):
         self.desktop.start_app()
