@@ -110,6 +110,13 @@ function(quillmonger_module target)
   _quillmonger_target(${target} USES ${MODULE_USES} SYSTEM ${MODULE_SYSTEM} SOURCES ${MODULE_SOURCES})
 endfunction()
 
+# Objects of this folder that are linked although nothing names them.
+function(quillmonger_objects target)
+  cmake_parse_arguments(PARSE_ARGV 1 MODULE "" "" "USES;SYSTEM;SOURCES")
+  add_library(${target} OBJECT ${MODULE_SOURCES})
+  _quillmonger_target(${target} USES ${MODULE_USES} SYSTEM ${MODULE_SYSTEM} SOURCES ${MODULE_SOURCES})
+endfunction()
+
 # A static library of this folder with a QML module: its *.qml files, compiled ahead of time, and the types in SOURCES
 # that they use. A program calls `registerTypes` of the folder before it loads a view (see QmlModule.h there).
 function(quillmonger_qml_module target)

@@ -32,7 +32,7 @@ void tellArrival(xcb_window_t id) {
 
 // While a chord or a menu holds the keyboard, X11 says that the focus went out and in again, though it stays where it
 // is. Qt would take that for the loss of the front. And when the focus went out and comes back at once, Qt tells a
-// window of neither.
+// window of neither, or of the loss alone when it is back already.
 class QtApplication::FocusFilter final : public QAbstractNativeEventFilter {
  public:
   bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* /*result*/) override {
@@ -42,9 +42,18 @@ class QtApplication::FocusFilter final : public QAbstractNativeEventFilter {
     if (type != XCB_FOCUS_OUT && type != XCB_FOCUS_IN) return false;
     const auto* focus = reinterpret_cast<const xcb_focus_in_event_t*>(event);
     if (focus->mode == XCB_NOTIFY_MODE_GRAB || focus->mode == XCB_NOTIFY_MODE_UNGRAB) return true;
-    if (type == XCB_FOCUS_IN) tellArrival(focus->event);
+    // Where the pointer is, while the keyboard is nobody's.
+    if (focus->detail == XCB_NOTIFY_DETAIL_POINTER) return false;
+    m_hasFocus = type == XCB_FOCUS_IN;
+    if (m_hasFocus) tellArrival(focus->event);
     return false;
   }
+
+  /// As far as the display has told.
+  [[nodiscard]] bool hasFocus() const { return m_hasFocus; }
+
+ private:
+  bool m_hasFocus = false;
 };
 
 QtApplication::QtApplication(quillmonger::WindowSystem& windowSystem)
@@ -54,7 +63,8 @@ QtApplication::QtApplication(quillmonger::WindowSystem& windowSystem)
   QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, &m_connections,
                    [this](Qt::ApplicationState state) {
                      const bool wasActive = std::exchange(m_isActive, state == Qt::ApplicationActive);
-                     if (wasActive && !m_isActive && !isFrontAwaited()) m_didResignActive.send(0);
+                     if (wasActive && !m_isActive && !isFrontAwaited() && !m_focusFilter->hasFocus())
+                       m_didResignActive.send(0);
                    });
 }
 

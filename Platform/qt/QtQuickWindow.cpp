@@ -57,8 +57,9 @@ void QtQuickWindow::prepare() {
   if (m_view->rootObject() == nullptr) foundation::stopProcess("A window's content could not be loaded.");
   followSize();
   m_view->create();
-  // Painting once while hidden loads fonts and pictures, which the first show would wait for.
-  m_view->grabWindow();
+  // Painting once while hidden loads fonts and pictures, which the first show would wait for. A window that learns its
+  // size later has nothing to paint on yet.
+  if (!m_view->size().isEmpty()) m_view->grabWindow();
 }
 
 void QtQuickWindow::applyKind() {

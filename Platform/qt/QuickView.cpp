@@ -44,8 +44,8 @@ QuickView::QuickView(QQmlEngine& engine, quillmonger::WindowSystem& windowSystem
 // some window managers let no window to the front before.
 void QuickView::showInFront() {
   setProperty(showsWithoutActivatingProperty, false);
-  m_comesToFront = !isExposed();
-  // Hidden a moment ago, it can still pass for active: that it lost the keyboard is heard later.
+  // Hidden a moment ago, it can still pass for exposed and active: that it has gone is heard later.
+  m_comesToFront = !isVisible() || !isExposed();
   if (m_comesToFront || !isActive()) setProperty(awaitsFrontProperty, true);
   show();
   raise();

@@ -28,6 +28,9 @@ class X11HotKeys final : public keyboardshortcuts::HotKeyService {
   void unregisterHotKey(const keyboardshortcuts::HotKeyIdentifier& identifier) override;
   [[nodiscard]] bool isHeldByAnother(std::uint32_t keyCode, std::uint32_t modifiers) override;
 
+  /// Whether the user holds one of the chords, which keeps all keys from the other programs. On any thread.
+  [[nodiscard]] bool isChordHeld() const { return m_grabs.isChordHeld(); }
+
  private:
   /// Called on the main thread.
   struct Handlers {

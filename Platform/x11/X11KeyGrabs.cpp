@@ -100,7 +100,9 @@ void X11KeyGrabs::press(const xcb_key_press_event_t& event) {
   for (const auto& [identifier, chord] : m_chords) {
     const std::uint16_t state = m_modifiers.state(chord.serviceModifiers);
     if (chord.key != event.detail || (event.state & m_modifiers.chordMask()) != state) continue;
-    if (m_held.emplace(event.detail, chord).second) tell(chord, EventType::keyDown);
+    const bool isNew = m_held.emplace(event.detail, chord).second;
+    m_isChordHeld = true;
+    if (isNew) tell(chord, EventType::keyDown);
     return;
   }
 }
@@ -108,6 +110,7 @@ void X11KeyGrabs::press(const xcb_key_press_event_t& event) {
 // By the key alone: the modifiers may have been let go of before it.
 void X11KeyGrabs::release(const xcb_key_release_event_t& event) {
   const auto held = m_held.extract(event.detail);
+  m_isChordHeld = !m_held.empty();
   if (held) tell(held.mapped(), EventType::keyUp);
 }
 

@@ -2,6 +2,7 @@
 
 #include <xcb/xcb.h>
 
+#include <atomic>
 #include <functional>
 #include <map>
 
@@ -32,6 +33,9 @@ class X11KeyGrabs final {
 
   void handle(const xcb_generic_event_t& event);
 
+  /// Until its key is let go of, a chord that was pressed keeps all keys from the other programs. On any thread.
+  [[nodiscard]] bool isChordHeld() const { return m_isChordHeld; }
+
  private:
   bool grab(const Chord& chord);
   void ungrab(const Chord& chord);
@@ -48,6 +52,7 @@ class X11KeyGrabs final {
   std::map<Identifier, Chord> m_chords;
   /// By its chord: while it is held, the chord can get another identifier or the same one anew.
   std::map<xcb_keycode_t, Chord> m_held;
+  std::atomic<bool> m_isChordHeld = false;
 };
 
 }  // namespace platform

@@ -43,11 +43,13 @@ std::string lowered(std::string_view text) {
 // One paste at a time: a later one takes the place of one that still waits. On the thread alone.
 class X11PasteKeys::Injector final {
  public:
-  Injector(X11Thread& thread, WrittenWindow writtenWindow, TerminalPredicate isTerminal, const Patience& patience)
+  Injector(X11Thread& thread, WrittenWindow writtenWindow, TerminalPredicate isTerminal, ChordPredicate isChordHeld,
+           const Patience& patience)
       : m_thread(thread),
         m_connection(thread.connection()),
         m_writtenWindow(std::move(writtenWindow)),
         m_isTerminal(std::move(isTerminal)),
+        m_isChordHeld(std::move(isChordHeld)),
         m_clipboard(internAtom(m_connection, "CLIPBOARD")),
         m_wmState(internAtom(m_connection, "WM_STATE")),
         m_processId(internAtom(m_connection, "_NET_WM_PID")),
@@ -70,11 +72,13 @@ class X11PasteKeys::Injector final {
     const X11Modifiers modifiers(m_connection);
     const auto focused = focusedClient();
     if (!m_target || waited < m_patience.withPrograms) m_target = focused;
-    const bool isHandOff = !isAnyHeld(modifiers.chordKeys());
+    const bool isModifierHeld = isAnyHeld(modifiers.chordKeys());
+    const bool isHandOff = !isModifierHeld && !m_isChordHeld();
     const char* obstacle = !ownsClipboard()      ? "the clipboard isn't ours"
                            : !focused            ? "no other window has the keyboard"
                            : focused != m_target ? "the user went to another window"
-                           : !isHandOff          ? "a modifier key is held"
+                           : isModifierHeld      ? "a modifier key is held"
+                           : !isHandOff          ? "a global shortcut is held"
                                                  : nullptr;
     const bool waitsForHands = focused && focused == m_target && !isHandOff;
     if (obstacle == nullptr) {
@@ -178,6 +182,7 @@ class X11PasteKeys::Injector final {
   xcb_connection_t* m_connection;
   WrittenWindow m_writtenWindow;
   TerminalPredicate m_isTerminal;
+  ChordPredicate m_isChordHeld;
   xcb_atom_t m_clipboard;
   xcb_atom_t m_wmState;
   xcb_atom_t m_processId;
@@ -189,12 +194,14 @@ class X11PasteKeys::Injector final {
 };
 
 std::unique_ptr<X11PasteKeys> X11PasteKeys::connect(WrittenWindow writtenWindow, TerminalPredicate isTerminal,
-                                                    const Patience& patience, const std::string& display) {
+                                                    ChordPredicate isChordHeld, const Patience& patience,
+                                                    const std::string& display) {
   auto thread = X11Thread::connect(display);
   if (!thread) return nullptr;
   const xcb_query_extension_reply_t* xtest = xcb_get_extension_data(thread->connection(), &xcb_test_id);
   if (xtest == nullptr || xtest->present == 0) return nullptr;
-  auto injector = std::make_unique<Injector>(*thread, std::move(writtenWindow), std::move(isTerminal), patience);
+  auto injector = std::make_unique<Injector>(*thread, std::move(writtenWindow), std::move(isTerminal),
+                                             std::move(isChordHeld), patience);
   return std::unique_ptr<X11PasteKeys>(new X11PasteKeys(std::move(thread), std::move(injector)));
 }
 

@@ -43,7 +43,7 @@ void QtSettingsWindow::setFrameUsingName(std::string_view name) {
 }
 
 void QtSettingsWindow::setFrameAutosaveName(std::string_view name) {
-  if (std::exchange(m_autosaveName, name) == name) return;
+  m_autosaveName = name;
   connect(&view(), &QWindow::xChanged, this, &QtSettingsWindow::saveFrame, Qt::UniqueConnection);
   connect(&view(), &QWindow::yChanged, this, &QtSettingsWindow::saveFrame, Qt::UniqueConnection);
 }

@@ -19,6 +19,13 @@ Item {
     readonly property int gap: maximumWidth > 0 ? 12 : 0
     // What is left beside the label column.
     readonly property alias contentWidth: controls.width
+    // The room that the controls can't do without, beside the label column. A control says its own as `leastWidth`.
+    readonly property real leastWidth: {
+        let widest = 0
+        for (let index = 0; index < controls.children.length; ++index)
+            widest = Math.max(widest, controls.children[index].leastWidth ?? 0)
+        return widest > 0 ? maximumWidth + gap + widest : 0
+    }
     readonly property bool isCentered: verticalAlignment === Section.Alignment.Center
 
     readonly property int linesHeight: Math.max(title.height, controls.implicitHeight)

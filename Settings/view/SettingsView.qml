@@ -11,6 +11,7 @@ FocusScope {
     readonly property real toolbarWidth: toolbar.visible ? toolbar.implicitWidth : 0
     readonly property real toolbarHeight: toolbar.height
     readonly property Item focusItem: Window.activeFocusItem
+    readonly property alias page: flickable
 
     // The next pane, or the one before.
     function step(by: int) {
@@ -18,15 +19,21 @@ FocusScope {
         view.model.choose((view.model.selectedTab + by + count) % count)
     }
 
-    // What has the keyboard is to be seen, with some room around it.
+    function scrollTo(y: real) {
+        flickable.contentY = Math.max(0, Math.min(y, flickable.contentHeight - flickable.height))
+    }
+
+    // What has the keyboard is to be seen, with what its section says of it, and some room around.
     function reveal(item: Item) {
         if (!item || !flickable.interactive) return
-        for (let ancestor = item; ancestor !== area; ancestor = ancestor.parent)
+        let shown = item
+        for (let ancestor = item; ancestor !== area; ancestor = ancestor.parent) {
             if (!ancestor) return
-        const top = item.mapToItem(area, 0, 0).y - 16
-        const bottom = top + item.height + 32
-        const y = Math.min(Math.max(flickable.contentY, bottom - flickable.height), top)
-        flickable.contentY = Math.max(0, Math.min(y, flickable.contentHeight - flickable.height))
+            if (ancestor instanceof Section && ancestor.height <= flickable.height - 32) shown = ancestor
+        }
+        const top = shown.mapToItem(area, 0, 0).y - 16
+        const bottom = top + shown.height + 32
+        view.scrollTo(Math.min(Math.max(flickable.contentY, bottom - flickable.height), top))
     }
 
     implicitWidth: model.windowSize.width
@@ -36,11 +43,19 @@ FocusScope {
     LayoutMirroring.childrenInherit: true
     onFocusItemChanged: reveal(focusItem)
     Keys.onPressed: event => {
-        if (!(event.modifiers & Qt.ControlModifier)) return
-        if (event.key === Qt.Key_PageDown || event.key === Qt.Key_Tab) view.step(1)
+        if (!(event.modifiers & Qt.ControlModifier)) {
+            if (event.key === Qt.Key_PageDown) view.scrollTo(flickable.contentY + flickable.height - 40)
+            else if (event.key === Qt.Key_PageUp) view.scrollTo(flickable.contentY - flickable.height + 40)
+            else return
+        } else if (event.key === Qt.Key_PageDown || event.key === Qt.Key_Tab) view.step(1)
         else if (event.key === Qt.Key_PageUp || event.key === Qt.Key_Backtab) view.step(-1)
         else return
         event.accepted = true
+    }
+
+    Connections {
+        target: view.model
+        function onSelectedTabChanged() { view.scrollTo(0) }
     }
 
     Rectangle {

@@ -282,6 +282,21 @@ TEST_F(QtSettingsWindow, ComesBackWhereItWasMovedToWithAnotherPaneAndMotionOn) {
   EXPECT_EQ(view().position(), QPoint(55, 66));
 }
 
+TEST_F(QtSettingsWindow, ComesBackWhereItWasMovedToAlsoWhenItWasLoadedAnewMeanwhile) {
+  make();
+  m_controller->show();
+  m_view.reset();
+  m_controller->show();
+
+  view().setPosition(33, 44);
+  QCoreApplication::processEvents();
+  view().hide();
+  m_view.reset();
+  m_controller->show();
+
+  EXPECT_EQ(view().position(), QPoint(33, 44));
+}
+
 TEST_F(QtSettingsWindow, StaysWhereItIsWhenItIsShownAgainOnTheScreen) {
   make();
   m_controller->show();

@@ -16,7 +16,10 @@ def nodes(accessible):
     states = accessible.get_state_set()
     if not states.contains(Atspi.StateType.SHOWING) and accessible.get_role() != Atspi.Role.APPLICATION:
         return
+    place = accessible.get_extents(Atspi.CoordType.SCREEN) if accessible.get_component_iface() else Atspi.Rect()
     yield {"role": accessible.get_role_name(), "name": accessible.get_name(),
+           "description": accessible.get_description(), "place": [place.x, place.y, place.width, place.height],
+           "checked": states.contains(Atspi.StateType.CHECKED),
            "selected": states.contains(Atspi.StateType.SELECTED),
            "focused": states.contains(Atspi.StateType.FOCUSED),
            "actions": [Atspi.Action.get_action_name(accessible, index) for index in range(accessible.get_n_actions())]}

@@ -156,8 +156,8 @@ class Desktop:
         words = dict(line.split("=", 1) for line in answer.split())
         return tuple(int(words[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
 
-    def click(self, x, y):
-        self.run(["xdotool", "mousemove", str(x), str(y), "click", "1"])
+    def click(self, x, y, button=1):
+        self.run(["xdotool", "mousemove", str(x), str(y), "click", str(button)])
 
     def press(self, *chords):
         self.run(["xdotool", "key", "--clearmodifiers", *chords])

@@ -1,31 +1,16 @@
 """What assistive programs are told, through the desktop's accessibility service."""
 
-import json
-
-from desktop import ROOT, wait_until
-from roadcase import RoadCase
+from accessiblecase import AccessibleCase
 
 
-class WhatIsTold(RoadCase):
+class WhatIsTold(AccessibleCase):
     def setUp(self):
         super().setUp()
-        self.desktop.environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
         self.desktop.start_app()
         for text in ("1700000000", "an older text"):
             self.desktop.copy(text)
             self.desktop.wait_for_text(text)
         self.desktop.open_history()
-
-    def nodes(self):
-        # The system's Python has the service's library.
-        answer = self.desktop.run(["/usr/bin/python3", ROOT / "tests/endtoend/accessible.py", "quillmonger"])
-        return json.loads(answer.stdout)
-
-    def node(self, role, name, **states):
-        def find():
-            return next((node for node in self.nodes() if (node["role"], node["name"]) == (role, name)
-                         and all(node[state] == value for state, value in states.items())), None)
-        return wait_until(find, f"{role} {name}")
 
     def test_the_history_has_its_field_its_rows_and_its_button(self):
         self.node("text", "Search", focused=True)

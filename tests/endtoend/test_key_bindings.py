@@ -4,8 +4,8 @@ import json
 import subprocess
 import sys
 
+from accessiblecase import AccessibleCase
 from desktop import wait_until
-from roadcase import RoadCase
 
 # Another program that has a chord for itself: Control, Alt and K.
 HOLDER = """
@@ -24,7 +24,7 @@ ACTIVATE = "KeyboardShortcuts_activate"
 CONTROL_ALT = 0x1000 | 0x800
 
 
-class TheKeyBindings(RoadCase):
+class KeyBindingsCase(AccessibleCase):
     def open_key_bindings(self):
         """Shows the pane, with the toolbar in the keyboard's hands."""
         self.desktop.quillmonger("settings")
@@ -55,6 +55,8 @@ class TheKeyBindings(RoadCase):
         holder = self.desktop.spawn([sys.executable, "-c", HOLDER], stdout=subprocess.PIPE, text=True)
         self.assertEqual(holder.stdout.readline().strip(), "ready")
 
+
+class TheKeyBindings(KeyBindingsCase):
     def test_a_recorded_chord_shows_the_history_and_the_former_one_no_longer_does(self):
         self.desktop.start_app()
         self.open_key_bindings()
@@ -133,3 +135,81 @@ class TheKeyBindings(RoadCase):
 
         wait_until(lambda: self.stored("KeyboardShortcuts_quickPaste1"), "the chord's default")
         self.wait_for_chord(38, CONTROL_ALT)
+
+
+class TheRecorder(KeyBindingsCase):
+    """With the mouse."""
+
+    def setUp(self):
+        super().setUp()
+        self.desktop.start_app()
+        self.open_key_bindings()
+
+    def wait_for_field(self, label, words):
+        wait_until(lambda: any((node["name"], node["description"]) == (label, words) for node in self.nodes_of("text")),
+                   f"{label}: {words}")
+
+    def wait_for_quick_paste(self, number, key_code):
+        wait_until(lambda: str(key_code) in str(self.stored(f"KeyboardShortcuts_quickPaste{number}")),
+                   f"the chord of item {number}")
+
+    def test_records_after_a_click_and_clears_with_its_button(self):
+        self.click_on(self.node("text", "Paste 1st item"))
+        self.wait_for_field("Paste 1st item", "Shift+Super+X")
+        self.desktop.press("ctrl+alt+j")
+        self.wait_for_quick_paste(1, 38)
+        self.wait_for_field("Paste 1st item", "Ctrl+Alt+J")
+
+        field = self.node("text", "Paste 2nd item")
+        self.click_on(field, share=0.93)
+
+        wait_until(lambda: self.stored("KeyboardShortcuts_quickPaste2") is False, "the chord to be cleared")
+        self.wait_for_field("Paste 2nd item", "Record Shortcut")
+        self.click_on(field)
+        self.wait_for_field("Paste 2nd item", "Press Shortcut…")
+        self.desktop.press("ctrl+alt+k")
+        self.wait_for_quick_paste(2, 40)
+
+    def test_ends_with_a_click_elsewhere_and_leaves_the_chord(self):
+        before = self.stored("KeyboardShortcuts_quickPaste3")
+        self.click_on(self.node("text", "Show the history"))
+        self.node("text", "Show the history", focused=True)
+
+        self.click_on(self.node("text", "Paste 3rd item"))
+        self.node("text", "Paste 3rd item", focused=True)
+        self.click_on(self.node("panel", "Quick Paste"), share=0.9)
+        self.desktop.press("ctrl+alt+l")
+
+        self.desktop.press("shift+super+v")
+        wait_until(self.desktop.history_window, "the history by the chord that is left")
+        self.assertEqual(self.stored("KeyboardShortcuts_quickPaste3"), before)
+
+    def test_restores_the_defaults_with_the_mouse(self):
+        self.click_on(self.node("text", "Paste 1st item"), share=0.93)
+        wait_until(lambda: self.stored("KeyboardShortcuts_quickPaste1") is False, "the chord to be cleared")
+        self.click_on(self.node("push button", "Restore Defaults…"))
+        self.wait_for_front("^Restore the shortcuts of Quick Paste")
+        self.click_on(self.node("push button", "Restore"))
+
+        self.wait_for_quick_paste(1, 7)
+
+
+class TheQuickPaste(KeyBindingsCase):
+    def test_pastes_the_item_of_its_chord_while_its_switch_is_on(self):
+        self.desktop.start_app()
+        for text in ("third", "second", "first"):
+            self.desktop.copy(text)
+            self.desktop.wait_for_text(text)
+        self.open_key_bindings()
+        self.desktop.press("Tab", "Tab", "space")
+        wait_until(lambda: self.stored("quickPaste") is True, "the switch to be on")
+        self.hide_settings()
+        file, _ = self.open_gtk_editor()
+
+        self.desktop.press("shift+super+x")
+        self.save_until(file, "first")
+        self.desktop.quillmonger("defaults", "write", "quickPaste", "false")
+        self.desktop.press("shift+super+x", "ctrl+a")
+        self.paste_from_history("third")
+        self.save_until(file, "third")
+        self.assertEqual(self.desktop.log.read_text().count("isAccessibilityAllowed = true"), 2, "the pastes")

@@ -1,13 +1,23 @@
-"""Each setting, changed with the keyboard and the mouse in the real window."""
+"""Each setting, changed with the keyboard and the mouse in the real window, and seen there when it changes elsewhere."""
 
+from accessiblecase import AccessibleCase
 from desktop import wait_until
-from roadcase import RoadCase
 
-# Of a switch that is on and of one that is off, in light colours.
-TRACKS = {(0x4A, 0x5D, 0xC4), (0x88, 0x8B, 0x97)}
+# The settings of the enabled switches of each pane, from top to bottom.
+SWITCHES = {
+    "General": ["soundEffectsEnabled", "LOGIN", "firstLaunch", "alwaysPasteWithoutFormatting", "persistHistory"],
+    "Ignore": ["ignoreSensitiveData", "ignoreImages"],
+    "Search": ["searchCaseSensitive", "searchRegex", "searchAppName"],
+    "Appearance": [
+        "animateMenuBar", "showSourceAppIcon", "showKeyboardShortcuts", "showScrollbar", "showColorIndicator",
+        "showContentTypeIndicators", "hideLongTextPreview", "showPreviewPaneScrollbar", "autoOpenImagePreview",
+        "autoOpenOculet"],
+    "Key Bindings": ["quickPaste"],
+}
+UPDATE_SWITCHES = ("Look for updates by itself", "Download them by itself")
 
 
-class PaneCase(RoadCase):
+class PaneCase(AccessibleCase):
     size = "1280x900x24"
 
     def setUp(self):
@@ -19,23 +29,39 @@ class PaneCase(RoadCase):
         self.desktop.quillmonger("settings")
         self.wait_for_front("^General$")
         self.desktop.press("Tab")
-        for title in ["Ignore", "Search", "Appearance"]:
-            if pane == "General":
-                break
+        for title in list(SWITCHES)[1:list(SWITCHES).index(pane) + 1]:
             self.desktop.press("Right")
             window = self.wait_for_front(f"^{title}$")
             self.wait_still(window)
-            if title == pane:
-                break
         return self.desktop.window(f"^{pane}$")
+
+    def click_pane(self, title):
+        self.click_on(self.node("page tab", title))
+        self.wait_still(self.wait_for_front(f"^{title}$"))
+
+    @property
+    def autostart(self):
+        return self.desktop.home / ".config/autostart"
 
     def read(self, name):
         if name == "LOGIN":
-            return "true" if list((self.desktop.home / ".config/autostart").glob("*.desktop")) else "false"
+            return "true" if list(self.autostart.glob("*.desktop")) else "false"
         return self.desktop.quillmonger("defaults", "read", name).stdout.strip()
+
+    def write(self, name, value):
+        self.desktop.quillmonger("defaults", "write", name, value)
 
     def wait_for_setting(self, name, value):
         wait_until(lambda: self.read(name) == value, f"{name} to be {value}, not {self.read(name)}")
+
+    def choose(self, picker, option):
+        """With the mouse."""
+        self.click_on(self.node("combo box", picker))
+        self.click_on(self.node("menu item", option))
+
+    def wait_described(self, role, name, description):
+        wait_until(lambda: any(node["name"] == name and node["description"] == description
+                               for node in self.nodes_of(role)), f"{name} to be {description}")
 
     def pixels(self, window):
         """Width, height and the bytes of the window's picture."""
@@ -45,49 +71,119 @@ class PaneCase(RoadCase):
         return width, height, data
 
 
-class TheSwitches(PaneCase):
-    def switches(self, window):
-        """The places in the window of the enabled switches of the shown pane, from top to bottom."""
-        width, height, data = self.pixels(window)
-        runs = []
-        for y in range(height):
-            row = [tuple(data[(y * width + x) * 3:(y * width + x) * 3 + 3]) in TRACKS for x in range(width)]
-            lengths = [x for x in range(width - 14) if all(row[x:x + 14])]
-            if lengths:
-                runs.append((y, lengths[0]))
-        places = []
-        for y, x in runs:
-            if not places or y - places[-1][-1][0] > 1:
-                places.append([])
-            places[-1].append((y, x))
-        return [(place[0][1] + 12, (place[0][0] + place[-1][0]) // 2)
-                for place in places if 18 <= len(place) <= 23]
+class TheMouse(PaneCase):
+    def switches(self):
+        return [node for node in self.nodes_of("check box") if node["name"] not in UPDATE_SWITCHES]
 
-    def flip_all_with_the_mouse(self, pane, names):
+    def are_shown(self, states):
+        return ["true" if node["checked"] else "false" for node in self.switches()] == states
+
+    def test_flips_every_switch_and_each_shows_what_its_setting_is_made_elsewhere(self):
         self.desktop.start_app()
-        window = self.open_settings(pane)
-        before = {name: self.read(name) for name in names}
-        places = self.switches(window)
-        self.assertEqual(len(places), len(names), places)
-        for name, place in zip(names, places):
-            self.desktop.run(["xdotool", "mousemove", "--window", window, *map(str, place), "click", "1"])
-            self.wait_for_setting(name, "false" if before[name] == "true" else "true")
+        self.desktop.quillmonger("settings")
+        self.wait_for_front("^General$")
+        for pane, names in SWITCHES.items():
+            self.click_pane(pane)
+            before = [self.read(name) for name in names]
+            wait_until(lambda: self.are_shown(before), f"{pane}: the switches as the settings are")
+            flipped = ["false" if value == "true" else "true" for value in before]
 
-    def test_the_mouse_flips_the_switches_of_the_general_pane(self):
-        self.flip_all_with_the_mouse("General", [
-            "soundEffectsEnabled", "LOGIN", "firstLaunch", "alwaysPasteWithoutFormatting", "persistHistory"])
+            for switch in self.switches():
+                self.click_on(switch)
+            wait_until(lambda: [self.read(name) for name in names] == flipped, f"{pane}: the settings to be flipped")
+            wait_until(lambda: self.are_shown(flipped), f"{pane}: the flipped switches")
 
-    def test_the_mouse_flips_the_switches_of_the_search_pane(self):
-        self.flip_all_with_the_mouse("Search", ["searchCaseSensitive", "searchRegex", "searchAppName"])
+            elsewhere = [before[index] if name != "LOGIN" else flipped[index] for index, name in enumerate(names)]
+            for name, value in zip(names, elsewhere):
+                if name != "LOGIN":
+                    self.write(name, value)
+            wait_until(lambda: self.are_shown(elsewhere), f"{pane}: the switches as the command wrote")
+        self.assertNotIn("QPainter", self.desktop.log.read_text(), "painted before there was anything to paint on")
 
-    def test_the_mouse_flips_the_switches_of_the_appearance_pane(self):
-        self.flip_all_with_the_mouse("Appearance", [
-            "animateMenuBar", "showSourceAppIcon", "showKeyboardShortcuts", "showScrollbar", "showColorIndicator",
-            "showContentTypeIndicators", "hideLongTextPreview", "showPreviewPaneScrollbar", "autoOpenImagePreview",
-            "autoOpenOculet"])
+    def test_moves_the_sliders_and_chooses_options(self):
+        self.desktop.start_app()
+        self.desktop.quillmonger("settings")
+        self.wait_for_front("^General$")
+        self.click_on(self.node("slider", "Volume"), share=1)
+        self.wait_for_setting("soundVolume", "1")
+        self.choose("History", "50 items")
+        self.wait_for_setting("historySize", "50")
+        self.click_on(self.node("radio button", "Copy to the clipboard only"), share=0.05)
+        self.wait_for_setting("pasteToApp", "false")
+
+        self.click_pane("Search")
+        self.click_on(self.node("slider", "Delay"), share=0)
+        self.wait_for_setting("searchDebounceInterval", "0.05")
+        self.click_on(self.node("slider", "Delay"), share=1)
+        wait_until(lambda: abs(float(self.read("searchDebounceInterval")) - 0.3) < 1e-9, "the longest delay")
+
+        self.click_pane("Appearance")
+        self.choose("Long lines", "Cut at the end")
+        self.wait_for_setting("truncationMode", "tail")
+        self.choose("Theme", "Dark")
+        self.wait_for_setting("selectedColorScheme", "dark")
+
+    def test_leaves_a_menu_of_options_with_nothing_chosen(self):
+        self.desktop.start_app()
+        self.desktop.quillmonger("settings")
+        self.wait_for_front("^General$")
+        self.click_on(self.node("combo box", "History"))
+        self.node("menu item", "50 items")
+
+        self.click_on(self.node("slider", "Volume"), share=1)
+
+        wait_until(lambda: not self.nodes_of("menu item"), "the menu to go")
+        self.assertEqual((self.read("historySize"), self.read("soundVolume")), ("1000", "0.45"))
+
+
+class TheStartAtLogin(PaneCase):
+    def is_shown_on(self):
+        return next(node["checked"] for node in self.nodes() if node["name"] == "Start when you log in")
+
+    def test_is_an_autostart_file_that_comes_and_goes_and_is_looked_for_again_when_the_window_is_in_front_again(self):
+        self.desktop.start_app()
+        self.desktop.quillmonger("settings")
+        settings = self.wait_for_front("^General$")
+        switch = self.node("check box", "Start when you log in", checked=False)
+
+        self.click_on(switch)
+        file = wait_until(lambda: next(self.autostart.glob("*.desktop"), None), "the autostart file")
+        self.assertIn("quillmonger-app", file.read_text())
+        self.node("check box", "Start when you log in", checked=True)
+        self.click_on(switch)
+        wait_until(lambda: not file.exists(), "the autostart file to go")
+        self.click_on(switch)
+        wait_until(file.exists, "the autostart file again")
+
+        _, editor = self.open_gtk_editor()
+        file.unlink()
+        self.desktop.focus(settings)
+
+        wait_until(lambda: not self.is_shown_on(), "the switch to be off")
+        self.desktop.focus(editor)
 
 
 class ThePanes(PaneCase):
+    def test_show_at_once_what_is_changed_elsewhere(self):
+        self.desktop.start_app()
+        self.open_settings()
+        self.write("soundVolume", "0.2")
+        self.wait_described("slider", "Volume", "20 %")
+        self.write("historySize", "200")
+        self.wait_described("combo box", "History", "200 items")
+        self.write("pasteToApp", "false")
+        self.node("radio button", "Copy to the clipboard only", checked=True)
+
+        self.click_pane("Search")
+        self.write("searchDebounceInterval", "0.25")
+        self.wait_described("slider", "Delay", "0.25 s")
+
+        self.click_pane("Appearance")
+        self.write("truncationMode", "head")
+        self.wait_described("combo box", "Long lines", "Cut at the beginning")
+        self.write("selectedColorScheme", "dark")
+        self.wait_described("combo box", "Theme", "Dark")
+
     def test_the_keyboard_reaches_every_control_of_the_general_pane(self):
         self.desktop.start_app()
         self.open_settings()
@@ -138,6 +234,51 @@ class ThePanes(PaneCase):
                          {"false"})
         self.assertEqual(self.read("truncationMode"), "head")
 
+
+
+class OnALowScreen(PaneCase):
+    size = "1280x480x24"
+    stops = ("Sounds", "Volume", "Start when you log in", "Show the guide at the next start",
+             "Always paste without formatting", "History", "Keep the history", "Clear History…", "When pasting")
+
+    def is_seen(self, condition):
+        """Whether the node that meets the condition is on the screen as a whole, below the toolbar."""
+        nodes = self.nodes()
+        found = next((node for node in nodes if condition(node)), None)
+        if not found:
+            return False
+        tabs = next(node for node in nodes if node["role"] == "page tab list")
+        window = next(node for node in nodes if node["role"] == "frame")
+        top, bottom = found["place"][1], found["place"][1] + found["place"][3]
+        end = window["place"][1] + window["place"][3]
+        return tabs["place"][1] + tabs["place"][3] <= top and bottom <= end <= 480
+
+    def wait_until_seen(self, name):
+        wait_until(lambda: self.is_seen(lambda node: node["name"] == name), f"{name} on the screen")
+
+    def test_the_pane_is_scrolled_with_the_wheel_and_the_keyboard_and_begins_at_its_top(self):
+        self.desktop.start_app()
+        self.open_settings()
+        self.wait_until_seen("Start when you log in")
+        self.assertFalse(self.is_seen(lambda node: node["name"] == "Copy to the clipboard only"))
+
+        self.desktop.run(["xdotool", "mousemove", "640", "300", "click", "--repeat", "30", "5"])
+        self.wait_until_seen("Copy to the clipboard only")
+        self.desktop.press("Page_Up", "Page_Up")
+        self.wait_until_seen("Start when you log in")
+        self.desktop.press("Page_Down", "Page_Down")
+        self.wait_until_seen("Copy to the clipboard only")
+        self.desktop.press("Right")
+        self.wait_still(self.wait_for_front("^Ignore$"))
+        self.wait_until_seen("Ignore sensitive copies")
+
+    def test_the_control_with_the_keyboard_is_brought_into_view(self):
+        self.desktop.start_app()
+        self.open_settings()
+
+        for name in self.stops:
+            self.desktop.press("Tab")
+            wait_until(lambda: self.is_seen(lambda node: node["name"] == name and node["focused"]), f"{name} in view")
 
 
 class TheEffectsOfSettings(PaneCase):

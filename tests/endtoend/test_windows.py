@@ -60,6 +60,15 @@ class Windows:
             self.desktop.press("Escape")
             self.desktop.wait_hidden()
 
+    def test_a_history_whose_chord_follows_escape_at_once_comes_each_time(self):
+        self.desktop.start_app()
+        self.open_gtk_editor()
+        for _ in range(20):
+            self.desktop.open_history()
+            self.desktop.type("a")
+            self.desktop.press("Escape")
+            self.desktop.wait_hidden()
+
     def test_a_chord_that_is_held_down_takes_the_keyboard_and_closes_nothing(self):
         self.desktop.start_app()
         self.open_gtk_editor()

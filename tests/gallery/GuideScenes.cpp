@@ -68,10 +68,8 @@ void pictureGuide(const QDir& folder, quillmonger::ColorScheme scheme) {
     const auto still = [](GuideStage& stage) { stage.videos().remove(); };
     pictureScreen(screen, path + ".png", scheme, still);
     QGuiApplication::setLayoutDirection(Qt::RightToLeft);
-    LongTexts longTexts;
-    QCoreApplication::installTranslator(&longTexts);
+    const LongTexts longTexts;
     pictureScreen(screen, path + "-long-mirrored.png", scheme, still);
-    QCoreApplication::removeTranslator(&longTexts);
     QGuiApplication::setLayoutDirection(Qt::LeftToRight);
   }
   pictureScreen(screens[1], folder.filePath("guide-paused" + shade + ".png"), scheme,

@@ -155,14 +155,14 @@ void save(const Scene& scene, const QDir& folder, quillmonger::ColorScheme schem
 void picturePreview(const QDir& folder, quillmonger::ColorScheme scheme) {
   for (const Scene& scene : scenes())
     save(scene, folder, scheme);
-  LongTexts longTexts;
-  QCoreApplication::installTranslator(&longTexts);
-  for (const std::string_view name : {"empty", "date-tip", "json", "long-end"}) {
-    const auto scene = std::ranges::find(scenes(), name, &Scene::name);
-    const std::string doubled = "doubled-" + std::string(name);
-    save({doubled.c_str(), scene->item, scene->then}, folder, scheme);
+  {
+    const LongTexts longTexts;
+    for (const std::string_view name : {"empty", "date-tip", "json", "long-end"}) {
+      const auto scene = std::ranges::find(scenes(), name, &Scene::name);
+      const std::string doubled = "doubled-" + std::string(name);
+      save({doubled.c_str(), scene->item, scene->then}, folder, scheme);
+    }
   }
-  QCoreApplication::removeTranslator(&longTexts);
   QGuiApplication::setLayoutDirection(Qt::RightToLeft);
   save({"mirrored", std::ranges::find(scenes(), std::string_view("date"), &Scene::name)->item}, folder, scheme);
   QGuiApplication::setLayoutDirection(Qt::LeftToRight);

@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "Quillmonger/settings/SettingsKeys.h"
+#include "tests/gallery/LongTexts.h"
 #include "tests/gallery/SettingsStage.h"
 
 namespace testsupport {
@@ -72,8 +73,8 @@ const std::vector<Scene>& scenes() {
          focus(stage.pane("general"), "OnPasteChoice");
          return stage.pane("general");
        }},
-      {"search", [](SettingsStage& stage) -> QQuickView& { return stage.pane("search"); }},
-      {"search-slider-focus",
+      {"settings-search", [](SettingsStage& stage) -> QQuickView& { return stage.pane("search"); }},
+      {"settings-search-slider-focus",
        [](SettingsStage& stage) -> QQuickView& {
          focus(stage.pane("search"), "DebounceSlider");
          return stage.pane("search");
@@ -84,6 +85,7 @@ const std::vector<Scene>& scenes() {
          focus(stage.pane("appearance"), "SettingsToolbar");
          return stage.pane("appearance");
        }},
+      {"settings-keys", [](SettingsStage& stage) -> QQuickView& { return stage.pane("keyBindings"); }},
       {"ignore-fresh", [](SettingsStage& stage) -> QQuickView& { return stage.pane("ignore"); }},
       {"ignore-empty",
        [](SettingsStage& stage) -> QQuickView& {
@@ -159,7 +161,10 @@ void pictureSettings(const QDir& folder, quillmonger::ColorScheme scheme) {
     save(scene, folder, scheme, shade + ".png");
     QGuiApplication::setLayoutDirection(Qt::RightToLeft);
     save(scene, folder, scheme, shade + "-mirrored.png");
+    const LongTexts longTexts;
+    save(scene, folder, scheme, shade + "-long-mirrored.png");
     QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    save(scene, folder, scheme, shade + "-long.png");
   }
 }
 

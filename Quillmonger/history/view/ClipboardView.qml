@@ -38,6 +38,9 @@ Item {
             clipboard: view.clipboard
             settings: view.settings
             theme: view.theme
+            // A row that waits for its next use would be read aloud.
+            ListView.onPooled: visible = false
+            ListView.onReused: visible = true
         }
 
         add: Transition { NumberAnimation { property: "opacity"; from: 0; to: 1; duration: view.theme.rowMotion } }

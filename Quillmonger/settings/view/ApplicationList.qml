@@ -52,6 +52,9 @@ Rectangle {
             width: ListView.view.width
             picker: view.model
             theme: view.theme
+            // A row that waits for its next use would be read aloud.
+            ListView.onPooled: visible = false
+            ListView.onReused: visible = true
         }
 
         Connections {

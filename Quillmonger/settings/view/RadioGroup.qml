@@ -17,6 +17,7 @@ FocusScope {
     // Keys that stay with this control in every window.
     readonly property var ownKeys: [Qt.Key_Up, Qt.Key_Down]
     readonly property real firstLineHeight: 18
+    readonly property int leastWidth: hintWidth
 
     function move(by: int) {
         radios.choice.select(Math.min(Math.max(radios.choice.selected + by, 0), radios.choice.titles.length - 1))

@@ -45,6 +45,7 @@ PaneLayout {
 
         Column {
             readonly property real firstLineHeight: slider.height
+            readonly property int leastWidth: description.maximumWidth
 
             width: parent.width
             spacing: 2
@@ -73,6 +74,7 @@ PaneLayout {
             }
 
             SettingNote {
+                id: description
                 topPadding: 6
                 maximumWidth: 400
                 theme: pane.theme

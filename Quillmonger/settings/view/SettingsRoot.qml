@@ -20,4 +20,12 @@ SettingsView {
         highlight: theme.highlightColor
         highlightedText: theme.selectedPrimary
     }
+
+    ScrollIndicator {
+        objectName: "SettingsScrollIndicator"
+        anchors { top: root.page.top; bottom: root.page.bottom; right: root.page.right; margins: 3 }
+        visible: root.page.interactive
+        list: root.page
+        theme: root.theme
+    }
 }

@@ -15,6 +15,7 @@ Item {
     property alias switchName: control.objectName
 
     readonly property real firstLineHeight: control.height
+    readonly property int leastWidth: noteWidth
 
     width: parent ? parent.width : 0
     implicitHeight: column.height

@@ -66,10 +66,11 @@ Composition::Composition(const platform::XdgFolders& folders, const std::vector<
       m_hotKeys(required(platform::X11HotKeys::connect(m_runLoop), "the XKEYBOARD extension")),
       m_pasteboard(required(platform::X11Pasteboard::connect(m_runLoop, TypeFilter(), {}, selectionName(arguments)),
                             "the XFIXES extension")),
-      m_pasteKeys(required(platform::X11PasteKeys::connect(
-                               [this] { return m_pasteboard->writtenWindow(); },
-                               [this](const std::string& windowClass) { return isTerminal(windowClass); }, {}),
-                           "the XTEST extension")),
+      m_pasteKeys(required(
+          platform::X11PasteKeys::connect([this] { return m_pasteboard->writtenWindow(); },
+                                          [this](const std::string& windowClass) { return isTerminal(windowClass); },
+                                          [this] { return m_hotKeys->isChordHeld(); }, {}),
+          "the XTEST extension")),
       m_inputSources(required(platform::X11InputSources::connect(m_runLoop), "keyboard layouts")),
       m_desktopShortcuts(*m_inputSources, folders.configSearch, platform::XdgFolders::ownEnvironment),
       m_sauce(*m_inputSources, m_notificationCenter),

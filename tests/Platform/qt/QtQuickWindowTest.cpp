@@ -1,7 +1,9 @@
 #include "Platform/qt/QtQuickWindow.h"
 
 #include <gtest/gtest.h>
+#include <xcb/xcb.h>
 
+#include <QAbstractEventDispatcher>
 #include <QDir>
 #include <QPointer>
 #include <QQmlEngine>
@@ -10,6 +12,7 @@
 #include <QScreen>
 #include <QTemporaryFile>
 #include <QTest>
+#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -82,6 +85,7 @@ TEST_F(QtQuickWindowTest, AsksForTheFrontAtOnceAndAgainWhenItIsOnTheScreen) {
   m_window.makeKeyAndOrderFront();
 
   EXPECT_GE(m_system.frontCount, 3);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return m_system.frontCount == 4; }));
   EXPECT_EQ(m_system.keptOutCount, 2);
 }
 
@@ -246,6 +250,32 @@ TEST_F(QtQuickWindowTest, HoldsTheFrontWhileAnotherOfItsWindowsComesThere) {
   QCoreApplication::sendEvent(m_window.view(), &arrival);
   emit qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
   EXPECT_EQ(resignedCount, 1);
+}
+
+// As the display tells of the focus.
+void tellFocus(int type, int detail) {
+  xcb_focus_in_event_t event{};
+  event.response_type = static_cast<std::uint8_t>(type);
+  event.detail = static_cast<std::uint8_t>(detail);
+  QAbstractEventDispatcher::instance()->filterNativeEvent("xcb_generic_event_t", &event, nullptr);
+}
+
+TEST_F(QtQuickWindowTest, HoldsTheFrontWhenItsLossIsToldAfterTheFocusHasComeBack) {
+  platform::QtApplication application(m_system);
+  int resignedCount = 0;
+  const auto hold = application.onDidResignActive([&resignedCount] { ++resignedCount; });
+  emit qGuiApp->applicationStateChanged(Qt::ApplicationActive);
+
+  tellFocus(XCB_FOCUS_OUT, XCB_NOTIFY_DETAIL_NONLINEAR);
+  tellFocus(XCB_FOCUS_IN, XCB_NOTIFY_DETAIL_NONLINEAR);
+  emit qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
+  emit qGuiApp->applicationStateChanged(Qt::ApplicationActive);
+  EXPECT_EQ(resignedCount, 0);
+
+  tellFocus(XCB_FOCUS_OUT, XCB_NOTIFY_DETAIL_NONLINEAR);
+  tellFocus(XCB_FOCUS_IN, XCB_NOTIFY_DETAIL_POINTER);
+  emit qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
+  EXPECT_EQ(resignedCount, 1) << "the pointer is in the window, and the focus is not";
 }
 
 }  // namespace

@@ -83,6 +83,21 @@ TEST_F(X11HotKeys, TellTheReleaseWhenTheModifiersWentFirst) {
   EXPECT_EQ(m_told.back(), std::pair(std::uint32_t{7}, EventType::keyUp));
 }
 
+TEST_F(X11HotKeys, HoldAChordUntilItsKeyIsLetGoOfWhateverBecomesOfItsModifiers) {
+  ASSERT_TRUE(m_hotKeys->registerHotKey(seven, virtualV, shiftAndCommand));
+  EXPECT_FALSE(m_hotKeys->isChordHeld());
+  pressChord();
+  ASSERT_TRUE(isTold(1));
+
+  m_user.release(evdevSuper);
+  m_user.release(evdevShift);
+  EXPECT_TRUE(m_hotKeys->isChordHeld());
+  m_user.release(evdevV);
+
+  ASSERT_TRUE(isTold(2));
+  EXPECT_FALSE(m_hotKeys->isChordHeld());
+}
+
 TEST_F(X11HotKeys, WorkWhateverLockIsOn) {
   ASSERT_TRUE(m_hotKeys->registerHotKey(seven, virtualV, shiftAndCommand));
   m_user.tap(evdevCapsLock);

@@ -43,7 +43,8 @@ class X11PasteKeys : public testing::Test {
           ++m_attempts;
           return m_writtenWindow.load();
         },
-        [](const std::string& windowClass) { return windowClass == "our-terminal"; }, patience, m_display.name());
+        [](const std::string& windowClass) { return windowClass == "our-terminal"; },
+        [this] { return m_isChordHeld.load(); }, patience, m_display.name());
   }
   void useLayouts(const std::string& names) {
     testsupport::ChildProcess layouts({"setxkbmap", "-layout", names}, {m_display.environment()});
@@ -74,6 +75,7 @@ class X11PasteKeys : public testing::Test {
   KeyboardClient m_target;
   std::atomic<std::uint32_t> m_writtenWindow;
   std::atomic<int> m_attempts = 0;
+  std::atomic<bool> m_isChordHeld = false;
   std::unique_ptr<platform::X11PasteKeys> m_pasteKeys;
 };
 
@@ -113,6 +115,27 @@ TEST_F(X11PasteKeys, WaitUntilTheUserLetsGoOfTheModifiers) {
   ASSERT_TRUE(isPasted(6));
   const auto& keys = m_target.receivedKeys();
   EXPECT_EQ(std::vector<Key>(keys.begin() + 2, keys.end()), m_paste);
+}
+
+TEST_F(X11PasteKeys, WaitUntilTheUserLetsGoOfTheChordThatPastes) {
+  m_isChordHeld = true;
+  m_pasteKeys->postPasteKeyEvents(virtualV);
+  m_attempts = 0;
+  ASSERT_TRUE(m_runLoop.runUntil([this] { return m_attempts > 2; }));
+  EXPECT_TRUE(m_target.receivedKeys().empty());
+
+  m_isChordHeld = false;
+
+  ASSERT_TRUE(isPasted());
+  EXPECT_EQ(m_target.receivedKeys(), m_paste);
+}
+
+TEST_F(X11PasteKeys, PressNothingWhileAChordStaysHeld) {
+  m_isChordHeld = true;
+
+  EXPECT_EQ(outputOfAPasteInVain(), "Paste keys not pressed: a global shortcut is held\n");
+
+  EXPECT_TRUE(m_target.receivedKeys().empty());
 }
 
 TEST_F(X11PasteKeys, WaitUntilAnotherWindowHasTheFocus) {

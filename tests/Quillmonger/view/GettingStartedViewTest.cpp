@@ -368,14 +368,12 @@ void expectNoOverlap(testsupport::GuideStage& stage) {
 }
 
 TEST_F(GettingStartedView, TextsThatAreTwiceAsLongHaveTheirPlaceOnEveryScreen) {
-  testsupport::LongTexts longTexts;
-  QCoreApplication::installTranslator(&longTexts);
+  const testsupport::LongTexts longTexts;
   m_stage.view();
   for (int step = 0; step < 8; ++step) {
     expectNoOverlap(m_stage);
     m_stage.guide().showNext();
   }
-  QCoreApplication::removeTranslator(&longTexts);
 }
 
 TEST_F(GettingStartedView, EveryTextHasItsPlaceOnEveryScreen) {

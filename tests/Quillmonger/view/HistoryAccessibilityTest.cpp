@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QQuickItem>
 
 #include "Quillmonger/settings/SettingsKeys.h"
 #include "tests/gallery/ViewStage.h"
@@ -42,6 +43,20 @@ TEST_F(HistoryAccessibility, TellsEachRowsTextAndPlace) {
   EXPECT_EQ(row->role(), QAccessible::ListItem);
   EXPECT_EQ(name(row), "two");
   EXPECT_EQ(row->text(QAccessible::Description).toStdString(), "2 of 2");
+}
+
+TEST_F(HistoryAccessibility, TellsNothingOfRowsThatHaveGone) {
+  m_stage.show({m_stage.makeItem("one"), m_stage.makeItem("two"), m_stage.makeItem("three")});
+  m_stage.picture();
+
+  m_stage.show({m_stage.makeItem("four")});
+  m_stage.picture();
+
+  QAccessibleInterface* list = at("HistoryList");
+  std::vector<std::string> told;
+  for (int index = 0; index < list->childCount(); ++index)
+    if (qobject_cast<QQuickItem*>(list->child(index)->object())->isVisible()) told.push_back(name(list->child(index)));
+  EXPECT_EQ(told, std::vector<std::string>{"four"});
 }
 
 TEST_F(HistoryAccessibility, TellsWhichRowIsSelected) {

@@ -3,12 +3,11 @@
 #include <QGuiApplication>
 #include <QQuickItem>
 #include <QTest>
-#include <QTranslator>
 
 #include "Quillmonger/input/ShortcutNames.h"
-#include "Quillmonger/resources/Texts.h"
 #include "Quillmonger/settings/SettingsKeys.h"
 #include "tests/gallery/KeyBindingsStage.h"
+#include "tests/gallery/LongTexts.h"
 #include "tests/gallery/SettingsStage.h"
 
 namespace {
@@ -111,24 +110,10 @@ TEST_F(KeyBindingsPane, RestoresByReturnFromTheKeyboard) {
   EXPECT_EQ(item("RestoreDefaultsButton")->property("ownKeys").toList(), QVariantList{int{Qt::Key_Return}});
 }
 
-// Every text, twice.
-class DoubledTexts final : public QTranslator {
- public:
-  QString translate(const char* context, const char* key, const char* disambiguation, int count) const override {
-    const QString text = m_texts.translate(context, key, disambiguation, count);
-    return text.isEmpty() ? text : text + " " + text;
-  }
-  [[nodiscard]] bool isEmpty() const override { return false; }
-
- private:
-  quillmonger::Texts m_texts;
-};
-
 QRectF placeOf(const QQuickItem* item) { return item->mapRectToScene(item->boundingRect()); }
 
 TEST_F(KeyBindingsPane, HasRoomForTextsTwiceAsLong) {
-  DoubledTexts doubled;
-  QCoreApplication::installTranslator(&doubled);
+  const testsupport::LongTexts longTexts;
   m_stage.shortcuts().setShortcut(std::nullopt, shortcutname::quickPaste()[0]);
 
   const auto& view = m_stage.pane();
@@ -142,7 +127,6 @@ TEST_F(KeyBindingsPane, HasRoomForTextsTwiceAsLong) {
                    .toBool());
   for (const auto* label : findAll(m_stage.pane(), "SectionLabel"))
     EXPECT_LE(placeOf(label).right(), placeOf(item("ActivateRecorder")).left());
-  QCoreApplication::removeTranslator(&doubled);
 }
 
 TEST_F(KeyBindingsPane, StandsBesideItsLabelsFromTheRightToo) {

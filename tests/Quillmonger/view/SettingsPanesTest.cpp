@@ -1,13 +1,12 @@
 #include <QAccessible>
 #include <QGuiApplication>
-#include <QTranslator>
 #include <functional>
 #include <ostream>
 
-#include "Quillmonger/resources/Texts.h"
 #include "Quillmonger/settings/SettingsKeys.h"
 #include "Quillmonger/update/UpdaterKeys.h"
 #include "tests/Quillmonger/view/SettingsPaneTest.h"
+#include "tests/gallery/LongTexts.h"
 
 namespace {
 
@@ -157,19 +156,6 @@ TEST_P(SettingsPanes, AreAsWideAsTheirContentAndItsMargins) {
 
 TEST_P(SettingsPanes, FitOnASmallScreen) { EXPECT_LE(m_stage.pane(GetParam().pane).height(), 760); }
 
-// Every text, twice.
-class Doubled final : public QTranslator {
- public:
-  QString translate(const char* context, const char* key, const char* disambiguation, int count) const override {
-    const QString text = m_texts.translate(context, key, disambiguation, count);
-    return text.isEmpty() || text.contains('%') ? text : text + " " + text;
-  }
-  [[nodiscard]] bool isEmpty() const override { return false; }
-
- private:
-  quillmonger::Texts m_texts;
-};
-
 void forEachText(QQuickItem* item, const std::function<void(QQuickItem*)>& body) {
   if (!item->isVisible()) return;
   if (item->inherits("QQuickText") && !item->property("text").toString().isEmpty()) body(item);
@@ -180,8 +166,7 @@ void forEachText(QQuickItem* item, const std::function<void(QQuickItem*)>& body)
 QRectF placeOf(const QQuickItem* item) { return item->mapRectToScene(item->boundingRect()); }
 
 TEST_P(SettingsPanes, CutNothingAndOverlapNowhereWithTextsTwiceAsLong) {
-  Doubled doubled;
-  QCoreApplication::installTranslator(&doubled);
+  const testsupport::LongTexts longTexts;
   testsupport::SettingsStage stage;
   QQuickView& view = stage.pane(GetParam().pane);
   auto* area = testsupport::find(view, "SettingsPaneArea");
@@ -201,7 +186,21 @@ TEST_P(SettingsPanes, CutNothingAndOverlapNowhereWithTextsTwiceAsLong) {
       EXPECT_FALSE(overlaps) << words << " and " << other->property("text").toString().toStdString();
     }
   }
-  QCoreApplication::removeTranslator(&doubled);
+}
+
+void expectNotesOfTheirWidth(QQuickItem* area) {
+  forEachText(area, [](const QQuickItem* text) {
+    const int width = text->property("maximumWidth").toInt();
+    if (width == 0) return;
+    EXPECT_EQ(text->width(), width) << text->property("text").toString().toStdString();
+  });
+}
+
+TEST_P(SettingsPanes, KeepTheWidthOfTheirNotesBesideLongLabels) {
+  expectNotesOfTheirWidth(testsupport::find(m_stage.pane(GetParam().pane), "SettingsPaneArea"));
+  const testsupport::LongTexts longTexts;
+  testsupport::SettingsStage stage;
+  expectNotesOfTheirWidth(testsupport::find(stage.pane(GetParam().pane), "SettingsPaneArea"));
 }
 
 std::vector<QRectF> placesOfNamed(testsupport::SettingsStage& stage, const char* pane) {

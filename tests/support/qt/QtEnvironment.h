@@ -1,13 +1,15 @@
+#pragma once
+
 #include <gtest/gtest.h>
 
 #include <QGuiApplication>
 #include <QQuickWindow>
 #include <memory>
 
-namespace {
+namespace testsupport {
 
-// The application object that every view needs, on no display.
-class QtEnvironment final : public testing::Environment {
+/// The application object that every adapter and every view needs, on no display.
+class QtEnvironment : public testing::Environment {
  public:
   void SetUp() override {
     qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -23,6 +25,4 @@ class QtEnvironment final : public testing::Environment {
   std::unique_ptr<QGuiApplication> m_application;
 };
 
-[[maybe_unused]] const auto* const environment = testing::AddGlobalTestEnvironment(new QtEnvironment);
-
-}  // namespace
+}  // namespace testsupport
