@@ -104,7 +104,7 @@ class Day:
         self.desktop.copy("secret", "x-kde-passwordManagerHint")
         time.sleep(0.5)  # three polls
         self.counts["secrets"] += 1
-        if self.record_names() != before:
+        if self.record_names()[:1] != before[:1]:
             self.blame("kept secrets", self.number)
 
     def expect_record(self, copy, word=None):
@@ -112,8 +112,7 @@ class Day:
         copy()
         self.counts["copies"] += 1
         def is_there():
-            now = self.record_names()
-            return len(now) > len(before) and (word is None or self.is_newest(word))
+            return self.record_names()[:1] != before[:1] and (word is None or self.is_newest(word))
         try:
             wait_until(is_there, "the copy")
         except Timeout:
