@@ -49,15 +49,24 @@ std::optional<std::string> textOf(const ClipboardItem& item) {
   return firstCharacters(foundation::toValidUtf8(part));
 }
 
-// One line, and nothing that a terminal would obey.
-std::string onOneLine(std::string text) {
+// What a terminal would obey: a control character of ASCII, or the first byte of one beyond it.
+bool isControl(std::string_view text, std::size_t index) {
+  const auto byte = static_cast<unsigned char>(text[index]);
+  if (byte < 0x20 || byte == 0x7F) return true;
+  return byte == 0xC2 && index + 1 < text.size() && static_cast<unsigned char>(text[index + 1]) < 0xA0;
+}
+
+// On one line, with a space for each control character.
+void appendLine(std::string& out, std::string_view text) {
+  std::size_t written = 0;
   for (std::size_t index = 0; index < text.size(); ++index) {
-    const auto byte = static_cast<unsigned char>(text[index]);
-    if (byte < 0x20 || byte == 0x7F) text[index] = ' ';
-    const bool isC1 = byte == 0xC2 && index + 1 < text.size() && static_cast<unsigned char>(text[index + 1]) < 0xA0;
-    if (isC1) text.replace(index, 2, " ");
+    if (!isControl(text, index)) continue;
+    out.append(text, written, index - written);
+    out += ' ';
+    if (text[index] == '\xC2') ++index;
+    written = index + 1;
   }
-  return text;
+  out.append(text, written);
 }
 
 // A long list is little else than strings, so they are written straight into it.
@@ -115,8 +124,10 @@ std::string lines(const std::vector<NumberedRecord>& records) {
   for (const auto& [number, record] : records) {
     const auto source = foundation::toValidUtf8(record->sourceAppBundleIdentifier().value_or("-"));
     all += std::to_string(number) + "  " + isoDate(record->creationDate()) + "  " + std::to_string(record->dataSize());
-    all += "  " + onOneLine(source) + "  ";
-    all += onOneLine(textOf(*record).value_or(""));
+    all += "  ";
+    appendLine(all, source);
+    all += "  ";
+    if (const auto text = textOf(*record)) appendLine(all, *text);
     all += '\n';
   }
   return all;
