@@ -1,4 +1,5 @@
 import QtQuick
+import Quillmonger.Resources
 
 // One of the program's own symbols in one colour.
 Image {
@@ -9,5 +10,5 @@ Image {
     width: size
     height: size
     sourceSize: Qt.size(size * Screen.devicePixelRatio, size * Screen.devicePixelRatio)
-    source: "image://symbol/" + name + "?" + color
+    source: "image://symbol/" + name + "?" + ColorNames.name(color)
 }

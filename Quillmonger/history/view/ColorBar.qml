@@ -16,5 +16,5 @@ ColorSample {
     color: sample
     outline: isSelected ? theme.selectedPrimary : theme.primary
     Accessible.role: Accessible.Graphic
-    Accessible.name: qsTrId("accessibility_color").arg(sample.toString().toUpperCase())
+    Accessible.name: qsTrId("accessibility_color").arg(ColorNames.name(sample).toUpperCase())
 }
