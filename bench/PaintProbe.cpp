@@ -40,8 +40,10 @@ class Probe final {
   ~Probe() { xcb_disconnect(m_connection); }
 
   std::vector<std::uint8_t> pixels() {
-    constexpr std::uint16_t side = 24;
-    return bench::ScreenPixels(m_connection, *m_screen, side, side).now();
+    // Wide enough for a row's words: a smaller piece can look the same before and after.
+    constexpr std::uint16_t width = 400;
+    constexpr std::uint16_t height = 48;
+    return bench::ScreenPixels(m_connection, *m_screen, width, height).now();
   }
 
   bool sawMap() {

@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 #include <QWindow>
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 #include "Platform/qt/QuickView.h"
@@ -35,6 +36,9 @@ void tellArrival(xcb_window_t id) {
 // window of neither, or of the loss alone when it is back already.
 class QtApplication::FocusFilter final : public QAbstractNativeEventFilter {
  public:
+  /// `tellLoss` is called each time that a window of ours has lost the keyboard.
+  explicit FocusFilter(std::function<void()> tellLoss) : m_tellLoss(std::move(tellLoss)) {}
+
   bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* /*result*/) override {
     if (eventType != "xcb_generic_event_t") return false;
     const auto* event = static_cast<const xcb_generic_event_t*>(message);
@@ -45,7 +49,11 @@ class QtApplication::FocusFilter final : public QAbstractNativeEventFilter {
     // Where the pointer is, while the keyboard is nobody's.
     if (focus->detail == XCB_NOTIFY_DETAIL_POINTER) return false;
     m_hasFocus = type == XCB_FOCUS_IN;
-    if (m_hasFocus) tellArrival(focus->event);
+    if (m_hasFocus) {
+      tellArrival(focus->event);
+    } else {
+      m_tellLoss();
+    }
     return false;
   }
 
@@ -53,19 +61,30 @@ class QtApplication::FocusFilter final : public QAbstractNativeEventFilter {
   [[nodiscard]] bool hasFocus() const { return m_hasFocus; }
 
  private:
+  std::function<void()> m_tellLoss;
   bool m_hasFocus = false;
 };
 
-QtApplication::QtApplication(quillmonger::WindowSystem& windowSystem)
-    : m_windowSystem(windowSystem), m_focusFilter(std::make_unique<FocusFilter>()) {
+QtApplication::QtApplication(quillmonger::WindowSystem& windowSystem) : m_windowSystem(windowSystem) {
+  // In a later turn, when Qt has heard of it too.
+  m_focusFilter = std::make_unique<FocusFilter>([this] {
+    QMetaObject::invokeMethod(
+        &m_connections, [this] { resignUnlessFocused(); }, Qt::QueuedConnection);
+  });
   QGuiApplication::setQuitOnLastWindowClosed(false);
   qGuiApp->installNativeEventFilter(m_focusFilter.get());
   QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, &m_connections,
                    [this](Qt::ApplicationState state) {
-                     const bool wasActive = std::exchange(m_isActive, state == Qt::ApplicationActive);
-                     if (wasActive && !m_isActive && !isFrontAwaited() && !m_focusFilter->hasFocus())
-                       m_didResignActive.send(0);
+                     m_isActive = m_isActive || state == Qt::ApplicationActive;
+                     resignUnlessFocused();
                    });
+}
+
+// Of a loss that was over when Qt told of it, Qt tells nothing when the keyboard is lost in earnest: the display does.
+void QtApplication::resignUnlessFocused() {
+  const bool isStillActive = QGuiApplication::applicationState() == Qt::ApplicationActive || m_focusFilter->hasFocus();
+  if (isStillActive || !std::exchange(m_isActive, false)) return;
+  if (!isFrontAwaited()) m_didResignActive.send(0);
 }
 
 QtApplication::~QtApplication() { qGuiApp->removeNativeEventFilter(m_focusFilter.get()); }

@@ -25,6 +25,7 @@ class QtApplication final : public quillmonger::Application {
 
  private:
   class FocusFilter;
+  void resignUnlessFocused();
 
   quillmonger::WindowSystem& m_windowSystem;
   foundation::Stream<int> m_didResignActive;

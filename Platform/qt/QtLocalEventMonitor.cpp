@@ -54,7 +54,7 @@ std::optional<KeyEvent> keyEvent(const QKeyEvent& event) {
   // The window system's modifiers are those before the event, so the key's own is taken from the event itself.
   const std::uint32_t others = flags(event.QInputEvent::modifiers()) & ~own;
   return KeyEvent{own == 0 ? KeyEvent::Type::keyDown : KeyEvent::Type::flagsChanged, *code,
-                  others | (isPress ? own : 0)};
+                  others | (isPress ? own : 0), event.isAutoRepeat()};
 }
 
 bool keepsKey(const QWindow& window, const QKeyEvent& event) {

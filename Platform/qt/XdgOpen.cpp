@@ -1,6 +1,7 @@
 #include "Platform/qt/XdgOpen.h"
 
 #include <fcntl.h>
+#include <signal.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -9,6 +10,7 @@
 #include <QSocketNotifier>
 #include <optional>
 #include <string>
+#include <thread>
 #include <utility>
 
 // Some versions of this header don't say that it is C.
@@ -28,7 +30,12 @@ std::optional<pid_t> start(const std::string& address) {
     posix_spawn_file_actions_addopen(&files, file, "/dev/null", O_RDWR, 0);
   posix_spawnattr_t attributes;
   posix_spawnattr_init(&attributes);
-  posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID);
+  // This program doesn't mind a broken pipe; what others start rely on it.
+  sigset_t defaults;
+  sigemptyset(&defaults);
+  sigaddset(&defaults, SIGPIPE);
+  posix_spawnattr_setsigdefault(&attributes, &defaults);
+  posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGDEF);
 
   std::string program = "xdg-open";
   std::string argument = address;
@@ -51,6 +58,11 @@ bool xdgOpen(const foundation::Url& url, std::function<void()> failed) {
   const auto process = start(url.absoluteString());
   if (!process) return false;
   const int end = pidfd_open(*process, 0);
+  if (end < 0) {
+    // Unwatched, but not left behind as a zombie.
+    std::thread([process] { waitpid(*process, nullptr, 0); }).detach();
+    return true;
+  }
   auto* watch = new QSocketNotifier(end, QSocketNotifier::Read, qApp);
   QObject::connect(watch, &QSocketNotifier::activated, watch, [watch, end, process, failed = std::move(failed)] {
     if (!hasSucceeded(*process)) QMetaObject::invokeMethod(qApp, failed, Qt::QueuedConnection);

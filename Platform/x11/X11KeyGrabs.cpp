@@ -100,6 +100,7 @@ void X11KeyGrabs::press(const xcb_key_press_event_t& event) {
   for (const auto& [identifier, chord] : m_chords) {
     const std::uint16_t state = m_modifiers.state(chord.serviceModifiers);
     if (chord.key != event.detail || (event.state & m_modifiers.chordMask()) != state) continue;
+    if (m_held.empty()) m_grabbingKey = event.detail;
     const bool isNew = m_held.emplace(event.detail, chord).second;
     m_isChordHeld = true;
     if (isNew) tell(chord, EventType::keyDown);
@@ -107,11 +108,18 @@ void X11KeyGrabs::press(const xcb_key_press_event_t& event) {
   }
 }
 
-// By the key alone: the modifiers may have been let go of before it.
+// By the key alone: the modifiers may have been let go of before it. With the key that was pressed first the keyboard
+// goes back to the others, and the release of a second chord's key is never heard.
 void X11KeyGrabs::release(const xcb_key_release_event_t& event) {
-  const auto held = m_held.extract(event.detail);
+  std::map<xcb_keycode_t, Chord> released;
+  if (event.detail == m_grabbingKey) {
+    released = std::exchange(m_held, {});
+  } else {
+    released.insert(m_held.extract(event.detail));
+  }
   m_isChordHeld = !m_held.empty();
-  if (held) tell(held.mapped(), EventType::keyUp);
+  for (const auto& [key, chord] : released)
+    tell(chord, EventType::keyUp);
 }
 
 // The first hot key of the chord gets it.

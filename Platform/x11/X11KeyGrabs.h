@@ -52,6 +52,7 @@ class X11KeyGrabs final {
   std::map<Identifier, Chord> m_chords;
   /// By its chord: while it is held, the chord can get another identifier or the same one anew.
   std::map<xcb_keycode_t, Chord> m_held;
+  xcb_keycode_t m_grabbingKey = 0;  // the one of `m_held` that was pressed first
   std::atomic<bool> m_isChordHeld = false;
 };
 

@@ -12,6 +12,8 @@ struct KeyEvent {
   std::uint16_t keyCode = 0;
   /// The modifiers held after the event, as `ModifierFlag` bits.
   std::uint32_t modifierFlags = 0;
+  /// Of a key that is held down.
+  bool isRepeat = false;
 };
 
 /// Command is the Control key of this desktop's keyboards inside the program; Option is the left Alt key.

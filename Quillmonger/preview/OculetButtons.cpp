@@ -29,14 +29,15 @@ OculetButtons::OculetButtons(const Collaborators& collaborators) : m_with(collab
 Disposition OculetButtons::take(const KeyEvent& event) {
   const int digit = pressedDigit(event);
   if (digit < 0 || !m_with.preview.item().value()) return Disposition::pass;
-  press(static_cast<std::size_t>(digit));
+  if (!event.isRepeat) press(static_cast<std::size_t>(digit));
   return Disposition::swallow;
 }
 
 void OculetButtons::press(std::size_t button) {
   const PreviewContent& content = m_with.preview.content().value();
   const auto copied = [this, button, pressed = std::weak_ptr(m_with.preview.item().value())](const auto& text) {
-    if (pressed.lock() == m_with.preview.item().value()) showCopied(button, text);
+    const auto item = pressed.lock();
+    if (item && item == m_with.preview.item().value()) showCopied(button, text);
   };
   std::size_t index = button;
   for (const auto* rows : {&content.dateRows, &content.colorRows}) {

@@ -10,7 +10,8 @@ void OutsideOpening::open(const foundation::Url& url, const Failed& failed) {
   const auto failedEarly = [this, failed, start = m_with.runLoop.date()] {
     if (m_with.runLoop.date() - start < giveUpTime) failed();
   };
-  if (!m_with.open(url, failedEarly)) failed();
+  // In a later turn either way: whoever asks may be in the middle of a click.
+  if (!m_with.open(url, failedEarly)) m_with.runLoop.post(failed);
 }
 
 void OutsideOpening::tellFailure(const std::string& address) {

@@ -33,7 +33,7 @@ class OutsideOpening final {
 
   /// Where nothing opens it, an alert has the address, which can be copied there.
   void open(const foundation::Url& url);
-  /// Where nothing opens it, `failed` is called: before this returns, or later.
+  /// Where nothing opens it, `failed` is called in a later turn.
   void open(const foundation::Url& url, const Failed& failed);
 
  private:

@@ -124,17 +124,28 @@ HistoryListModel::Change HistoryListModel::setRows(const Rows& rows) {
   return Change::gradual;
 }
 
-// A longer term leaves most rows where they are, with another hit.
+// A longer term leaves most rows where they are, with another hit. Rows that follow one another are told of at once:
+// the view has much to do for each telling.
 void HistoryListModel::updateMatches(const Rows& before) {
   if (!before->mayHaveMatches() && !m_rows->mayHaveMatches()) return;
+  int first = -1;
+  int last = -1;
+  const auto tell = [&] {
+    if (first >= 0) emit dataChanged(index(first), index(last), {lineRole, attributedLineRole});
+  };
   const auto added = m_rows->size() - before->size();
   std::size_t shift = 0;
   for (std::size_t row = 0; row < before->size(); ++row) {
     if (shift == 0 && added > 0 && before->found()[row] != m_rows->found()[row]) shift = added;
     if (before->at(row).match == m_rows->at(row + shift).match) continue;
-    const QModelIndex changed = index(static_cast<int>(row + shift));
-    emit dataChanged(changed, changed, {lineRole, attributedLineRole});
+    const int changed = static_cast<int>(row + shift);
+    if (first < 0 || changed != last + 1) {
+      tell();
+      first = changed;
+    }
+    last = changed;
   }
+  tell();
 }
 
 int HistoryListModel::rowOf(const std::shared_ptr<ClipboardItemViewModel>& item) const {

@@ -24,6 +24,7 @@ bool isKnownFormat(const QByteArray& format) {
 bool isTooLarge(const QImageReader& reader, const QSize& size) {
   const double pixels = double{1} * size.width() * size.height();
   if (reader.format() == "jpeg") return pixels > mostJpegPixels;
+  if (QImageReader::allocationLimit() == 0) return false;  // none
   constexpr double bytesInMegabyte = 1 << 20;
   const int bytesPerPixel = std::max(4, QImage::toPixelFormat(reader.imageFormat()).bitsPerPixel() / 8);
   return pixels * bytesPerPixel > QImageReader::allocationLimit() * bytesInMegabyte;

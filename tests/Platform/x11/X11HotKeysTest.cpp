@@ -21,11 +21,13 @@ using testsupport::KeyboardClient;
 constexpr HotKeyIdentifier seven{0x4B424853, 7};
 constexpr HotKeyIdentifier eight{0x4B424853, 8};
 constexpr std::uint32_t evdevV = 47;
+constexpr std::uint32_t evdevB = 48;
 constexpr std::uint32_t evdevShift = 42;
 constexpr std::uint32_t evdevSuper = 125;
 constexpr std::uint32_t evdevCapsLock = 58;
 constexpr std::uint32_t evdevNumLock = 69;
 constexpr std::uint32_t virtualV = 9;
+constexpr std::uint32_t virtualB = 11;
 constexpr std::uint32_t shiftAndCommand = 0x300;
 constexpr std::uint16_t shiftAndSuperState = XCB_MOD_MASK_SHIFT | XCB_MOD_MASK_4;
 
@@ -95,6 +97,22 @@ TEST_F(X11HotKeys, HoldAChordUntilItsKeyIsLetGoOfWhateverBecomesOfItsModifiers) 
   m_user.release(evdevV);
 
   ASSERT_TRUE(isTold(2));
+  EXPECT_FALSE(m_hotKeys->isChordHeld());
+}
+
+TEST_F(X11HotKeys, HoldNothingAfterTwoChordsThatWereRolled) {
+  ASSERT_TRUE(m_hotKeys->registerHotKey(seven, virtualV, shiftAndCommand));
+  ASSERT_TRUE(m_hotKeys->registerHotKey(eight, virtualB, shiftAndCommand));
+  pressChord();
+  m_user.press(evdevB);
+  ASSERT_TRUE(isTold(2));
+
+  m_user.release(evdevV);
+  m_user.release(evdevB);
+  m_user.release(evdevShift);
+  m_user.release(evdevSuper);
+
+  ASSERT_TRUE(isTold(4));
   EXPECT_FALSE(m_hotKeys->isChordHeld());
 }
 

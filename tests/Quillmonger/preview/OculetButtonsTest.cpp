@@ -126,6 +126,15 @@ TEST_F(OculetButtonsTest, ArePressedByOptionAndADigit) {
   EXPECT_EQ(copies, std::vector<std::string>{"2023-11-14T22:13:20Z"});
 }
 
+TEST_F(OculetButtonsTest, ArePressedOnceByAKeyThatIsHeldDown) {
+  show("1700000000");
+
+  EXPECT_TRUE(keyboard.send({KeyEvent::Type::keyDown, quickPasteKeyCodes.at(0), optionFlag, true}));
+  runAll();
+
+  EXPECT_TRUE(copies.empty());
+}
+
 TEST_F(OculetButtonsTest, LeaveEveryOtherChordAlone) {
   show("1700000000");
 

@@ -46,6 +46,8 @@ TEST_F(OutsideOpeningTest, TellsTheAddressWhenTheOpenerIsAbsent) {
   canStart = false;
 
   opening.open(url);
+  EXPECT_TRUE(alert.shown().empty());
+  runLoop.runPosted();
 
   ASSERT_EQ(alert.shown().size(), 1U);
   EXPECT_EQ(alert.shown()[0].message, "open_failed_title");
@@ -81,6 +83,7 @@ TEST_F(OutsideOpeningTest, LeavesTheTellingToWhoeverWantsToHearOfIt) {
 
   canStart = false;
   opening.open(url, [&failures] { ++failures; });
+  runLoop.runPosted();
 
   EXPECT_EQ(failures, 2);
   EXPECT_TRUE(alert.shown().empty());
@@ -95,6 +98,7 @@ TEST_F(OutsideOpeningCopyTest, CopiesTheAddressForTheFirstButton) {
   canStart = false;
 
   opening.open(url);
+  runLoop.runPosted();
 
   EXPECT_EQ(copies, std::vector<std::string>{"https://quillmonger.example/privacy"});
 }

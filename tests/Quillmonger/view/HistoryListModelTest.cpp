@@ -96,7 +96,11 @@ TEST_F(HistoryListModelTest, TellsOfAnotherHitInARowThatStays) {
 
   show({0, 5, 1, 2}, CharacterRange{0, 0});
 
-  EXPECT_EQ(changed.count(), 3);
+  ASSERT_EQ(changed.count(), 2);
+  EXPECT_EQ(changed[0][0].toModelIndex().row(), 0);
+  EXPECT_EQ(changed[0][1].toModelIndex().row(), 0);
+  EXPECT_EQ(changed[1][0].toModelIndex().row(), 2);
+  EXPECT_EQ(changed[1][1].toModelIndex().row(), 3);
 }
 
 TEST_F(HistoryListModelTest, ChangesNothingForEqualRows) {
