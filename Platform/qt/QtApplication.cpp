@@ -75,15 +75,15 @@ QtApplication::QtApplication(quillmonger::WindowSystem& windowSystem) : m_window
   qGuiApp->installNativeEventFilter(m_focusFilter.get());
   QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, &m_connections,
                    [this](Qt::ApplicationState state) {
-                     m_isActive = m_isActive || state == Qt::ApplicationActive;
+                     m_isActiveForQt = state == Qt::ApplicationActive;
+                     m_isActive = m_isActive || m_isActiveForQt;
                      resignUnlessFocused();
                    });
 }
 
 // Of a loss that was over when Qt told of it, Qt tells nothing when the keyboard is lost in earnest: the display does.
 void QtApplication::resignUnlessFocused() {
-  const bool isStillActive = QGuiApplication::applicationState() == Qt::ApplicationActive || m_focusFilter->hasFocus();
-  if (isStillActive || !std::exchange(m_isActive, false)) return;
+  if (m_isActiveForQt || m_focusFilter->hasFocus() || !std::exchange(m_isActive, false)) return;
   if (!isFrontAwaited()) m_didResignActive.send(0);
 }
 

@@ -30,6 +30,7 @@ class QtApplication final : public quillmonger::Application {
   quillmonger::WindowSystem& m_windowSystem;
   foundation::Stream<int> m_didResignActive;
   bool m_isActive = false;
+  bool m_isActiveForQt = false;  // which can be behind
   std::unique_ptr<FocusFilter> m_focusFilter;
   QObject m_connections;
 };
