@@ -14,6 +14,8 @@ namespace {
 constexpr std::size_t rowTextLimit = 512;
 // Above this many rows that come and go, a view that starts anew is faster, and as much as an eye can follow.
 constexpr std::ptrdiff_t gradualLimit = 16;
+// Rows, more than fit into the window.
+constexpr int screenful = 32;
 
 QString iconPath(const ClipboardItemViewModel& item) {
   const auto& url = item.item()->sourceAppBundleURL();
@@ -106,9 +108,7 @@ HistoryListModel::Change HistoryListModel::setRows(const Rows& rows) {
   const auto removed = oldEnd - starts.in1;
   const auto inserted = newEnd - starts.in2;
   if (removed + inserted > gradualLimit) {
-    beginResetModel();
-    m_rows = rows;
-    endResetModel();
+    replaceRows(rows);
     return Change::reset;
   }
   if (removed > 0) {
@@ -122,6 +122,28 @@ HistoryListModel::Change HistoryListModel::setRows(const Rows& rows) {
   if (inserted > 0) endInsertRows();
   updateMatches(between);
   return Change::gradual;
+}
+
+// The rows on the screen stay and show other items, which spares the view making them anew; only one that had few rows
+// starts afresh.
+void HistoryListModel::replaceRows(const Rows& rows) {
+  const auto before = static_cast<int>(m_rows->size());
+  const auto after = static_cast<int>(rows->size());
+  if (after > before && before < screenful) {
+    beginResetModel();
+    m_rows = rows;
+    endResetModel();
+    return;
+  }
+  if (after < before) {
+    beginRemoveRows({}, after, before - 1);
+    m_rows = m_rows->without(rows->size(), m_rows->size());
+    endRemoveRows();
+  }
+  if (after > before) beginInsertRows({}, before, after - 1);
+  m_rows = rows;
+  if (after > before) endInsertRows();
+  if (before > 0 && after > 0) emit dataChanged(index(0), index(std::min(before, after) - 1));
 }
 
 // A longer term leaves most rows where they are, with another hit. Rows that follow one another are told of at once:

@@ -8,8 +8,9 @@
 
 namespace quillmonger {
 
-/// The rows of the history. They change by identity: a row that stays keeps its place in the view, a new search
-/// replaces all at once. Each row is worked out when it is shown. Not final, since QML derives from it. Main thread.
+/// The rows of the history. They change by identity: a row that stays keeps its place in the view. After a new
+/// search the rows on the screen stay and show what was found. Each row is worked out when it is shown. Not final,
+/// since QML derives from it. Main thread.
 class HistoryListModel : public QAbstractListModel {
   Q_OBJECT
   QML_ELEMENT
@@ -48,6 +49,7 @@ class HistoryListModel : public QAbstractListModel {
   [[nodiscard]] QVariant imageColor(ClipboardItemViewModel& item) const;
   [[nodiscard]] QVariant textColor(ClipboardItemViewModel& item) const;
   void takeFindings(const ItemInspection::Item& item);
+  void replaceRows(const Rows& rows);
   void updateMatches(const Rows& before);
 
   ItemInspection& m_inspection;

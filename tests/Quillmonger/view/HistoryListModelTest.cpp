@@ -82,12 +82,34 @@ TEST_F(HistoryListModelTest, StartsAnewForAnotherSearch) {
   std::vector<std::size_t> all(40);
   std::iota(all.begin(), all.end(), std::size_t{0});
   show(all);
-  const QSignalSpy reset(&m_model, &QAbstractItemModel::modelReset);
+  const QSignalSpy changed(&m_model, &QAbstractItemModel::dataChanged);
 
   EXPECT_EQ(show({7}), HistoryListModel::Change::reset);
-
-  EXPECT_EQ(reset.count(), 1);
   EXPECT_EQ(lines(), Lines{"7"});
+  EXPECT_EQ(changed.count(), 1);
+
+  const QSignalSpy reset(&m_model, &QAbstractItemModel::modelReset);
+  EXPECT_EQ(show(all), HistoryListModel::Change::reset);
+  EXPECT_EQ(reset.count(), 1);
+  EXPECT_EQ(lines().size(), all.size());
+}
+
+TEST_F(HistoryListModelTest, KeepsTheRowsOfAFullWindowAndShowsOtherItemsInThem) {
+  std::vector<std::size_t> some(33);
+  std::iota(some.begin(), some.end(), std::size_t{0});
+  std::vector<std::size_t> all(40);
+  std::iota(all.rbegin(), all.rend(), std::size_t{0});
+  show(some);
+  const QSignalSpy reset(&m_model, &QAbstractItemModel::modelReset);
+  const QSignalSpy inserted(&m_model, &QAbstractItemModel::rowsInserted);
+  const QSignalSpy changed(&m_model, &QAbstractItemModel::dataChanged);
+
+  EXPECT_EQ(show(all), HistoryListModel::Change::reset);
+
+  EXPECT_EQ(reset.count(), 0);
+  EXPECT_EQ(inserted.front().at(1).toInt(), 33);
+  EXPECT_EQ(changed.back()[1].toModelIndex().row(), 32);
+  EXPECT_EQ(lines().front(), "39");
 }
 
 TEST_F(HistoryListModelTest, TellsOfAnotherHitInARowThatStays) {
