@@ -8,9 +8,9 @@
 
 namespace quillmonger {
 
-/// The rows of the history. They change by identity: a row that stays keeps its place in the view. After a new
-/// search the rows on the screen stay and show what was found. Each row is worked out when it is shown. Not final,
-/// since QML derives from it. Main thread.
+/// The rows of the history. They change by identity: a row that stays keeps its place in the view. After a new search
+/// the rows on the screen stay and show what was found. Each row is worked out when it is shown. Not final, since QML
+/// derives from it. Main thread.
 class HistoryListModel : public QAbstractListModel {
   Q_OBJECT
   QML_ELEMENT
