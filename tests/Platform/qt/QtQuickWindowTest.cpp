@@ -115,7 +115,7 @@ TEST_F(QtQuickWindowTest, StandsBehindTheFrontWithoutAskingForIt) {
   m_window.setLevel(2);
 
   m_window.orderFront();
-  QTest::qWait(0);
+  QCoreApplication::processEvents();
 
   EXPECT_TRUE(m_window.isVisible());
   EXPECT_EQ(m_window.level(), 2);

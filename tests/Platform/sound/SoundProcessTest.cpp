@@ -189,7 +189,7 @@ TEST(SoundProcessWithoutService, PlaysNothingWithoutItsProgram) {
 
   ASSERT_TRUE(player);
   player.value()->play();
-  QTest::qWait(1);
+  QCoreApplication::processEvents();
 }
 
 TEST(SoundProcessWithoutService, SaysWhyAFileCantBePlayed) {

@@ -28,6 +28,13 @@ class FeedUpdater : public testing::Test {
   [[nodiscard]] auto checkCount() const { return std::ranges::count(service.calls, "check"); }
   void passFirstDelay() { runLoop.advance(Updater::firstCheckDelay); }
   void passDay() { runLoop.advance(Updater::checkInterval); }
+  // An update that was found, wanted and loaded.
+  void bringToReady() {
+    updater.checkForUpdates();
+    service.answer(updateTo("2.0"));
+    updater.download();
+    service.deliver(std::filesystem::path("/cache/2.0.deb"));
+  }
 
   testsupport::TestDefaults test;
   defaults::Defaults& settings = test.defaults;
@@ -435,10 +442,7 @@ TEST_F(FeedUpdater, OpensTheFileOnlyWhenTheUserAgrees) {
 
 TEST_F(FeedUpdater, TellsWhenNoProgramOpensTheFile) {
   opens = false;
-  updater.checkForUpdates();
-  service.answer(updateTo("2.0"));
-  updater.download();
-  service.deliver(std::filesystem::path("/cache/2.0.deb"));
+  bringToReady();
 
   updater.install();
   runLoop.runPosted();
@@ -450,10 +454,7 @@ TEST_F(FeedUpdater, TellsWhenNoProgramOpensTheFile) {
 
 TEST_F(FeedUpdater, LeavesAnOpenedFilesFailureAloneOnceItChecksAgain) {
   opens = false;
-  updater.checkForUpdates();
-  service.answer(updateTo("2.0"));
-  updater.download();
-  service.deliver(std::filesystem::path("/cache/2.0.deb"));
+  bringToReady();
   updater.install();
 
   updater.checkForUpdates();
