@@ -135,13 +135,10 @@ void HistoryListModel::replaceRows(const Rows& rows) {
     endResetModel();
     return;
   }
-  if (after < before) {
-    beginRemoveRows({}, after, before - 1);
-    m_rows = m_rows->without(rows->size(), m_rows->size());
-    endRemoveRows();
-  }
+  if (after < before) beginRemoveRows({}, after, before - 1);
   if (after > before) beginInsertRows({}, before, after - 1);
   m_rows = rows;
+  if (after < before) endRemoveRows();
   if (after > before) endInsertRows();
   if (before > 0 && after > 0) emit dataChanged(index(0), index(std::min(before, after) - 1));
 }
