@@ -19,6 +19,7 @@ def nodes(accessible):
     place = accessible.get_extents(Atspi.CoordType.SCREEN) if accessible.get_component_iface() else Atspi.Rect()
     yield {"role": accessible.get_role_name(), "name": accessible.get_name(),
            "description": accessible.get_description(), "place": [place.x, place.y, place.width, place.height],
+           "active": states.contains(Atspi.StateType.ACTIVE),
            "checked": states.contains(Atspi.StateType.CHECKED),
            "selected": states.contains(Atspi.StateType.SELECTED),
            "focused": states.contains(Atspi.StateType.FOCUSED),

@@ -156,6 +156,8 @@ class TheStartAtLogin(PaneCase):
         wait_until(file.exists, "the autostart file again")
 
         _, editor = self.open_gtk_editor()
+        # The toolkit takes a loss of the keyboard for real only when it has lasted a while.
+        wait_until(lambda: not any(node["active"] for node in self.nodes()), "the program to be no longer in front")
         file.unlink()
         self.desktop.focus(settings)
 
