@@ -37,13 +37,14 @@ class Day:
 
     def open_programs(self):
         self.programs = [program(self.desktop) for program in PROGRAMS]
+        self.files = targets.FileManager(self.desktop)
         picture = ["convert", "-size", "300x200", "gradient:red-blue", "png:-"]
         self.picture = subprocess.run(picture, check=True, capture_output=True).stdout
 
     def live(self, seconds):
         acts = [self.copy_text] * 4 + [self.paste] * 5 + [
             self.copy_in_editor, self.copy_in_word_processor, self.copy_picture, self.copy_files, self.copy_formatted,
-            self.copy_secret, self.paste_picture]
+            self.copy_secret, self.paste_picture, self.paste_files]
         self.copy_text()
         end = time.monotonic() + seconds
         while time.monotonic() < end:
@@ -94,7 +95,11 @@ class Day:
         self.expect_record(lambda: self.desktop.copy(self.picture + self.new_word().encode(), "image/png"))
 
     def copy_files(self):
-        self.expect_record(lambda: self.desktop.copy(f"file:///tmp/{self.new_word()}.txt\r\n", "text/uri-list"))
+        word = self.new_word()
+        names = [f"{word}.{ending}" for ending in self.chance.choice((["txt"], ["odt", "png"]))]
+        self.files.select(names)
+        self.expect_record(lambda: self.desktop.press("ctrl+c"), word)
+        return word, names
 
     def copy_formatted(self):
         self.expect_record(lambda: self.desktop.copy(f"<b>{self.new_word()}</b>", "text/html"))
@@ -123,7 +128,7 @@ class Day:
             self.blame("doubled copies", [(record["text"], record["types"]) for record in new])
 
     def is_newest(self, word):
-        return (self.desktop.records()[0]["text"] or "").startswith(word)
+        return word in (self.desktop.records()[0]["text"] or "")
 
     def record_names(self):
         begin = time.monotonic()
@@ -163,6 +168,15 @@ class Day:
         self.pictures += 1
         try:
             browser.wait_for_picture(self.pictures)
+        except Timeout as difference:
+            self.blame("wrong pastes", str(difference))
+
+    def paste_files(self):
+        word, names = self.copy_files()
+        self.desktop.focus(self.files.window)
+        self.choose(word)
+        try:
+            self.files.wait_for_files(names)
         except Timeout as difference:
             self.blame("wrong pastes", str(difference))
 

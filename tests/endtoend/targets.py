@@ -140,3 +140,38 @@ class WordProcessor(Target):
         # Spaces at the ends and doubled ones have elements of their own.
         words = re.sub(r"<[^>]*>|\n\s*", "", body.group(0).replace("<text:s/>", " ")) if body else ""
         return html.unescape(words)
+
+
+class FileManager:
+    """A file manager with two folders: one to copy files from and one to paste them into."""
+
+    def __init__(self, desktop):
+        self.desktop = desktop
+        self.outgoing, self.source_window = self._open("outgoing")
+        self.incoming, self.window = self._open("incoming")
+
+    def _open(self, name):
+        folder = self.desktop.home / name
+        folder.mkdir()
+        self.desktop.spawn(["thunar", folder])
+        return folder, self.desktop.window(f"^{name}", seconds=30)
+
+    def select(self, names):
+        """Puts the first folder in front, with these empty files in it alone, and selects them."""
+        clear(self.outgoing)
+        for name in names:
+            (self.outgoing / name).touch()
+        self.desktop.focus(self.source_window)
+        time.sleep(1)  # until the window shows them
+        self.desktop.press("ctrl+a")
+
+    def wait_for_files(self, names):
+        def found():
+            return sorted(file.name for file in self.incoming.iterdir())
+        wait_until(lambda: found() == sorted(names), f"{names} instead of {found()}")
+        clear(self.incoming)
+
+
+def clear(folder):
+    for file in folder.iterdir():
+        file.unlink()

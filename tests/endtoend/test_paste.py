@@ -161,3 +161,24 @@ class IntoAWordProcessor(Pastes, unittest.TestCase):
 
         self.target.wait_for_text("heavy")
         self.assertFalse(self.has_bold())
+
+
+class IntoAFileManager(unittest.TestCase):
+    def test_the_files_themselves_are_pasted_not_their_names(self):
+        desktop = Desktop(BUILD)
+        desktop.__enter__()
+        self.addCleanup(desktop.__exit__)
+        desktop.start_app()
+        manager = targets.FileManager(desktop)
+        for names in (["poem.txt"], ["letter.odt", "Größe 漢字.png"]):
+            manager.select(names)
+            desktop.press("ctrl+c")
+            wait_until(lambda: any(names[0] in (record["text"] or "") for record in desktop.records()), "the copy")
+            desktop.copy("a later copy")
+            desktop.wait_for_text("a later copy")
+
+            desktop.focus(manager.window)
+            desktop.open_history()
+            desktop.press("Down", "Return")
+
+            manager.wait_for_files(names)
