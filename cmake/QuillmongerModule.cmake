@@ -130,9 +130,10 @@ function(quillmonger_qml_module target)
     get_filename_component(name "${file}" NAME)
     set_source_files_properties(${file} PROPERTIES QT_RESOURCE_ALIAS "${name}")
   endforeach()
+  string(REPLACE "." "/" module_path "${MODULE_URI}")
   # The engine looks for modules below this prefix by itself.
   qt_add_qml_module(${target} URI ${MODULE_URI} VERSION 1.0 RESOURCE_PREFIX /qt-project.org/imports NO_PLUGIN
-    OUTPUT_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}/module"
+    OUTPUT_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}/module/${module_path}"
     QML_FILES ${MODULE_QML} RESOURCES ${MODULE_RESOURCES})
 endfunction()
 
