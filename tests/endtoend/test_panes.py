@@ -328,8 +328,11 @@ class TheEffectsOfSettings(PaneCase):
     def test_the_window_keeps_its_title_bar_and_comes_back_where_it_was(self):
         self.desktop.start_app()
         window = self.open_settings()
-        self.desktop.run(["xdotool", "windowmove", "--sync", window, "90", "70"])
+        self.wait_still(window)
+        self.desktop.run(["xdotool", "windowmove", window, "90", "70"])
+        self.wait_still(window)
         place = self.desktop.geometry(window)[:2]
+        self.assertLess(place[0], 110)
 
         self.desktop.press("Right")
         self.wait_for_front("^Ignore$")
