@@ -79,8 +79,9 @@ constexpr auto entries = std::to_array<Entry>({
     {"delete_string", "Delete", "The word 'delete'."},
     {"dialog_deny_button", "Not Now", "deny button"},
     {"dialog_description",
-     "The copy is on the clipboard: paste it with the application's own keys. To let Quillmonger do that, allow it to "
-     "press keys in the system's settings, and paste again.",
+     "The copy is on the clipboard: paste it with the application\u2019s own keys. To let Quillmonger do that, allow "
+     "it to "
+     "press keys in the system\u2019s settings, and paste again.",
      "description for the accessibility dialog"},
     {"dialog_message", "Quillmonger may not paste into other applications yet", "message for the accessibility dialog"},
     {"dialog_open_button", "Open System Settings", "open system settings button"},
@@ -89,7 +90,7 @@ constexpr auto entries = std::to_array<Entry>({
     {"error_alert_email_subject", "Quillmonger problem report",
      "Email subject sent when the support button is pressed."},
     {"error_alert_email_support_button", "Write to support", "Email support button."},
-    {"error_alert_message", "Quillmonger can't open its history and has to stop. Your data was left as it is.",
+    {"error_alert_message", "Quillmonger can\u2019t open its history and has to stop. Your data was left as it is.",
      "Message shown in generic error alert."},
     {"error_alert_title", "Something went wrong", "Title shown in generic error alert."},
     {"finish_literal", "Finish", "Guide: the button that ends it."},
@@ -151,7 +152,7 @@ constexpr auto entries = std::to_array<Entry>({
      "Beside the button that copies the JSON text with a line a value."},
     {"preview_oculet_minify_json", "Minified JSON", "Beside the button that copies the JSON text on one line."},
     {"preview_oculet_tooltip", "Recognised in this text", "Tooltip of a panel with what was recognised."},
-    {"preview_picture_unreadable", "This picture can't be shown: it is damaged or too large.",
+    {"preview_picture_unreadable", "This picture can\u2019t be shown: it is damaged or too large.",
      "Shown in the place of such a picture."},
     {"preview_text", "Text", "Read aloud for the text of an item."},
     {"preview_text_hidden_disable_button", "Show it all:", "Button for disabling preview hide long text feature."},
@@ -198,7 +199,7 @@ constexpr auto entries = std::to_array<Entry>({
      "Switch: the search tells capitals from small letters."},
     {"settings_case_sensitive_hint", "\u201CNote\u201D finds \u201CNote\u201D, but not \u201Cnote\u201D.",
      "Explains the switch for upper and lower case."},
-    {"settings_clipboard_clear_history_alert_message", "Every item is deleted for good. This can't be undone.",
+    {"settings_clipboard_clear_history_alert_message", "Every item is deleted for good. This can\u2019t be undone.",
      "Text of the question before all items are deleted."},
     {"settings_clipboard_clear_history_alert_title", "Clear the whole history?",
      "Title of the question before all items are deleted."},
