@@ -97,8 +97,8 @@ class Day:
     def copy_files(self):
         word = self.new_word()
         names = [f"{word}.{ending}" for ending in self.chance.choice((["txt"], ["odt", "png"]))]
-        self.files.select(names)
-        self.expect_record(lambda: self.desktop.press("ctrl+c"), word)
+        self.files.offer(names)
+        self.expect_record(lambda: self.files.copy(names), word)
         return word, names
 
     def copy_formatted(self):

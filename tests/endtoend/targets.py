@@ -3,6 +3,7 @@
 import html
 import re
 import time
+import urllib.parse
 
 from desktop import Timeout, wait_until
 
@@ -156,14 +157,21 @@ class FileManager:
         self.desktop.spawn(["thunar", folder])
         return folder, self.desktop.window(f"^{name}", seconds=30)
 
-    def select(self, names):
-        """Puts the first folder in front, with these empty files in it alone, and selects them."""
+    def offer(self, names):
+        """Puts the first folder in front, with these empty files in it alone."""
         clear(self.outgoing)
         for name in names:
             (self.outgoing / name).touch()
         self.desktop.focus(self.source_window)
-        time.sleep(1)  # until the window shows them
-        self.desktop.press("ctrl+a")
+        time.sleep(1)  # that a person needs to see them
+
+    def copy(self, names):
+        """Copies what is in front, again until the window shows all of it."""
+        def copied():
+            self.desktop.press("ctrl+a", "ctrl+c")
+            content = self.desktop.clipboard("text/uri-list").decode()
+            return all(urllib.parse.quote(name) in content for name in names)
+        wait_until(copied, f"{names} on the clipboard", step=0.5)
 
     def wait_for_files(self, names):
         def found():

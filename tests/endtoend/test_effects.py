@@ -41,6 +41,10 @@ class TheRows(EffectCase):
             return picture if condition(picture) and self.picture(history) == picture else None
         return wait_until(look, what, step=0.05)
 
+    def are_all_marks_shown(self):
+        names = [node["name"] for node in self.nodes()]
+        return "Colour #FF8800" in names and names.count("Recognised content") == 2
+
     def test_show_what_the_settings_of_their_look_say_at_once(self):
         self.desktop.start_app()
         self.open_gtk_editor("from an application with an icon")
@@ -49,6 +53,7 @@ class TheRows(EffectCase):
         self.fill(*(f"row {number}" for number in range(4)), "1700000000", "#ff8800", "a line of many words " * 20)
         self.fill(*(f"row {number}" for number in range(4, 8)))
         history = self.desktop.open_history()
+        wait_until(self.are_all_marks_shown, "the marks of what was recognised")
         picture = self.wait_still_picture(history, bool, "the rows")
 
         for name, value, usual in (

@@ -33,6 +33,8 @@ class TheIgnoredApplications(PaneCase):
         self.click_on(self.node("push button", "Add an application"))
         self.wait_for_front("^Choose an Application$")
         self.desktop.type("mousep")
+        # The other one stands in the pane alone then, and in the picker no more.
+        wait_until(lambda: "Mousepad" in self.names() and self.names().count("FeatherPad") == 1, "the match")
         self.click_on(self.node("list item", "Mousepad"))
         self.click_on(self.node("push button", "Choose"))
         self.wait_for_front("^Ignore$")

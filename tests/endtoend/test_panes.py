@@ -330,9 +330,9 @@ class TheEffectsOfSettings(PaneCase):
         window = self.open_settings()
         self.wait_still(window)
         self.desktop.run(["xdotool", "windowmove", window, "90", "70"])
+        wait_until(lambda: self.desktop.geometry(window)[0] < 110, "the window in its new place")
         self.wait_still(window)
         place = self.desktop.geometry(window)[:2]
-        self.assertLess(place[0], 110)
 
         self.desktop.press("Right")
         self.wait_for_front("^Ignore$")

@@ -171,11 +171,11 @@ class IntoAFileManager(unittest.TestCase):
         desktop.start_app()
         manager = targets.FileManager(desktop)
         for names in (["poem.txt"], ["letter.odt", "Größe 漢字.png"]):
-            manager.select(names)
-            desktop.press("ctrl+c")
-            wait_until(lambda: any(names[0] in (record["text"] or "") for record in desktop.records()), "the copy")
-            desktop.copy("a later copy")
-            desktop.wait_for_text("a later copy")
+            manager.offer(names)
+            manager.copy(names)
+            wait_until(lambda: any(names[-1] in (text or "") for text in desktop.texts()[:1]), "the copy in the history")
+            desktop.copy(f"after {names[0]}")
+            wait_until(lambda: desktop.texts()[:1] == [f"after {names[0]}"], "a later copy on top")
 
             desktop.focus(manager.window)
             desktop.open_history()

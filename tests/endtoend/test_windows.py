@@ -88,7 +88,7 @@ class Windows:
         self.wait_for_front("^General$")
 
         self.desktop.focus(editor)
-        time.sleep(0.3)
+        time.sleep(1)  # the toolkit takes a loss of the keyboard for real after 0.4 s
         self.assertTrue(self.is_shown("^General$"))
         self.desktop.open_history()
 
