@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "Platform/qt/DataDevice.h"
+#include "Quillmonger/history/LargeJpeg.h"
 
 namespace platform {
 
@@ -23,8 +24,12 @@ std::optional<std::vector<std::uint32_t>> QtPictureReading::pixels(const foundat
   DataDevice device(picture);
   QImageReader reader(&device);
   reader.setAutoTransform(true);
-  // Never whole in memory then, unlike other kinds.
-  if (reader.format() == "jpeg") reader.setScaledSize({edge, edge});
+  // Not whole in memory then, unlike other kinds: its reader's limit is for the result alone.
+  if (reader.format() == "jpeg") {
+    const QSize size = reader.size();
+    if (quillmonger::isTooLargeJpeg(picture, double{1} * size.width() * size.height())) return std::nullopt;
+    reader.setScaledSize({edge, edge});
+  }
   const QImage whole = reader.read();
   if (whole.isNull()) return std::nullopt;
   const QImage image = whole.scaled(edge, edge, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)

@@ -6,12 +6,12 @@
 #include <array>
 #include <cmath>
 
+#include "Quillmonger/history/LargeJpeg.h"
+
 namespace quillmonger {
 
 namespace {
 
-// A JPEG picture is scaled as it is read, so that it takes time but no room.
-constexpr double mostJpegPixels = 256e6;
 constexpr double mostPixelsKept = 4e6;
 
 bool isKnownFormat(const QByteArray& format) {
@@ -19,11 +19,11 @@ bool isKnownFormat(const QByteArray& format) {
   return std::ranges::any_of(known, [&format](const char* name) { return format == name; });
 }
 
-// Other pictures are whole in memory before they are scaled: as large as the readers let them be, which count no less
-// than 32 bits for a pixel.
-bool isTooLarge(const QImageReader& reader, const QSize& size) {
+// A JPEG picture is scaled as it is read. Others are whole in memory before they are scaled: as large as the readers
+// let them be, which count no less than 32 bits for a pixel.
+bool isTooLarge(const foundation::Data& picture, const QImageReader& reader, const QSize& size) {
   const double pixels = double{1} * size.width() * size.height();
-  if (reader.format() == "jpeg") return pixels > mostJpegPixels;
+  if (reader.format() == "jpeg") return isTooLargeJpeg(picture, pixels);
   if (QImageReader::allocationLimit() == 0) return false;  // none
   constexpr double bytesInMegabyte = 1 << 20;
   const int bytesPerPixel = std::max(4, QImage::toPixelFormat(reader.imageFormat()).bitsPerPixel() / 8);
@@ -47,7 +47,7 @@ QImage decodePicture(const foundation::Data& picture, int width) {
   QImageReader reader(&buffer);
   if (!isKnownFormat(reader.format())) return {};
   const QSize size = reader.size();
-  if (size.isEmpty() || isTooLarge(reader, size)) return {};
+  if (size.isEmpty() || isTooLarge(picture, reader, size)) return {};
   reader.setAutoTransform(true);
   // The size is that before the picture is turned.
   const bool isOnItsSide = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);

@@ -84,4 +84,15 @@ TEST(QtPictureReading, RefusesAPictureThatWouldFillTheMemory) {
   EXPECT_FALSE(reading.pixels(foundation::Data(bytes), 20));
 }
 
+TEST(QtPictureReading, RefusesAProgressivePictureThatWouldFillTheMemory) {
+  const platform::QtPictureReading reading;
+  auto bytes = *encoded(filled(16, 16, Qt::red), "JPG").bytes();
+  const auto frame = bytes.find("\xFF\xC0");
+  ASSERT_NE(frame, std::string::npos);
+  bytes[frame + 1] = '\xC2';
+  bytes.replace(frame + 5, 4, "\x3E\x80\x3E\x80");  // 16,000 by 16,000
+
+  EXPECT_FALSE(reading.pixels(foundation::Data(bytes), 20));
+}
+
 }  // namespace

@@ -103,6 +103,16 @@ TEST_F(WithLittleMemory, ReadsALargerJpegPictureScaledDown) {
   EXPECT_EQ(decodePicture(encoded({2000, 2000}, "JPG"), 100).size(), QSize(100, 100));
 }
 
+TEST(PictureDecoding, RefusesAProgressivePictureThatWouldFillTheMemory) {
+  std::string bytes = *encoded({16, 16}, "JPG").bytes();
+  const auto frame = bytes.find("\xFF\xC0");
+  ASSERT_NE(frame, std::string::npos);
+  bytes[frame + 1] = '\xC2';
+  bytes.replace(frame + 5, 4, "\x3E\x80\x3E\x80");  // 16,000 by 16,000
+
+  EXPECT_TRUE(decodePicture(foundation::Data(bytes), 332).isNull());
+}
+
 TEST(PictureDecoding, RefusesACutOffPicture) {
   const std::string bytes = *encoded({1000, 1000}, "PNG").bytes();
 
