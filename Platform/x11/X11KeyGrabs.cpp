@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "Foundation/Output.h"
+#include "Platform/x11/X11Requests.h"
 #include "Platform/x11/Xkb.h"
 
 namespace platform {
@@ -100,26 +101,50 @@ void X11KeyGrabs::press(const xcb_key_press_event_t& event) {
   for (const auto& [identifier, chord] : m_chords) {
     const std::uint16_t state = m_modifiers.state(chord.serviceModifiers);
     if (chord.key != event.detail || (event.state & m_modifiers.chordMask()) != state) continue;
-    if (m_held.empty()) m_grabbingKey = event.detail;
-    const bool isNew = m_held.emplace(event.detail, chord).second;
+    if (m_held.contains(event.detail)) return;  // it repeats
+    const bool isRolled = !m_held.empty();
+    m_held.emplace(event.detail, chord);
     m_isChordHeld = true;
-    if (isNew) tell(chord, EventType::keyDown);
+    tell(chord, EventType::keyDown);
+    if (isRolled) keepKeyboard(event);
     return;
   }
 }
 
-// By the key alone: the modifiers may have been let go of before it. With the key that was pressed first the keyboard
-// goes back to the others, and the release of a second chord's key is never heard.
+// By the key alone: the modifiers may have been let go of before it.
 void X11KeyGrabs::release(const xcb_key_release_event_t& event) {
-  std::map<xcb_keycode_t, Chord> released;
-  if (event.detail == m_grabbingKey) {
-    released = std::exchange(m_held, {});
-  } else {
-    released.insert(m_held.extract(event.detail));
+  letGo(event.detail);
+  if (m_isKeyboardKept) letGoOfReleased(event.time);
+}
+
+// With the key that was pressed first, the server would give the keyboard back to the others, and what becomes of this
+// one would never be heard.
+void X11KeyGrabs::keepKeyboard(const xcb_key_press_event_t& rolled) {
+  const auto request =
+      xcb_grab_keyboard(m_connection, 0, m_root, rolled.time, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+  const ReplyPointer<xcb_grab_keyboard_reply_t> reply(xcb_grab_keyboard_reply(m_connection, request, nullptr));
+  if (!reply || reply->status != XCB_GRAB_STATUS_SUCCESS) return letGo(rolled.detail);
+  m_isKeyboardKept = true;
+  letGoOfReleased(rolled.time);
+}
+
+// A key that was let go of before the keyboard was kept may have been so unheard.
+void X11KeyGrabs::letGoOfReleased(xcb_timestamp_t time) {
+  const ReplyPointer<xcb_query_keymap_reply_t> down(
+      xcb_query_keymap_reply(m_connection, xcb_query_keymap(m_connection), nullptr));
+  const auto isDown = [&down](xcb_keycode_t key) { return down && (down->keys[key / 8] >> (key % 8U) & 1U) != 0; };
+  for (const auto& [key, chord] : std::map(m_held)) {
+    if (!isDown(key)) letGo(key);
   }
+  if (!m_held.empty()) return;
+  xcb_ungrab_keyboard(m_connection, time);
+  m_isKeyboardKept = false;
+}
+
+void X11KeyGrabs::letGo(xcb_keycode_t key) {
+  const auto held = m_held.extract(key);
   m_isChordHeld = !m_held.empty();
-  for (const auto& [key, chord] : released)
-    tell(chord, EventType::keyUp);
+  if (held) tell(held.mapped(), EventType::keyUp);
 }
 
 // The first hot key of the chord gets it.

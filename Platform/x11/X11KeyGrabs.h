@@ -43,6 +43,9 @@ class X11KeyGrabs final {
   void tell(const Chord& chord, keyboardshortcuts::EventType type) const;
   void press(const xcb_key_press_event_t& event);
   void release(const xcb_key_release_event_t& event);
+  void keepKeyboard(const xcb_key_press_event_t& rolled);
+  void letGoOfReleased(xcb_timestamp_t time);
+  void letGo(xcb_keycode_t key);
   void renew();
 
   xcb_connection_t* m_connection;
@@ -52,7 +55,7 @@ class X11KeyGrabs final {
   std::map<Identifier, Chord> m_chords;
   /// By its chord: while it is held, the chord can get another identifier or the same one anew.
   std::map<xcb_keycode_t, Chord> m_held;
-  xcb_keycode_t m_grabbingKey = 0;  // the one of `m_held` that was pressed first
+  bool m_isKeyboardKept = false;  // beyond the release of the first of several held keys
   std::atomic<bool> m_isChordHeld = false;
 };
 

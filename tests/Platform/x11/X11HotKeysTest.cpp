@@ -116,6 +116,26 @@ TEST_F(X11HotKeys, HoldNothingAfterTwoChordsThatWereRolled) {
   EXPECT_FALSE(m_hotKeys->isChordHeld());
 }
 
+TEST_F(X11HotKeys, HoldTheSecondOfTwoRolledChordsUntilItsOwnKeyIsLetGoOf) {
+  ASSERT_TRUE(m_hotKeys->registerHotKey(seven, virtualV, shiftAndCommand));
+  ASSERT_TRUE(m_hotKeys->registerHotKey(eight, virtualB, shiftAndCommand));
+  m_user.showWindow();
+  pressChord();
+  m_user.press(evdevB);
+  ASSERT_TRUE(isTold(2));
+
+  m_user.release(evdevV);
+  ASSERT_TRUE(isTold(3));
+  EXPECT_TRUE(m_hotKeys->isChordHeld());
+  m_user.release(evdevB);
+
+  ASSERT_TRUE(isTold(4));
+  EXPECT_EQ(m_told,
+            (Told{{7, EventType::keyDown}, {8, EventType::keyDown}, {7, EventType::keyUp}, {8, EventType::keyUp}}));
+  EXPECT_FALSE(m_hotKeys->isChordHeld());
+  EXPECT_TRUE(m_runLoop.runUntil([this] { return m_user.grabKeyboard(); })) << "the keyboard is free again";
+}
+
 TEST_F(X11HotKeys, WorkWhateverLockIsOn) {
   ASSERT_TRUE(m_hotKeys->registerHotKey(seven, virtualV, shiftAndCommand));
   m_user.tap(evdevCapsLock);
