@@ -33,9 +33,8 @@ class Updates::Configured final {
                    with.folder}),
         m_window(with.model, with.window),
         m_updater({with.defaults, with.runLoop, m_service, m_window,
-                   [&opening = with.opening, &runLoop = with.runLoop](const auto& file, const auto& failed) {
-                     opening.open(foundation::Url::fromFilePath(file.string()),
-                                  [&runLoop, failed] { runLoop.post(failed); });
+                   [&opening = with.opening](const auto& file, const auto& failed) {
+                     opening.open(foundation::Url::fromFilePath(file.string()), failed);
                    }}) {
     with.model.answered = [this](UpdateContent::Answer answer) { take(answer); };
   }
