@@ -283,7 +283,7 @@ TEST_F(X11PasteboardHostileOwner, ThatIsSlowComesAfterTheNewerContent) {
 TEST_F(X11PasteboardHostileOwner, ThatIsSlowLeavesNothingBehindOfWhatWaitedForIt) {
   expectGoodCopy();
   const std::size_t before = windowCount();
-  for (const std::size_t pieces : {5'000, 5'001, 5'002}) {
+  for (const std::size_t pieces : {5'000UL, 5'001UL, 5'002UL}) {
     HostileOwner slow(m_display.name());
     slow.answer("UTF8_STRING", streamOf(pieces, 40, true));
     slow.own();
