@@ -50,7 +50,7 @@ void PrivateSoundServer::startListening() {
 std::vector<std::int16_t> PrivateSoundServer::heard() const {
   const std::string bytes = m_listener->output();
   std::vector<std::int16_t> samples(bytes.size() / sizeof(std::int16_t));
-  std::memcpy(samples.data(), bytes.data(), samples.size() * sizeof(std::int16_t));
+  if (!samples.empty()) std::memcpy(samples.data(), bytes.data(), samples.size() * sizeof(std::int16_t));
   return samples;
 }
 

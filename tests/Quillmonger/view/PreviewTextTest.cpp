@@ -210,7 +210,7 @@ TEST_F(PreviewText, ScrollsWhileASelectionGoesOnBeyondItsEdge) {
   QTest::mousePress(&m_stage.view(), Qt::LeftButton, {}, start);
   QTest::mouseMove(&m_stage.view(), start + QPoint(40, 700));
   // Far enough for the piece in which it began to be gone.
-  EXPECT_TRUE(QTest::qWaitFor([&] { return contentY() > top + 3000; }));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return contentY() > top + 3000; }, 20'000));
   QTest::mouseMove(&m_stage.view(), start);
   const double end = contentY();
   QTest::mouseRelease(&m_stage.view(), Qt::LeftButton, {}, start);
