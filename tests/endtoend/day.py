@@ -148,7 +148,7 @@ class Day:
 
     def paste(self):
         program = self.chance.choice(self.programs)
-        word = self.chance.choice(list(self.texts))
+        word = self.chance.choice(self.words_in_history())
         if isinstance(program, targets.WordProcessor):
             # It asks for the types of the copy before the last one, without Quillmonger too.
             self.copy_text()
@@ -159,6 +159,11 @@ class Day:
             program.wait_for_text(before + self.texts[word])
         except AssertionError as difference:
             self.blame("wrong pastes", f"{type(program).__name__} {word}: {str(difference)[:200]}")
+
+    def words_in_history(self):
+        """The history has let go of the oldest items when it is full."""
+        first_words = {(text or "").partition(" ")[0] for text in self.desktop.texts()}
+        return [word for word in self.texts if word in first_words]
 
     def paste_picture(self):
         self.copy_picture()
