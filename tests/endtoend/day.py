@@ -121,7 +121,9 @@ class Day:
         try:
             wait_until(is_there, "the copy")
         except Timeout:
-            self.blame("lost copies", f"{copy.__qualname__} {word}")
+            # A program that is busy can miss a key.
+            was_made = word is None or word.encode() in self.desktop.clipboard()
+            self.blame("lost copies" if was_made else "copies not made", f"{copy.__qualname__} {word}")
         time.sleep(0.4)
         new = [record for record in self.desktop.records() if record["id"] not in before]
         if len(new) > 1:
@@ -142,6 +144,7 @@ class Day:
         """Puts a program in front, empty if that is easily had. Returns what stands in it."""
         self.desktop.focus(program.window)
         if isinstance(program, (targets.Terminal, targets.WordProcessor)):
+            program.text()  # what was changed before may be saved too late for it
             return program.text()
         self.desktop.press("ctrl+a", "Delete")
         return ""
@@ -216,7 +219,7 @@ class Day:
         self.memory.append(int(re.search(r"^Pss:\s+(\d+)", status, re.MULTILINE).group(1)) / 1000)
 
     def tell(self):
-        for what in ("copies", "secrets", "pastes", *FAULTS, "stalls"):
+        for what in ("copies", "copies not made", "secrets", "pastes", *FAULTS, "stalls"):
             print(f"{what:<16} {self.counts[what]}")
         tenth = max(1, len(self.memory) // 10)
         print(f"slowest answer   {self.slowest:.2f} s")
