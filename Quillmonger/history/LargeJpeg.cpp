@@ -1,7 +1,6 @@
 #include "Quillmonger/history/LargeJpeg.h"
 
 #include <cstddef>
-#include <cstdint>
 #include <optional>
 #include <string>
 
