@@ -80,8 +80,7 @@ constexpr auto entries = std::to_array<Entry>({
     {"dialog_deny_button", "Not Now", "deny button"},
     {"dialog_description",
      "The copy is on the clipboard: paste it with the application\u2019s own keys. To let Quillmonger do that, allow "
-     "it to "
-     "press keys in the system\u2019s settings, and paste again.",
+     "it to press keys in the system\u2019s settings, and paste again.",
      "description for the accessibility dialog"},
     {"dialog_message", "Quillmonger may not paste into other applications yet", "message for the accessibility dialog"},
     {"dialog_open_button", "Open System Settings", "open system settings button"},
