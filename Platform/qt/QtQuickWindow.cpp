@@ -101,9 +101,16 @@ int QtQuickWindow::shownWidth(double width) const {
 
 void QtQuickWindow::applySize(const QSize& size) {
   m_view->resize(size);
-  if (isPalette(m_description.kind)) return;
+  if (m_description.kind == Kind::plain) return m_view->setMinimumSize(size);
+  fixSize(size);
+}
+
+// Besides the user, this keeps off a window manager that tiles: it lets a window of fixed size float in its place.
+void QtQuickWindow::fixSize(const QSize& size) {
+  if (size == m_view->minimumSize()) return;
+  m_view->setMinimumSize(QSize());
+  m_view->setMaximumSize(size);
   m_view->setMinimumSize(size);
-  if (m_description.kind == Kind::dialog) m_view->setMaximumSize(size);
 }
 
 void QtQuickWindow::unload() { m_view.reset(); }
@@ -124,9 +131,11 @@ double QtQuickWindow::paneWidth() {
 void QtQuickWindow::setFrame(const quillmonger::WindowFrame& frame) {
   prepare();
   m_width = frame.width;
-  m_view->setGeometry(static_cast<int>(std::lround(frame.left)),
-                      static_cast<int>(std::lround(frame.bottom - frame.height)), shownWidth(frame.width),
-                      static_cast<int>(std::lround(frame.height)));
+  const QPoint corner(static_cast<int>(std::lround(frame.left)),
+                      static_cast<int>(std::lround(frame.bottom - frame.height)));
+  const QSize size(shownWidth(frame.width), static_cast<int>(std::lround(frame.height)));
+  if (isPalette(m_description.kind)) fixSize(size);
+  m_view->setGeometry(QRect(corner, size));
 }
 
 void QtQuickWindow::setAlpha(double alpha) {

@@ -43,6 +43,8 @@ class QtQuickWindow final : public quillmonger::Panel {
   };
 
   QtQuickWindow(Description description, quillmonger::WindowSystem& windowSystem);
+  QtQuickWindow(const QtQuickWindow&) = delete;
+  QtQuickWindow& operator=(const QtQuickWindow&) = delete;
   ~QtQuickWindow() override;
 
   /// Loads and paints the tree, unless that is done. Takes tens of milliseconds: called in an idle turn after the
@@ -73,6 +75,7 @@ class QtQuickWindow final : public quillmonger::Panel {
   void applyKind();
   void followSize();
   void applySize(const QSize& size);
+  void fixSize(const QSize& size);
   [[nodiscard]] int shownWidth(double width) const;
   void prepareToShow();
   [[nodiscard]] QScreen* screenInUse() const;

@@ -107,7 +107,7 @@ class Desktop:
             raise RuntimeError("Xvfb did not start")
         self.environment["DISPLAY"] = f":{number}"
         if self.window_manager:
-            self.spawn([self.window_manager])
+            self.spawn(self.window_manager.split())
             wait_until(self._has_window_manager, "the window manager", seconds=30.0)
 
     def replace_display(self):

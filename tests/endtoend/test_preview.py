@@ -137,6 +137,23 @@ class ThePreviewUnderXfwm4(Preview, RoadCase):
     window_manager = "xfwm4"
 
 
+class UnderATilingWindowManager(RoadCase):
+    window_manager = "i3 -c /dev/null"
+    preview = Preview.preview
+
+    def test_history_and_preview_float_in_their_size(self):
+        self.desktop.start_app()
+        self.open_gtk_editor()
+
+        history = self.desktop.open_history()
+        self.desktop.press("ctrl+p")
+        preview = wait_until(self.preview, "the preview")
+
+        wait_until(lambda: self.desktop.geometry(preview)[2:] == (PANE, 445), "the preview's size")
+        self.assertEqual(self.desktop.geometry(history)[2:], (600, 445))
+        self.assertEqual(self.desktop.focused(), history)
+
+
 class ThePreviewOnANarrowScreen(Preview, RoadCase):
     size = "1024x768x24"
 

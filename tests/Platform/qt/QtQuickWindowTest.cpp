@@ -111,6 +111,20 @@ TEST_F(QtQuickWindowTest, StandsWhereItsFrameIsSet) {
   EXPECT_EQ(m_window.frame(), (quillmonger::WindowFrame{40, 300, 310, 210}));
 }
 
+TEST_F(QtQuickWindowTest, APaletteIsOfFixedSizeSoThatNoWindowManagerTilesIt) {
+  m_window.prepare();
+  EXPECT_EQ(m_window.view()->minimumSize(), QSize(300, 200));
+  EXPECT_EQ(m_window.view()->maximumSize(), QSize(300, 200));
+
+  for (const QSize size : {QSize(310, 210), QSize(290, 190)}) {
+    m_window.setFrame({40, 300, static_cast<double>(size.width()), static_cast<double>(size.height())});
+
+    EXPECT_EQ(m_window.view()->minimumSize(), size);
+    EXPECT_EQ(m_window.view()->maximumSize(), size);
+    EXPECT_EQ(m_window.view()->size(), size);
+  }
+}
+
 TEST_F(QtQuickWindowTest, StandsBehindTheFrontWithoutAskingForIt) {
   m_window.setLevel(2);
 
