@@ -24,6 +24,8 @@ class FileUserDefaults final : public UserDefaults {
 
   /// `path`: the file; its folder is made when it is first written. `runLoop` must outlive this object.
   FileUserDefaults(const std::filesystem::path& path, foundation::RunLoop& runLoop);
+  FileUserDefaults(const FileUserDefaults&) = delete;
+  FileUserDefaults& operator=(const FileUserDefaults&) = delete;
   ~FileUserDefaults() override;
 
   /// Brings outstanding changes to the disk before it returns.

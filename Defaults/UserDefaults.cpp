@@ -13,6 +13,8 @@ thread_local bool isHoldingBack = false;
 
 struct HoldingBack {
   HoldingBack() { isHoldingBack = true; }
+  HoldingBack(const HoldingBack&) = delete;
+  HoldingBack& operator=(const HoldingBack&) = delete;
   ~HoldingBack() { isHoldingBack = false; }
 };
 

@@ -12,6 +12,7 @@ namespace {
 bool fits32Bits(std::int64_t number) { return number >= 0 && number <= std::numeric_limits<std::uint32_t>::max(); }
 
 // A copy is called: the action may end the hot key.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 EventStatus run(HotKey hotKey, EventType type) {
   const auto& action = type == EventType::keyDown ? hotKey.onKeyDown : hotKey.onKeyUp;
   action(hotKey.shortcut);

@@ -20,7 +20,7 @@ void LaunchAtLogin::setEnabled(bool isEnabled) {
 
 foundation::Outcome LaunchAtLogin::enable() {
   if (isEnabled()) {
-    const auto outcome = m_mainApp.unregisterApp();
+    auto outcome = m_mainApp.unregisterApp();
     if (!outcome) return outcome;
   }
   return m_mainApp.registerApp();

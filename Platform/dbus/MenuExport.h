@@ -32,6 +32,7 @@ class MenuExport final : public QDBusAbstractAdaptor {
   [[nodiscard]] QString status() const { return QStringLiteral("normal"); }
   [[nodiscard]] QStringList iconThemePath() const { return {}; }
 
+  // NOLINTNEXTLINE(readability-redundant-access-specifiers)
  public slots:
   // Capitals, names and types are the interface's.
   uint GetLayout(int parentId, int recursionDepth, const QStringList& propertyNames, platform::MenuNode& layout) const;

@@ -16,6 +16,8 @@ namespace platform {
 class StatusNotifierItem final : public quillmonger::StatusItem {
  public:
   StatusNotifierItem(const QDBusConnection& sessionBus, StatusNotifierBar::DrawingLookup drawings);
+  StatusNotifierItem(const StatusNotifierItem&) = delete;
+  StatusNotifierItem& operator=(const StatusNotifierItem&) = delete;
   ~StatusNotifierItem() override;
 
   [[nodiscard]] bool hasButton() const override { return m_sessionBus.isConnected(); }

@@ -16,7 +16,7 @@ NotifierPixmap pixmapOf(const QImage& picture) {
   const QImage image = picture.convertToFormat(QImage::Format_ARGB32);
   NotifierPixmap pixmap{image.width(), image.height(), QByteArray(image.sizeInBytes(), Qt::Uninitialized)};
   // Rows of four bytes a pixel have no padding.
-  qToBigEndian<quint32>(image.constBits(), image.width() * image.height(), pixmap.pixels.data());
+  qToBigEndian<quint32>(image.constBits(), image.sizeInBytes() / 4, pixmap.pixels.data());
   return pixmap;
 }
 

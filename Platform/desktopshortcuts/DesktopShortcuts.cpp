@@ -18,7 +18,7 @@ namespace platform {
 namespace {
 
 // Several times what a desktop writes.
-constexpr std::size_t largestFile = 256 * 1024;
+constexpr std::size_t largestFile = std::size_t{256} << 10;
 
 DesktopShortcuts::Entry entryOf(const Accelerator& accelerator, const KeyPlaces& places) {
   DesktopShortcuts::Entry entry{true, std::nullopt, accelerator.modifiers};

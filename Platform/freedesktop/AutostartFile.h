@@ -7,7 +7,8 @@
 
 #include "Foundation/Result.h"
 
-typedef struct _GKeyFile GKeyFile;  // as GLib declares it
+// As GLib declares it. NOLINTNEXTLINE(bugprone-reserved-identifier)
+typedef struct _GKeyFile GKeyFile;
 
 namespace platform {
 
@@ -18,8 +19,11 @@ class AutostartFile final {
   explicit AutostartFile(const std::filesystem::path& program);
   /// What lies at `path`; absent when that can't be read as an entry.
   [[nodiscard]] static std::optional<AutostartFile> read(const std::filesystem::path& path);
-  ~AutostartFile();
   AutostartFile(AutostartFile&&) noexcept;
+  AutostartFile(const AutostartFile&) = delete;
+  AutostartFile& operator=(const AutostartFile&) = delete;
+  AutostartFile& operator=(AutostartFile&&) = delete;
+  ~AutostartFile();
 
   /// Whether the present desktop (XDG_CURRENT_DESKTOP) starts what it names.
   [[nodiscard]] bool isEnabled() const;

@@ -78,7 +78,7 @@ std::shared_ptr<const std::string> ServedTypes::bytes(std::string_view name) con
   const auto found = m_sources.find(name);
   if (found == m_sources.end()) return nullptr;
   if (name == Table::passwordHint) return std::make_shared<const std::string>(Table::passwordHintValue);
-  const auto bytes = found->second.data ? found->second.data->bytes() : nullptr;
+  auto bytes = found->second.data ? found->second.data->bytes() : nullptr;
   if (!bytes || name != Table::latin1Name) return bytes;
   return std::make_shared<const std::string>(latin1FromUtf8(foundation::toValidUtf8(*bytes)));
 }

@@ -13,6 +13,8 @@ namespace platform {
 class QtApplication final : public quillmonger::Application {
  public:
   explicit QtApplication(quillmonger::WindowSystem& windowSystem);
+  QtApplication(const QtApplication&) = delete;
+  QtApplication& operator=(const QtApplication&) = delete;
   ~QtApplication() override;
 
   void setActivationPolicy(ActivationPolicy policy) override;

@@ -10,6 +10,8 @@ namespace platform {
 class QtBackgroundQueue final : public foundation::BackgroundQueue {
  public:
   QtBackgroundQueue();
+  QtBackgroundQueue(const QtBackgroundQueue&) = delete;
+  QtBackgroundQueue& operator=(const QtBackgroundQueue&) = delete;
   /// Waits until all work is done.
   ~QtBackgroundQueue() override;
 

@@ -20,6 +20,8 @@ namespace platform {
 class QtRecordedEvents final : public QObject, public keyboardshortcuts::RecordedEvents {
  public:
   QtRecordedEvents();
+  QtRecordedEvents(const QtRecordedEvents&) = delete;
+  QtRecordedEvents& operator=(const QtRecordedEvents&) = delete;
   ~QtRecordedEvents() override;
 
   /// Without a window that has the keyboard nothing is told.

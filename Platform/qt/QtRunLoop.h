@@ -14,6 +14,8 @@ namespace platform {
 class QtRunLoop final : public foundation::RunLoop {
  public:
   QtRunLoop();
+  QtRunLoop(const QtRunLoop&) = delete;
+  QtRunLoop& operator=(const QtRunLoop&) = delete;
   ~QtRunLoop() override;
 
   void post(Task task) override;

@@ -16,6 +16,8 @@ class SoundProcess final : public quillmonger::AudioPlayer {
   [[nodiscard]] static quillmonger::AudioPlayerFactory factory(const std::string& playerPath);
 
   SoundProcess(const std::string& playerPath, int rate, int channels, std::string samples);
+  SoundProcess(const SoundProcess&) = delete;
+  SoundProcess& operator=(const SoundProcess&) = delete;
   ~SoundProcess() override;
 
   void setVolume(float volume) override { m_volume = volume; }

@@ -49,7 +49,7 @@ VideoProcess::VideoProcess(const std::string& decoderPath, const std::string& fi
       m_runLoop(runLoop),
       m_pictureSize(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height) * bytesOfAPixel) {
   // All pictures come into the same place.
-  m_bytes.reserve(static_cast<qsizetype>(sizeof(Head) + m_pictureSize));
+  m_bytes.reserve(qsizetype{sizeof(Head)} + static_cast<qsizetype>(m_pictureSize));
   m_process.setProgram(QString::fromStdString(decoderPath));
   m_process.setArguments({QString::fromStdString(file), QString::number(size.width), QString::number(size.height)});
   m_process.setStandardErrorFile(QProcess::nullDevice());

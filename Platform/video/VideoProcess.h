@@ -22,6 +22,8 @@ class VideoProcess final : public quillmonger::VideoLooper {
 
   VideoProcess(const std::string& decoderPath, const std::string& file, quillmonger::VideoSize size,
                quillmonger::VideoReceiver receiver, foundation::RunLoop& runLoop);
+  VideoProcess(const VideoProcess&) = delete;
+  VideoProcess& operator=(const VideoProcess&) = delete;
   ~VideoProcess() override;
 
   void play() override;

@@ -242,7 +242,8 @@ void X11ClipboardSession::takeOwn(Number number, Items items) {
     found->second.isFrontmostKnown = true;
     completeIfReady(number);
   });
-  build(number, typesOf(items), [items = std::move(items)] { return items; });
+  auto types = typesOf(items);
+  build(number, std::move(types), [items = std::move(items)] { return items; });
 }
 
 void X11ClipboardSession::finishReading(Number number, SelectionReading::Result result) {

@@ -19,6 +19,8 @@ class X11HotKeys final : public keyboardshortcuts::HotKeyService {
   /// Null when there is no X server. `runLoop` outlives the service.
   [[nodiscard]] static std::unique_ptr<X11HotKeys> connect(foundation::RunLoop& runLoop,
                                                            const std::string& display = {});
+  X11HotKeys(const X11HotKeys&) = delete;
+  X11HotKeys& operator=(const X11HotKeys&) = delete;
   ~X11HotKeys() override;
 
   void setHotKeyHandler(HotKeyHandler handler) override;

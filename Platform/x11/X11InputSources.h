@@ -19,6 +19,8 @@ class X11InputSources final : public sauce::InputSourceService {
   /// Reads the keymap, and waits for the server. Null when there is no X server. `runLoop` outlives the service.
   [[nodiscard]] static std::unique_ptr<X11InputSources> connect(foundation::RunLoop& runLoop,
                                                                 const std::string& display = {});
+  X11InputSources(const X11InputSources&) = delete;
+  X11InputSources& operator=(const X11InputSources&) = delete;
   ~X11InputSources() override;
 
   [[nodiscard]] std::vector<sauce::InputSource> enabledInputSources() const override;

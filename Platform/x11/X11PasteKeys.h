@@ -38,6 +38,8 @@ class X11PasteKeys final : public quillmonger::PasteKeyPosting {
   [[nodiscard]] static std::unique_ptr<X11PasteKeys> connect(WrittenWindow writtenWindow, TerminalPredicate isTerminal,
                                                              ChordPredicate isChordHeld, const Patience& patience,
                                                              const std::string& display = {});
+  X11PasteKeys(const X11PasteKeys&) = delete;
+  X11PasteKeys& operator=(const X11PasteKeys&) = delete;
   ~X11PasteKeys() override;
 
   void postPasteKeyEvents(std::uint16_t keyCode) override;

@@ -30,6 +30,8 @@ class X11Pasteboard final : public quillmonger::Pasteboard {
                                                               const quillmonger::TypeFilter& filter,
                                                               const std::string& display = {},
                                                               const std::string& selection = "CLIPBOARD");
+  X11Pasteboard(const X11Pasteboard&) = delete;
+  X11Pasteboard& operator=(const X11Pasteboard&) = delete;
   ~X11Pasteboard() override;
 
   /// The window that was in front when the present content came. For what this program wrote, which it does while its

@@ -16,6 +16,8 @@ class X11WindowSystem final : public quillmonger::WindowSystem, public quillmong
  public:
   /// Null when there is no X server.
   [[nodiscard]] static std::unique_ptr<X11WindowSystem> connect(const std::string& display = {});
+  X11WindowSystem(const X11WindowSystem&) = delete;
+  X11WindowSystem& operator=(const X11WindowSystem&) = delete;
   ~X11WindowSystem() override;
 
   [[nodiscard]] bool blendsTransparency() const override;

@@ -6,7 +6,7 @@ namespace quillmonger {
 
 namespace {
 
-constexpr std::size_t partSize = 256 * 1024;
+constexpr std::size_t partSize = std::size_t{256} << 10;
 
 // In parts, so that bytes which rest in the store are not brought into memory as a whole.
 void append(foundation::Md5& digest, const foundation::Data& data) {

@@ -128,7 +128,8 @@ void SqliteStoreContext::insert(const Record& record) {
 
 void SqliteStoreContext::remove(const Record& record) {
   if (!record->isIn(*this)) return;
-  const Record held = record;  // the index may hold the reference that was passed
+  // The index may hold the reference that was passed. NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+  const Record held = record;
   const auto [first, last] = m_byDigest.equal_range(held.get());
   m_byDigest.erase(std::find(first, last, held.get()));
   m_records.erase(find(*held));

@@ -28,8 +28,10 @@ class SqliteStoreContext final : public StoreContext, private ClipboardItem::Sto
   /// exactly as it is.
   [[nodiscard]] static foundation::Result<std::unique_ptr<SqliteStoreContext>> open(const std::filesystem::path& folder,
                                                                                     foundation::RunLoop& runLoop);
+  SqliteStoreContext(const SqliteStoreContext&) = delete;
+  SqliteStoreContext& operator=(const SqliteStoreContext&) = delete;
   /// Finishes what was handed to the writer; what is still pending is lost unless `save` came before.
-  ~SqliteStoreContext();
+  ~SqliteStoreContext() override;
 
   foundation::Result<Record> fetchByDigest(std::string_view hashedData) override;
   foundation::Result<Record> fetchById(const foundation::Uuid& id) override;

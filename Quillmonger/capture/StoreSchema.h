@@ -9,7 +9,7 @@
 namespace quillmonger::storeschema {
 
 /// Values above `foundation::Data::residentLimit` lie in chunks of this size, the last one holding the rest.
-inline constexpr std::size_t chunkSize = 256 * 1024;
+inline constexpr std::size_t chunkSize = std::size_t{256} << 10;
 /// A chunk's key is its blob's number and its place: blob * chunksPerBlob + sequence.
 inline constexpr std::int64_t chunksPerBlob = 1 << 20;
 inline constexpr std::int64_t maximumBlob = (std::int64_t{1} << 42) - 1;

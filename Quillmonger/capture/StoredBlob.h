@@ -13,6 +13,8 @@ namespace quillmonger {
 class StoredBlob final : public foundation::DataSource {
  public:
   StoredBlob(std::shared_ptr<StoreBlobs> blobs, std::int64_t number, std::size_t size);
+  StoredBlob(const StoredBlob&) = delete;
+  StoredBlob& operator=(const StoredBlob&) = delete;
   ~StoredBlob() override;
 
   [[nodiscard]] std::optional<std::string> read(std::size_t offset, std::size_t length) const override;

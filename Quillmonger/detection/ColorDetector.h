@@ -19,6 +19,8 @@ class ColorDetector final : public OculetDetectable {
 
   /// Compiles the expressions, once for all texts.
   ColorDetector();
+  ColorDetector(const ColorDetector&) = delete;
+  ColorDetector& operator=(const ColorDetector&) = delete;
   ~ColorDetector() override;
 
   /// A component of rgb() that is no 64-bit integer, and a component that rounding takes out of 0 to 1, stop the

@@ -48,6 +48,8 @@ class ClipboardItemViewModel final : public Searchable, public std::enable_share
   enum class Invert : bool { no, yes };
 
   ClipboardItemViewModel(std::shared_ptr<ClipboardItem> item, std::shared_ptr<const Services> services);
+  ClipboardItemViewModel(const ClipboardItemViewModel&) = delete;
+  ClipboardItemViewModel& operator=(const ClipboardItemViewModel&) = delete;
   /// Writes "ClipboardItemViewModel: deinit " and the `id` to standard output.
   ~ClipboardItemViewModel() override;
 

@@ -49,6 +49,8 @@ class ClipboardViewModel final : public BaseEventManager {
 
   /// All collaborators outlive this object. Loads the history from the store.
   explicit ClipboardViewModel(const Collaborators& collaborators);
+  ClipboardViewModel(const ClipboardViewModel&) = delete;
+  ClipboardViewModel& operator=(const ClipboardViewModel&) = delete;
   ~ClipboardViewModel() override;
 
   /// What the list shows, in its order. Never null.

@@ -28,6 +28,8 @@ class QtAlertSheet final : public foundation::AlertSheet {
 
   /// All that `surroundings` names outlives this object.
   explicit QtAlertSheet(Surroundings surroundings);
+  QtAlertSheet(const QtAlertSheet&) = delete;
+  QtAlertSheet& operator=(const QtAlertSheet&) = delete;
   ~QtAlertSheet() override;
 
   void begin(Content content, Completion completion) override;

@@ -19,6 +19,7 @@ class SearchViewModel final {
   SearchViewModel(foundation::RunLoop& runLoop, defaults::Defaults& defaults);
   SearchViewModel(const SearchViewModel&) = delete;
   SearchViewModel& operator=(const SearchViewModel&) = delete;
+  ~SearchViewModel() = default;
 
   /// The text of the field, at every keystroke. The field writes it, and so does whoever opens the window.
   [[nodiscard]] foundation::Published<std::string>& searchTerm() { return m_searchTerm; }

@@ -84,6 +84,7 @@ class Quillmonger final {
   explicit Quillmonger(const Platform& platform);
   Quillmonger(const Quillmonger&) = delete;
   Quillmonger& operator=(const Quillmonger&) = delete;
+  ~Quillmonger() = default;
 
   [[nodiscard]] ClipboardManager& clipboardManager() { return m_clipboardManager; }
   [[nodiscard]] const std::shared_ptr<const OculetManager>& oculetManager() const { return m_oculetManager; }

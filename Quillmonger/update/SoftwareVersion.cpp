@@ -56,7 +56,7 @@ std::optional<SoftwareVersion> SoftwareVersion::parse(std::string_view text) {
 }
 
 std::strong_ordering SoftwareVersion::operator<=>(const SoftwareVersion& other) const {
-  if (const auto order = m_numbers <=> other.m_numbers; order != 0) return order;
+  if (const auto order = m_numbers <=> other.m_numbers; std::is_neq(order)) return order;
   if (m_preRelease.empty() || other.m_preRelease.empty()) return m_preRelease.empty() <=> other.m_preRelease.empty();
   return m_preRelease <=> other.m_preRelease;
 }

@@ -29,6 +29,7 @@ class AppPickerViewModel final {
   AppPickerViewModel(const Collaborators& collaborators, AppPicker::Completion completion);
   AppPickerViewModel(const AppPickerViewModel&) = delete;
   AppPickerViewModel& operator=(const AppPickerViewModel&) = delete;
+  ~AppPickerViewModel() = default;
 
   /// Whether the applications are still being read.
   [[nodiscard]] foundation::Published<bool>& isLoading() { return m_isLoading; }

@@ -27,6 +27,7 @@ class IgnoreAppsViewModel final {
   explicit IgnoreAppsViewModel(const Collaborators& collaborators);
   IgnoreAppsViewModel(const IgnoreAppsViewModel&) = delete;
   IgnoreAppsViewModel& operator=(const IgnoreAppsViewModel&) = delete;
+  ~IgnoreAppsViewModel() = default;
 
   /// The rows, in the order in which they were added.
   [[nodiscard]] foundation::Published<std::vector<SystemApp>>& apps() { return m_apps; }

@@ -30,6 +30,8 @@ class AppPickerWindow final : public AppPicker {
 
   /// All that `surroundings` names outlives this object.
   explicit AppPickerWindow(Surroundings surroundings);
+  AppPickerWindow(const AppPickerWindow&) = delete;
+  AppPickerWindow& operator=(const AppPickerWindow&) = delete;
   ~AppPickerWindow() override;
 
   /// While the window is up it only comes to the front, and nothing is chosen for the later call.

@@ -54,6 +54,8 @@ class Composition final {
   /// `arguments`: the program's, without its name. Opens the store and loads the history. A display without what the
   /// program needs of it stops the process with a message that says so.
   Composition(const platform::XdgFolders& folders, const std::vector<std::string>& arguments);
+  Composition(const Composition&) = delete;
+  Composition& operator=(const Composition&) = delete;
   ~Composition();
 
   /// Launching has finished: starts, says what is in use, and takes commands from then on.

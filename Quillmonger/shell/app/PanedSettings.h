@@ -38,6 +38,8 @@ class PanedSettings final : public SettingsWindowController {
 
   /// All that is named here outlives the settings.
   explicit PanedSettings(const Surroundings& surroundings);
+  PanedSettings(const PanedSettings&) = delete;
+  PanedSettings& operator=(const PanedSettings&) = delete;
   ~PanedSettings() override { close(); }
 
   /// Before the window is first shown. All of it is there until `close`.

@@ -27,6 +27,8 @@ class Updates final {
 
   /// All collaborators outlive this object.
   explicit Updates(const Collaborators& collaborators);
+  Updates(const Updates&) = delete;
+  Updates& operator=(const Updates&) = delete;
   ~Updates();
 
   [[nodiscard]] Updater& updater();
