@@ -25,10 +25,10 @@ class PortalPreferences final : public QObject, public quillmonger::DesktopPrefe
   }
   [[nodiscard]] foundation::Published<bool>& reducesMotion() override { return m_reducesMotion; }
 
-  // NOLINTNEXTLINE(readability-redundant-access-specifiers)
  private slots:
   void take(const QString& settingNamespace, const QString& key, const QDBusVariant& value);
 
+  // NOLINTNEXTLINE(readability-redundant-access-specifiers)
  private:
   void ask();
   void listenTo(const QString& portal);
